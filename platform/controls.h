@@ -1,0 +1,159 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "platform/color.h"
+#include "platform/widget.h"
+
+namespace tarnwick {
+
+/// The outline of a rectangle, drawn under the images.
+class Outline : public Widget {
+  public:
+    explicit Outline(Form& form) : Widget(form, WidgetKind::outline) {}
+
+    Color border_color() const { return border_color_; }
+    void set_border_color(Color color);
+
+  private:
+    Color border_color_ = black;
+};
+
+enum class Alignment { left, right, center };
+
+/// How a label's text looks: a size in points (0 is the system's), bold or not.
+struct Font {
+    float points = 0;
+    bool bold = false;
+};
+
+/// A line or two of text. Without colours of its own it takes those of the desktop.
+class Label : public Widget {
+  public:
+    explicit Label(Form& form) : Widget(form, WidgetKind::label) {}
+
+    const std::string& caption() const { return caption_; }
+    void set_caption(const std::string& caption);
+
+    Alignment alignment() const { return alignment_; }
+    void set_alignment(Alignment alignment) { alignment_ = alignment; }
+    const Font& font() const { return font_; }
+    void set_font(const Font& font) { font_ = font; }
+
+    bool has_colors() const { return has_colors_; }
+    Color text_color() const { return text_color_; }
+    void set_text_color(Color color);
+    Color back_color() const { return back_color_; }
+    void set_back_color(Color color);
+
+  private:
+    std::string caption_;
+    Font font_;
+    Alignment alignment_ = Alignment::left;
+    Color text_color_ = black;
+    Color back_color_ = black;
+    bool has_colors_ = false;
+};
+
+/// A box with a caption around other widgets.
+class Frame : public Widget {
+  public:
+    explicit Frame(Form& form) : Widget(form, WidgetKind::frame) {}
+
+    const std::string& caption() const { return caption_; }
+    void set_caption(const std::string& caption);
+
+  private:
+    std::string caption_;
+};
+
+/// A push button. Enter chooses the default one, Escape the cancelling one.
+class Button : public Widget {
+  public:
+    explicit Button(Form& form) : Widget(form, WidgetKind::button) {}
+
+    const std::string& caption() const { return caption_; }
+    void set_caption(const std::string& caption);
+    bool is_default() const { return is_default_; }
+    void set_default(bool is_default) { is_default_ = is_default; }
+    bool is_cancel() const { return is_cancel_; }
+    void set_cancel(bool is_cancel) { is_cancel_ = is_cancel; }
+
+    std::function<void()> on_click;
+    /// What a desktop calls when the user pushes the button.
+    void click();
+
+  private:
+    std::string caption_;
+    bool is_default_ = false;
+    bool is_cancel_ = false;
+};
+
+/// A box that is checked or not.
+class CheckBox : public Widget {
+  public:
+    explicit CheckBox(Form& form) : Widget(form, WidgetKind::check_box) {}
+
+    const std::string& caption() const { return caption_; }
+    void set_caption(const std::string& caption);
+    bool checked() const { return checked_; }
+    void set_checked(bool checked);
+
+  private:
+    std::string caption_;
+    bool checked_ = false;
+};
+
+/// One of several choices; putting one on puts the others of its family off (see choose_option).
+class OptionButton : public Widget {
+  public:
+    explicit OptionButton(Form& form) : Widget(form, WidgetKind::option_button) {}
+
+    const std::string& caption() const { return caption_; }
+    void set_caption(const std::string& caption);
+    bool on() const { return on_; }
+    void set_on(bool on);
+
+    std::function<void()> on_click;
+    /// What a desktop calls when the user chooses the option.
+    void click();
+
+  private:
+    std::string caption_;
+    bool on_ = false;
+};
+
+/// One line of text that the user can edit.
+class TextBox : public Widget {
+  public:
+    explicit TextBox(Form& form) : Widget(form, WidgetKind::text_box) {}
+
+    const std::string& text() const { return text_; }
+    /// Sets the text as the program does: no on_change.
+    void set_text(const std::string& text);
+
+    bool has_colors() const { return has_colors_; }
+    Color back_color() const { return back_color_; }
+    Color text_color() const { return text_color_; }
+    /// Colours of the box; a box with both the same is a swatch.
+    void set_colors(Color back, Color text);
+
+    std::function<void()> on_change;
+    std::function<void()> on_click;
+    /// A key went down in the box; true means that it is dealt with.
+    std::function<bool(int key_code)> on_key_down;
+
+    /// What a desktop calls when the user types, clicks, or presses a key.
+    void type(const std::string& text);
+    void click();
+    bool key_down(int key_code);
+
+  private:
+    std::string text_;
+    Color back_color_ = black;
+    Color text_color_ = black;
+    bool has_colors_ = false;
+};
+
+}  // namespace tarnwick

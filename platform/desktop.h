@@ -1,0 +1,76 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/color.h"
+#include "platform/geometry.h"
+#include "platform/message.h"
+
+namespace tarnwick {
+
+class Form;
+class FormView;
+
+/// What carries the windows out: the real desktop, or one that keeps them in memory. There is one at a time.
+class Desktop {
+  public:
+    Desktop() = default;
+    virtual ~Desktop() = default;
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+
+    /// The part of the screen that windows may cover, in pixels.
+    virtual PixelSize screen_size() const = 0;
+    /// A clock that never goes back, in milliseconds.
+    virtual std::int64_t now() const = 0;
+    /// Today's date as the user's locale writes it short.
+    virtual std::string short_date() const = 0;
+    /// The longest time between the presses of a two-click event, in milliseconds.
+    virtual std::int64_t double_click_time() const { return 500; }
+
+    /// The view of a window that is being loaded; may be null.
+    virtual std::unique_ptr<FormView> make_view(Form& form) = 0;
+    /// A timer has started a new period.
+    virtual void timers_changed() {}
+    /// A window was shown or unloaded.
+    virtual void windows_changed() {}
+
+    /// Lets the player pick a colour; nothing when the player cancels.
+    virtual std::optional<Color> pick_color() = 0;
+    /// Shows a help file, looked for where the program's files are; false when it is not found.
+    virtual bool show_help(const std::string& file_name) = 0;
+
+    /// Shows the message and waits for its answer.
+    MessageAnswer message_box(const Message& message);
+
+    /// Runs the handler of one event. A failure that leaves it is told to the player in one message, and the
+    /// program goes on. Timers do not tick meanwhile.
+    void event(const std::function<void()>& handler);
+    bool in_event() const { return depth_ > 0; }
+    /// Runs an action after the current event, or at once where there is none.
+    void after_event(std::function<void()> action);
+
+  protected:
+    virtual MessageAnswer show_message(const Message& message) = 0;
+    /// An event has ended.
+    virtual void event_ended() {}
+
+  private:
+    void run_guarded(const std::function<void()>& handler);
+    void finish_event();
+
+    std::deque<std::function<void()>> pending_;
+    int depth_ = 0;
+};
+
+/// The desktop in use. Throws std::logic_error where there is none.
+Desktop& desktop();
+/// Makes this the desktop in use; null for none.
+void use_desktop(Desktop* desktop);
+
+}  // namespace tarnwick

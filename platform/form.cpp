@@ -1,0 +1,162 @@
+#include "platform/form.h"
+
+#include <exception>
+#include <utility>
+
+#include "platform/desktop.h"
+#include "platform/timer.h"
+
+namespace tarnwick {
+namespace {
+
+// Runs an action at the end of a block, whichever way it is left.
+template <class Action>
+class Finally {
+  public:
+    explicit Finally(Action action) : action_(std::move(action)) {}
+    ~Finally() { action_(); }
+    Finally(const Finally&) = delete;
+    Finally& operator=(const Finally&) = delete;
+
+  private:
+    Action action_;
+};
+
+}  // namespace
+
+PixelSize frame_of(const Form& form) {
+    constexpr PixelSize sizable_with_menu{8, 50};
+    constexpr PixelSize dialog{6, 28};
+    return form.border() == FormBorder::sizable ? sizable_with_menu : dialog;
+}
+
+Form::Form(std::string name) : name_(std::move(name)), mouse_(*this) {}
+Form::~Form() = default;
+
+std::uint64_t Form::add_widget(Widget& widget) {
+    widgets_.push_back(&widget);
+    return next_stacking();
+}
+
+void Form::run(const std::function<void()>& handler) const {
+    if (handler) handler();
+}
+
+void Form::changed() {
+    if (view_) view_->form_changed();
+}
+
+void Form::load() {
+    if (loaded_) return;
+    loaded_ = true;
+    enabled_ = true;
+    state_ = WindowState::normal;
+    design();
+    view_ = desktop().make_view(*this);
+    timer_queue().start(*this);
+    loading_ = true;
+    const Finally loaded([this] { loading_ = false; });
+    run(on_load);
+}
+
+void Form::show() {
+    // A window that could not fill itself is shown as far as it came: it must be there to be closed again.
+    std::exception_ptr failure;
+    try {
+        load();
+    } catch (...) {
+        failure = std::current_exception();
+    }
+    if (visible_) {
+        raise();
+    } else {
+        visible_ = true;
+        changed();
+        desktop().windows_changed();
+        run(on_resize);
+    }
+    if (failure) std::rethrow_exception(failure);
+}
+
+void Form::unload() {
+    if (!loaded_ || unloading_) return;
+    unloading_ = true;
+    const Finally forget([this] {
+        mouse_.cancel();
+        loaded_ = false;
+        visible_ = false;
+        unloading_ = false;
+        view_.reset();
+        desktop().windows_changed();
+    });
+    run(on_unload);
+}
+
+void Form::close() {
+    if (accepts_input()) desktop().event([this] { unload(); });
+}
+
+void Form::set_enabled(bool enabled) {
+    if (!loaded_ || enabled == enabled_) return;
+    enabled_ = enabled;
+    if (!enabled) mouse_.cancel();
+    changed();
+}
+
+void Form::raise() {
+    if (view_ && visible_) view_->raise();
+}
+
+void Form::set_caption(const std::string& caption) {
+    caption_ = caption;
+    changed();
+}
+
+void Form::set_back_color(Color color) {
+    has_back_color_ = true;
+    back_color_ = color;
+    changed();
+}
+
+PixelSize Form::client_size() const {
+    const PixelSize frame = frame_of(*this);
+    return {outer_.width - frame.width, outer_.height - frame.height};
+}
+
+void Form::resize(PixelSize outer) {
+    if (outer == outer_) return;
+    outer_ = outer;
+    changed();
+    if (loaded_ && (visible_ || loading_)) run(on_resize);
+}
+
+void Form::resize_client(PixelSize client) {
+    const PixelSize frame = frame_of(*this);
+    resize({client.width + frame.width, client.height + frame.height});
+}
+
+void Form::user_resized(PixelSize client) {
+    if (!loaded_ || state_ == WindowState::minimized || client == client_size()) return;
+    const PixelSize frame = frame_of(*this);
+    outer_ = {client.width + frame.width, client.height + frame.height};
+    if (visible_ && on_resize) desktop().event(on_resize);
+}
+
+void Form::user_changed_state(WindowState state) {
+    if (!loaded_ || state == state_) return;
+    state_ = state;
+    if (state == WindowState::minimized) mouse_.cancel();
+    if (visible_ && on_resize) desktop().event(on_resize);
+}
+
+bool Form::key_down(int key_code) {
+    if (!accepts_input() || !on_key_down) return false;
+    desktop().event([&] { on_key_down(key_code); });
+    return true;
+}
+
+void Form::click_background() {
+    if (accepts_input() && on_click) desktop().event(on_click);
+}
+
+}  // namespace tarnwick

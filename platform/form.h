@@ -1,0 +1,150 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/color.h"
+#include "platform/geometry.h"
+#include "platform/menu.h"
+#include "platform/mouse.h"
+#include "platform/widget.h"
+
+namespace tarnwick {
+
+/// What a desktop shows of one window. A window without a view (headless, or not loaded) is only kept in memory.
+class FormView {
+  public:
+    virtual ~FormView() = default;
+    /// A widget looks different, or lies elsewhere: it was seen at `before`.
+    virtual void widget_changed(const Widget& widget, const Rect& before) = 0;
+    /// The window was shown or hidden, enabled or disabled, resized or recoloured by the program.
+    virtual void form_changed() = 0;
+    virtual void menu_changed() = 0;
+    virtual void raise() = 0;
+    /// The lifted images were taken up, moved, or put down.
+    virtual void drag_changed() = 0;
+};
+
+enum class WindowState { normal, minimized, maximized };
+
+/// How the user may handle the window from outside.
+enum class FormBorder { sizable, fixed_dialog, tool_dialog };
+
+/// A window: first only a name, then loaded (its widgets as stored, then on_load), shown, and unloaded.
+/// What a window consists of is told by a subclass, what it does by the handlers attached to it.
+class Form {
+  public:
+    explicit Form(std::string name);
+    virtual ~Form();
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+
+    const std::string& name() const { return name_; }
+
+    std::function<void()> on_load;
+    std::function<void()> on_resize;
+    std::function<void()> on_unload;
+    /// The user clicked the window's own background.
+    std::function<void()> on_click;
+    std::function<void(int key_code)> on_key_down;
+
+    bool loaded() const { return loaded_; }
+    bool visible() const { return visible_; }
+    /// Creates the window as stored and runs on_load; nothing when it is loaded already.
+    void load();
+    /// Shows the window without waiting for it, loading it first. The first display runs on_resize.
+    void show();
+    /// Runs on_unload, then forgets the window; nothing when it is not loaded.
+    void unload();
+    /// The close box: unloads the window unless it is disabled.
+    void close();
+
+    bool enabled() const { return enabled_; }
+    /// A disabled window is drawn but takes no input at all. Does nothing to a window that is not loaded.
+    void set_enabled(bool enabled);
+    bool accepts_input() const { return loaded_ && visible_ && enabled_; }
+    /// Brings the window to the front of the screen and gives it the keyboard.
+    void raise();
+
+    const std::string& caption() const { return caption_; }
+    void set_caption(const std::string& caption);
+    FormBorder border() const { return border_; }
+    void set_border(FormBorder border) { border_ = border; }
+    Color back_color() const { return back_color_; }
+    bool has_back_color() const { return has_back_color_; }
+    void set_back_color(Color color);
+    /// Whether the window wants to be centred on the screen (else the platform chooses its place).
+    bool centered() const { return centered_; }
+    void set_centered(bool centered) { centered_ = centered; }
+
+    /// Size of the window with its frame, in twips.
+    int width() const { return outer_.width * twips_per_pixel; }
+    int height() const { return outer_.height * twips_per_pixel; }
+    PixelSize outer_size() const { return outer_; }
+    /// Size inside frame and menu bar, in pixels.
+    PixelSize client_size() const;
+    /// Resizes the window with its frame; pixels. A loaded window runs on_resize when the size changes.
+    void resize(PixelSize outer);
+    /// Resizes the window so that its client area gets this size in pixels.
+    void resize_client(PixelSize client);
+    WindowState state() const { return state_; }
+
+    /// What a desktop calls when the user has resized the window (client area, pixels) or changed its state.
+    void user_resized(PixelSize client);
+    void user_changed_state(WindowState state);
+    /// What a desktop calls for a key. True when the window has a handler for keys and took it.
+    bool key_down(int key_code);
+    void click_background();
+    Mouse& mouse() { return mouse_; }
+    const Mouse& mouse() const { return mouse_; }
+
+    const std::vector<Widget*>& widgets() const { return widgets_; }
+    const std::vector<Menu>& menus() const { return menus_; }
+    /// The controls that take the keyboard, in the order in which Tab visits them.
+    const std::vector<Widget*>& tab_order() const { return tab_order_; }
+
+    FormView* view() const { return view_.get(); }
+    std::uint64_t next_stacking() { return ++front_; }
+    bool is_in_front(const Widget& widget) const { return widget.stacking() == front_; }
+    std::uint64_t add_widget(Widget& widget);
+
+  protected:
+    /// Puts the window and its widgets into their stored state.
+    virtual void design() = 0;
+    void set_menus(std::vector<Menu> menus) { menus_ = std::move(menus); }
+    void set_tab_order(std::vector<Widget*> order) { tab_order_ = std::move(order); }
+
+  private:
+    void changed();
+    void run(const std::function<void()>& handler) const;
+
+    std::string name_;
+    std::string caption_;
+    std::vector<Widget*> widgets_;
+    std::vector<Menu> menus_;
+    std::vector<Widget*> tab_order_;
+    std::unique_ptr<FormView> view_;
+    Mouse mouse_;
+    PixelSize outer_{320, 240};
+    std::uint64_t front_ = 0;
+    Color back_color_ = black;
+    WindowState state_ = WindowState::normal;
+    FormBorder border_ = FormBorder::sizable;
+    bool has_back_color_ = false;
+    bool centered_ = false;
+    bool loaded_ = false;
+    bool loading_ = false;
+    bool unloading_ = false;
+    bool visible_ = false;
+    bool enabled_ = true;
+};
+
+/// What a window's frame and menu bar take off its size, in pixels. The figures are fixed, so that a window of
+/// a given size has the same client area under every window manager; the height leaves the score labels (their
+/// lower edge lies 53 pixels above the frame's) three pixels of air.
+PixelSize frame_of(const Form& form);
+
+}  // namespace tarnwick

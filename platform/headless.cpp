@@ -1,0 +1,48 @@
+#include "platform/headless.h"
+
+#include <algorithm>
+
+#include "platform/form.h"
+#include "platform/timer.h"
+
+namespace tarnwick {
+
+HeadlessDesktop::HeadlessDesktop(PixelSize screen) : screen_(screen) { use_desktop(this); }
+
+HeadlessDesktop::~HeadlessDesktop() { use_desktop(nullptr); }
+
+std::optional<Color> HeadlessDesktop::pick_color() {
+    if (colors_.empty()) return std::nullopt;
+    const Color color = colors_.front();
+    colors_.pop_front();
+    return color;
+}
+
+bool HeadlessDesktop::show_help(const std::string& file_name) {
+    if (help_found_) help_shown_.push_back(file_name);
+    return help_found_;
+}
+
+MessageAnswer HeadlessDesktop::show_message(const Message& message) {
+    messages_.push_back(message);
+    if (answers_.empty()) return MessageAnswer::ok;
+    const MessageAnswer answer = answers_.front();
+    answers_.pop_front();
+    return answer;
+}
+
+void HeadlessDesktop::advance(std::int64_t milliseconds) {
+    const std::int64_t end = now_ + milliseconds;
+    for (auto due = timer_queue().next_due(); due && *due <= end; due = timer_queue().next_due()) {
+        now_ = std::max(now_, *due);
+        timer_queue().run_due();
+    }
+    now_ = end;
+}
+
+void HeadlessDesktop::sleep(std::int64_t milliseconds) {
+    now_ += milliseconds;
+    timer_queue().run_due();
+}
+
+}  // namespace tarnwick

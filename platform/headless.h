@@ -1,0 +1,56 @@
+#pragma once
+
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "platform/desktop.h"
+
+namespace tarnwick {
+
+/// A desktop in memory: a clock that moves only when told to, and answers that are given beforehand.
+/// It takes the same mouse and key entry points of the windows as the real one.
+class HeadlessDesktop : public Desktop {
+  public:
+    /// Becomes the desktop in use until it is destroyed.
+    explicit HeadlessDesktop(PixelSize screen = {810, 610});
+    ~HeadlessDesktop() override;
+
+    PixelSize screen_size() const override { return screen_; }
+    std::int64_t now() const override { return now_; }
+    std::string short_date() const override { return date_; }
+    std::unique_ptr<FormView> make_view(Form&) override { return nullptr; }
+    std::optional<Color> pick_color() override;
+    bool show_help(const std::string& file_name) override;
+
+    /// Moves the clock on by so many milliseconds, every timer ticking when it is due.
+    void advance(std::int64_t milliseconds);
+    /// Moves the clock on without a tick on the way, as a computer that was asleep does.
+    void sleep(std::int64_t milliseconds);
+
+    void set_date(const std::string& date) { date_ = date; }
+    void set_help_found(bool found) { help_found_ = found; }
+    /// Answers for the message boxes and colour pickers to come, in order; without one, OK and cancel.
+    void answer_message(MessageAnswer answer) { answers_.push_back(answer); }
+    void answer_color(Color color) { colors_.push_back(color); }
+
+    /// The messages shown so far, and the help files asked for.
+    const std::vector<Message>& messages() const { return messages_; }
+    void forget_messages() { messages_.clear(); }
+    const std::vector<std::string>& help_shown() const { return help_shown_; }
+
+  protected:
+    MessageAnswer show_message(const Message& message) override;
+
+  private:
+    PixelSize screen_;
+    std::int64_t now_ = 0;
+    std::string date_ = "1/2/2000";
+    std::deque<MessageAnswer> answers_;
+    std::deque<Color> colors_;
+    std::vector<Message> messages_;
+    std::vector<std::string> help_shown_;
+    bool help_found_ = true;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,31 @@
+#include "platform/image.h"
+
+namespace tarnwick {
+
+void Image::set_picture(Picture picture) {
+    if (picture == picture_) return;
+    picture_ = picture;
+    changed();
+}
+
+void Image::set_stretch(bool stretch) {
+    if (stretch == stretch_) return;
+    stretch_ = stretch;
+    changed();
+}
+
+void Image::set_bordered(bool bordered) {
+    if (bordered == bordered_) return;
+    bordered_ = bordered;
+    changed();
+}
+
+void Image::reset() {
+    set_picture({});
+    set_stretch(false);
+    set_bordered(false);
+    set_drag_mode(DragMode::manual);
+    show();
+}
+
+}  // namespace tarnwick

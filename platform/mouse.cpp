@@ -1,0 +1,117 @@
+#include "platform/mouse.h"
+
+#include <cmath>
+
+#include "platform/desktop.h"
+#include "platform/form.h"
+#include "platform/image.h"
+
+namespace tarnwick {
+namespace {
+
+// How far, in pixels, the second press of a two-click event may lie from the first.
+constexpr float double_click_distance = 4;
+
+}  // namespace
+
+Image* Mouse::image_at(float x, float y) const {
+    Image* topmost = nullptr;
+    for (Widget* widget : form_.widgets()) {
+        if (widget->kind() != WidgetKind::image || !widget->visible()) continue;
+        if (topmost && widget->stacking() < topmost->stacking()) continue;
+        if (widget->place().contains(x, y)) topmost = static_cast<Image*>(widget);
+    }
+    return topmost;
+}
+
+void Mouse::press(float x, float y, MouseButton button) {
+    if (button != MouseButton::left || !form_.accepts_input() || dragged_ || pressed_) return;
+    press_x_ = x_ = x;
+    press_y_ = y_ = y;
+    Image* image = image_at(x, y);
+    if (!image) {
+        last_clicked_ = nullptr;
+        return;
+    }
+    if (image->drag_mode() == DragMode::automatic) {
+        last_clicked_ = nullptr;
+        start_drag(*image);
+        return;
+    }
+    pressed_ = image;
+    const bool second = is_second_click(*image, x, y);
+    last_clicked_ = second ? nullptr : image;
+    last_press_time_ = desktop().now();
+    last_press_x_ = x;
+    last_press_y_ = y;
+    if (second && image->events().double_click) {
+        desktop().event([image] { image->events().double_click(image->index()); });
+    }
+}
+
+bool Mouse::is_second_click(const Image& image, float x, float y) const {
+    return last_clicked_ == &image && desktop().now() - last_press_time_ <= desktop().double_click_time() &&
+           std::abs(x - last_press_x_) <= double_click_distance &&
+           std::abs(y - last_press_y_) <= double_click_distance;
+}
+
+void Mouse::start_drag(Image& image) {
+    dragged_ = &image;
+    lifted_ = on_lift ? on_lift(image) : std::vector<Image*>{&image};
+    drag_changed();
+}
+
+void Mouse::move(float x, float y) {
+    if (!dragged_ || (x == x_ && y == y_)) return;
+    x_ = x;
+    y_ = y;
+    drag_changed();
+}
+
+void Mouse::release(float x, float y, MouseButton button) {
+    if (button != MouseButton::left) return;
+    if (!form_.accepts_input()) {
+        cancel();
+        return;
+    }
+    if (dragged_) {
+        drop(x, y);
+    } else if (pressed_) {
+        Image& image = *pressed_;
+        pressed_ = nullptr;
+        if (image_at(x, y) == &image) click(image);
+    }
+}
+
+void Mouse::drop(float x, float y) {
+    Image& source = *dragged_;
+    // Put down first: a message that the drop raises must not show the cards still lifted.
+    dragged_ = nullptr;
+    lifted_.clear();
+    drag_changed();
+    Image* target = image_at(x, y);
+    if (target && target->events().drop) {
+        const float offset_x = (x - target->left()) * twips_per_pixel;
+        const float offset_y = (y - target->top()) * twips_per_pixel;
+        desktop().event([&] { target->events().drop(target->index(), source, offset_x, offset_y); });
+    }
+}
+
+void Mouse::click(Image& image) {
+    if (image.events().click) desktop().event([&] { image.events().click(image.index()); });
+}
+
+void Mouse::cancel() {
+    pressed_ = nullptr;
+    last_clicked_ = nullptr;
+    if (!dragged_) return;
+    dragged_ = nullptr;
+    lifted_.clear();
+    drag_changed();
+}
+
+void Mouse::drag_changed() const {
+    if (FormView* view = form_.view()) view->drag_changed();
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+#include "platform/geometry.h"
+
+namespace tarnwick {
+
+class Form;
+class Image;
+
+enum class MouseButton { left, other };
+
+/// What the left mouse button does to the images of one window: clicks and two-click events on images that are
+/// dragged by hand, drags and drops of those on automatic drag. Places are pixels in the window's client area.
+class Mouse {
+  public:
+    explicit Mouse(Form& form) : form_(form) {}
+
+    void press(float x, float y, MouseButton button = MouseButton::left);
+    void move(float x, float y);
+    void release(float x, float y, MouseButton button = MouseButton::left);
+    /// Forgets the press: a drag ends without a drop, a click does not happen.
+    void cancel();
+
+    /// The topmost image under a point: hidden images are left out, images without a picture are not.
+    Image* image_at(float x, float y) const;
+
+    /// The image being dragged, or null.
+    Image* dragged() const { return dragged_; }
+    /// The images that follow the pointer during the drag, from the bottom one up.
+    const std::vector<Image*>& lifted() const { return lifted_; }
+    /// How far the pointer has moved since the drag's press.
+    float drag_dx() const { return x_ - press_x_; }
+    float drag_dy() const { return y_ - press_y_; }
+
+    /// Tells which images a drag of this one lifts, from the bottom one up; without it, the image alone.
+    std::function<std::vector<Image*>(Image& dragged)> on_lift;
+
+  private:
+    bool is_second_click(const Image& image, float x, float y) const;
+    void start_drag(Image& image);
+    void drop(float x, float y);
+    void click(Image& image);
+    void drag_changed() const;
+
+    Form& form_;
+    Image* pressed_ = nullptr;
+    Image* dragged_ = nullptr;
+    std::vector<Image*> lifted_;
+    float press_x_ = 0;
+    float press_y_ = 0;
+    float x_ = 0;
+    float y_ = 0;
+    // The last click, as the possible first half of a two-click event.
+    const Image* last_clicked_ = nullptr;
+    std::int64_t last_press_time_ = 0;
+    float last_press_x_ = 0;
+    float last_press_y_ = 0;
+};
+
+}  // namespace tarnwick

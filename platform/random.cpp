@@ -1,0 +1,24 @@
+#include "platform/random.h"
+
+namespace tarnwick {
+
+void Random::randomize() {
+    if (next_seed_) {
+        engine_.seed(*next_seed_);
+        ++*next_seed_;
+    } else {
+        engine_.seed(std::random_device{}());
+    }
+}
+
+float Random::next() {
+    // 24 bits fill the significand of a float exactly: no rounding can reach 1.
+    return static_cast<float>(engine_() >> 8) * 0x1p-24F;
+}
+
+Random& random_generator() {
+    static Random generator;
+    return generator;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,69 @@
+#include "platform/timer.h"
+
+#include <algorithm>
+
+#include "platform/desktop.h"
+#include "platform/form.h"
+
+namespace tarnwick {
+
+Timer::Timer(Form& form) : form_(form) { timer_queue().add(*this); }
+
+void Timer::set_interval(int milliseconds) {
+    if (milliseconds == interval_) return;
+    interval_ = milliseconds;
+    start_period();
+}
+
+void Timer::set_enabled(bool enabled) {
+    if (enabled == enabled_) return;
+    enabled_ = enabled;
+    start_period();
+}
+
+bool Timer::runs() const { return enabled_ && interval_ > 0 && form_.loaded(); }
+
+void Timer::start_period() {
+    if (!runs()) return;
+    due_ = desktop().now() + interval_;
+    desktop().timers_changed();
+}
+
+std::optional<std::int64_t> TimerQueue::next_due() const {
+    std::optional<std::int64_t> next;
+    for (const Timer* timer : timers_) {
+        if (timer->runs()) next = std::min(next.value_or(timer->due_), timer->due_);
+    }
+    return next;
+}
+
+Timer* TimerQueue::most_overdue(std::int64_t now) const {
+    Timer* first = nullptr;
+    for (Timer* timer : timers_) {
+        if (timer->runs() && timer->due_ <= now && (!first || timer->due_ < first->due_)) first = timer;
+    }
+    return first;
+}
+
+void TimerQueue::run_due() {
+    if (desktop().in_event()) return;
+    const std::int64_t now = desktop().now();
+    while (Timer* timer = most_overdue(now)) {
+        // Ticks keep their rhythm, but those that a late clock has missed are not made up for.
+        timer->due_ = std::max(timer->due_ + timer->interval_, now + 1);
+        if (timer->on_tick) desktop().event(timer->on_tick);
+    }
+}
+
+void TimerQueue::start(const Form& form) {
+    for (Timer* timer : timers_) {
+        if (&timer->form_ == &form) timer->start_period();
+    }
+}
+
+TimerQueue& timer_queue() {
+    static TimerQueue queue;
+    return queue;
+}
+
+}  // namespace tarnwick

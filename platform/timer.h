@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace tarnwick {
+
+class Form;
+
+/// Raises on_tick every `interval` milliseconds while it is enabled and its window is loaded.
+/// A change of the interval, and every enabling, starts a new period.
+class Timer {
+  public:
+    explicit Timer(Form& form);
+    Timer(const Timer&) = delete;
+    Timer& operator=(const Timer&) = delete;
+
+    int interval() const { return interval_; }
+    void set_interval(int milliseconds);
+    bool enabled() const { return enabled_; }
+    void set_enabled(bool enabled);
+
+    std::function<void()> on_tick;
+
+  private:
+    friend class TimerQueue;
+    void start_period();
+    bool runs() const;
+
+    Form& form_;
+    std::int64_t due_ = 0;
+    int interval_ = 0;
+    bool enabled_ = false;
+};
+
+/// All timers of the program. A desktop asks when the next one is due and lets the due ones tick.
+class TimerQueue {
+  public:
+    void add(Timer& timer) { timers_.push_back(&timer); }
+
+    /// The time (milliseconds of the desktop's clock) at which the next tick is due, or nothing.
+    std::optional<std::int64_t> next_due() const;
+    /// Lets every timer that is due tick once, however late it is, the longest due first.
+    void run_due();
+    /// Starts new periods for the timers of a window that has just been loaded.
+    void start(const Form& form);
+
+  private:
+    Timer* most_overdue(std::int64_t now) const;
+
+    std::vector<Timer*> timers_;
+};
+
+TimerQueue& timer_queue();
+
+}  // namespace tarnwick
