@@ -1,0 +1,7 @@
+#include "windows/frmCommon.h"
+
+namespace tarnwick {
+
+FrmCommon frmCommon;
+
+}  // namespace tarnwick

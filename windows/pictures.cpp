@@ -1,0 +1,46 @@
+#include "windows/pictures.h"
+
+#include <array>
+
+namespace tarnwick {
+namespace {
+
+// The catalogue's numbers, in this order without a gap.
+constexpr int first_face = 1;
+constexpr int ranks = 13;
+constexpr int first_back = first_face + 4 * ranks;
+constexpr int first_twinkle = first_back + back_count;
+constexpr int logo = first_twinkle + twinkle_frame_count;
+
+constexpr std::array suit_names{"hearts", "spades", "diamonds", "clubs"};
+constexpr std::array rank_names{"ace", "2", "3", "4", "5", "6", "7", "8", "9", "10", "jack", "queen", "king"};
+constexpr std::array back_names{"Misty", "Rose", "Mid-Earth", "Roman", "Pedal", "Stained"};
+constexpr std::array back_files{"misty", "rose", "mid-earth", "roman", "pedal", "stained"};
+
+Picture picture(int number) { return Picture{static_cast<std::uint16_t>(number)}; }
+
+}  // namespace
+
+Picture face_picture(int suit, int rank) { return picture(first_face + suit * ranks + rank); }
+Picture back_picture(int back) { return picture(first_back + back); }
+Picture twinkle_picture(int frame) { return picture(first_twinkle + frame); }
+Picture logo_picture() { return picture(logo); }
+
+std::string drawing_of(Picture picture) {
+    const int number = picture.number;
+    const auto name = [](const auto& names, int index) {
+        return std::string(names.at(static_cast<std::size_t>(index)));
+    };
+    if (number < first_face || number > logo) return {};
+    if (number < first_back) {
+        const int face = number - first_face;
+        return "faces/" + name(suit_names, face / ranks) + '-' + name(rank_names, face % ranks);
+    }
+    if (number < first_twinkle) return "backs/" + name(back_files, number - first_back);
+    if (number < logo) return "twinkle/frame-" + std::to_string(number - first_twinkle);
+    return "logo";
+}
+
+const char* back_name(int back) { return back_names.at(static_cast<std::size_t>(back)); }
+
+}  // namespace tarnwick
