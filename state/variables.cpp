@@ -1,0 +1,36 @@
+#include "state/variables.h"
+
+namespace tarnwick {
+
+BoundedArray<99, 2> deck;
+Layout layout;
+Layout saved_layout;
+Tablet tablet;
+Tablet saved_tablet;
+BoundedArray<3, 29> aces;
+BoundedArray<7> animation;
+BoundedArray<300, 2> undo_list;
+
+Integer score;
+Integer drag_source;
+float x_scale = 0;
+float card_scale = 0;
+Integer high_score_place;
+Integer closing;
+Integer suppress_help;
+Integer resume_after_error;
+
+int empty_ace_piles() {
+    int empty = 0;
+    for (int p = 0; p <= 3; ++p) empty += ace_pile_is_empty(p) ? 1 : 0;
+    return empty;
+}
+
+bool all_ace_piles_complete() {
+    for (int p = 0; p <= 3; ++p) {
+        if (!ace_pile_is_complete(p)) return false;
+    }
+    return true;
+}
+
+}  // namespace tarnwick
