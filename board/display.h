@@ -1,0 +1,50 @@
+#pragma once
+
+#include "platform/picture.h"
+#include "state/integer.h"
+
+namespace tarnwick {
+
+// Showing the game: every card is an image of the main window, placed here. Positions are pixels from the top
+// left corner of the table; those of the 800 pixels wide design are multiplied by x_scale.
+
+/// Top of the stock, the turned card and the cards on the ace piles.
+inline constexpr int top_row = 10;
+/// Left of the turned card of the tablet, before scaling.
+inline constexpr int turned_card_left = 83;
+
+/// Left of ace pile p's top card, and of the one that shows beneath it, before scaling.
+constexpr int ace_pile_left(int p) { return 158 * p + 241; }
+constexpr int beneath_card_left(int p) { return 158 * p + 220; }
+
+/// Places one card image at (left, top) in the size of a card, shows it and brings it to the front.
+void display_column(const Integer& image, const Integer& top, const Integer& left);
+
+/// Shows a card of the tablet as the turned one.
+void display_turned_card(const Integer& picture);
+
+/// Lays out column c, 0 to 9. A face-down card on top is turned up first: one point, and an undo record.
+void redisplay_column(const Integer& c);
+
+/// How an ace pile is laid out by redisplay_aces.
+inline constexpr int empty_pile_mode = 0;
+inline constexpr int single_card_mode = 1;
+inline constexpr int stacked_mode = 2;
+
+/// Lays out ace pile p, 0 to 3: single_card_mode when it holds one card, stacked_mode when it holds more; any
+/// other mode only places its drop zone and outline.
+void redisplay_aces(const Integer& p, const Integer& mode);
+
+/// The mode that fits what ace pile p holds.
+int ace_pile_mode(int p);
+
+/// Puts card back n, 0 to 5, on the stock and on all face-down cards.
+void change_back(const Integer& n);
+
+/// The picture of the card backs in use.
+Picture current_back();
+
+/// Shows `score` in its label.
+void show_score();
+
+}  // namespace tarnwick

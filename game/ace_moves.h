@@ -1,0 +1,27 @@
+#pragma once
+
+#include "state/integer.h"
+
+namespace tarnwick {
+
+/// Points for the ace that fills the last empty ace pile, on top of the point for the card.
+inline constexpr int fourth_ace_bonus = 10;
+
+/// Puts the card of `drag_source` on ace pile `target` (12 to 15) when the rule allows it, else shows a help
+/// message about the pile (unless `suppress_help` or the settings forbid it). True when the card was placed.
+/// @param top_rank,beneath_rank,pile_suit  fields of the pile as they stand
+/// @param card_rank,card_suit              the card that is offered
+/// @param animate                          whether the card may slide to the pile (an automatic move)
+bool to_ace(const Integer& target, const Integer& top_rank, const Integer& beneath_rank,
+            const Integer& card_rank, const Integer& pile_suit, const Integer& card_suit, bool animate);
+
+/// Moves the turned card of the tablet onto ace pile `target`, records and scores it.
+void tablet_to_ace(const Integer& target, bool animate);
+
+/// Moves the top card of column `drag_source` onto ace pile `target`, records and scores it.
+void layout_to_ace(const Integer& target, bool animate);
+
+/// Scores the card just placed on ace pile p, with the bonus for the fourth ace, and notices a won game.
+void ace_score(const Integer& p, bool animate);
+
+}  // namespace tarnwick

@@ -1,0 +1,157 @@
+#include "game/drop_dispatch.h"
+
+#include "board/display.h"
+#include "board/timed_effects.h"
+#include "game/ace_moves.h"
+#include "game/column_moves.h"
+#include "game/end_game.h"
+#include "state/rounding.h"
+#include "state/routine.h"
+#include "windows/frmcards.h"
+
+namespace tarnwick {
+namespace {
+
+// Left of this, before scaling, lies the tablet. A dragged card and a card dropped on are told by different
+// limits; both lie between the turned card and the first ace pile.
+constexpr float tablet_source_limit = 200;
+constexpr float tablet_target_limit = 150;
+// Images with their top above this belong to the top row.
+constexpr float column_area_top = 15;
+// A refused drop nearer than this to an edge of the image, in pixels, is tried on the neighbour there.
+constexpr float left_neighbour_limit = 20;
+constexpr float right_neighbour_limit = 41;
+
+int column_at(float left) { return whole((left - 4 * x_scale) / (78 * x_scale)); }
+int ace_pile_at(float left) { return first_ace_pile + whole((left - 241 * x_scale) / (158 * x_scale)); }
+
+// A card that slides to its ace pile belongs to the pile already, wherever it is seen.
+bool is_sliding(const Image& image) {
+    return frmcards.Timer3.enabled() && image.index() == animation(sliding_picture);
+}
+
+int source_pile(const Image& source) {
+    if (is_sliding(source)) return first_ace_pile + animation(slide_pile);
+    if (source.top() != static_cast<float>(top_row)) return column_at(source.left());
+    if (source.left() < tablet_source_limit * x_scale) return tablet_pile;
+    return ace_pile_at(source.left());
+}
+
+void drop_on_column(int c, float x_pixels) {
+    if (column_to_column(c)) return;
+    if (x_pixels < left_neighbour_limit && c > 0) {
+        column_to_column(c - 1);
+    } else if (x_pixels > right_neighbour_limit && c < last_column) {
+        column_to_column(c + 1);
+    }
+}
+
+// The first ace pile, from the left, that an automatic move may try; none when there is no such pile.
+int pile_for(int rank, int suit) {
+    for (int k = 0; k <= 3; ++k) {
+        if (rank == ace ? ace_pile_is_empty(k) : aces(k, suit_field) == suit) return k;
+    }
+    return none;
+}
+
+bool offer_to_ace_pile(int p, int rank, int suit, bool animate) {
+    return to_ace(first_ace_pile + p, aces(p, rank_field), aces(p, beneath_rank_field), rank,
+                  aces(p, suit_field), suit, animate);
+}
+
+bool move_automatically(int rank, int suit) {
+    suppress_help = flag_true;
+    const int p = pile_for(rank, suit);
+    return p != none && offer_to_ace_pile(p, rank, suit, true);
+}
+
+}  // namespace
+
+void drop_on_image(int index, const Image& source, float x) {
+    const Image& target = frmcards.Image1(index);
+    drag_source = source_pile(source);
+    if (target.top() >= column_area_top) {
+        // A click on a card in flight is no move to the column that it happens to pass.
+        const bool in_flight = &target == &source && is_sliding(source);
+        if (in_flight) {
+            column_to_column(drag_source);
+        } else {
+            drop_on_column(column_at(target.left()), x / twips_per_pixel);
+        }
+    } else if (target.left() > tablet_target_limit * x_scale) {
+        column_to_column(ace_pile_at(target.left()));
+    } else if (drag_source == tablet_pile) {
+        column_to_column(tablet_pile);
+    }
+    settle_landed_win();
+}
+
+void settle_landed_win() {
+    if (animation(slide_wins_game) != 1 || frmcards.Timer3.enabled()) return;
+    animation(slide_wins_game) = 0;
+    if (all_ace_piles_complete()) end_game();
+}
+
+bool column_to_column(const Integer& target) {
+    bool moved = false;
+    resumable("column_to_column", [&](Statements& then) {
+        if (then.holds([] { return frmcards.Timer3.enabled(); })) then([] { land_slide(); });
+        if (then.holds([] { return drag_source == tablet_pile; })) {
+            then([&] { moved = from_tablet_to(target); });
+        } else if (then.holds([] { return drag_source >= first_ace_pile; })) {
+            then([&] { moved = from_ace_to(target); });
+        } else {
+            then([&] { moved = from_column_to(target); });
+        }
+    });
+    return moved;
+}
+
+bool from_tablet_to(const Integer& target) {
+    bool moved = false;
+    resumable("from_tablet_to", [&](Statements& then) {
+        const int slot = turned_slot();
+        const int rank = tablet(slot, rank_field);
+        const int suit = tablet(slot, suit_field);
+        then([] { suppress_help = flag_false; });
+        if (target == tablet_pile) {
+            then([&] { moved = move_automatically(rank, suit); });
+        } else if (target >= first_ace_pile) {
+            then([&] { moved = offer_to_ace_pile(target - first_ace_pile, rank, suit, false); });
+        } else {
+            then([&] { moved = from_tablet_to_column(target); });
+        }
+    });
+    return moved;
+}
+
+bool from_column_to(const Integer& target) {
+    bool moved = false;
+    resumable("from_column_to", [&](Statements& then) {
+        const int top = column_top(drag_source);
+        const int rank = layout(drag_source, top, rank_field);
+        const int suit = layout(drag_source, top, suit_field);
+        then([] { suppress_help = flag_false; });
+        if (target >= first_ace_pile) {
+            then([&] { moved = offer_to_ace_pile(target - first_ace_pile, rank, suit, false); });
+        } else if (target == drag_source) {
+            then([&] { moved = move_automatically(rank, suit); });
+        } else {
+            then([&] { moved = from_column_to_column(target); });
+        }
+    });
+    return moved;
+}
+
+bool from_ace_to(const Integer& target) {
+    bool moved = false;
+    resumable("from_ace_to", [&](Statements& then) {
+        const int p = drag_source - first_ace_pile;
+        if (target <= last_column && then.holds([&] { return aces(p, rank_field) >= two; })) {
+            then([&] { moved = from_ace_to_column(target); });
+        }
+    });
+    return moved;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,59 @@
+#include "game/end_game.h"
+
+#include "board/timed_effects.h"
+#include "game/deal.h"
+#include "settings/settings.h"
+#include "state/routine.h"
+#include "windows/frmBestScore.h"
+#include "windows/frmcards.h"
+#include "windows/frmyouwin.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr int best_scores = 5;
+
+// From the win dialog to the end of the statistics dialog after it, the game is counted but the next one is not
+// dealt yet.
+bool is_counted_already() {
+    return frmyouwin.visible() || (frmBestScore.visible() && frmBestScore.shpBestSquare.visible());
+}
+
+void add_to_setting(const char* key, int amount) {
+    settings_store().transaction([&] {
+        const double sum = to_double(read_setting(key, 0)) + amount;
+        save_setting(key, text_of(sum));
+    });
+}
+
+bool beats(int place) { return to_double(read_setting(key_high_score(place), 0)) <= score; }
+
+// The place 1 to 5 that the score takes, or none. A score equal to a stored one goes above it.
+int place_of_score() {
+    int place = none;
+    for (int i = best_scores; i >= 1 && beats(i); --i) place = i;
+    return place;
+}
+
+void count_game() {
+    add_to_setting(key_games_played, 1);
+    add_to_setting(key_average_score, score);
+    const int place = place_of_score();
+    if (place == none) return;
+    frmcards.set_enabled(false);
+    high_score_place = place;
+    frmyouwin.show();
+}
+
+}  // namespace
+
+void end_game() {
+    reporting("end_game", [] {
+        if (is_counted_already()) return;
+        stop_effects();
+        if (score != 0) count_game();
+        if (frmcards.enabled()) new_game();
+    });
+}
+
+}  // namespace tarnwick
