@@ -1,0 +1,76 @@
+#include <vector>
+
+#include "board/timed_effects.h"
+#include "game/drop_dispatch.h"
+#include "game/tablet.h"
+#include "state/variables.h"
+#include "ui/handlers.h"
+#include "windows/frmcards.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr int space_key = 32;
+constexpr int peek_time = 1500;
+
+bool is_face_down_image(int index) {
+    return index >= first_face_down_image && index < first_face_image;
+}
+
+void click(int index) {
+    if (index == stock_image) next_tablet_card();
+}
+
+void restart_peek_timer() {
+    frmcards.Timer2.set_enabled(false);
+    frmcards.Timer2.set_enabled(true);
+}
+
+void peek(int index) {
+    if (!is_face_down_image(index)) return;
+    const bool another_shows = peek_is_showing();
+    if (another_shows) cover_peeked_card();
+    const int c = (index - first_face_down_image) / 10;
+    const int k = (index - first_face_down_image) % 10;
+    frmcards.Image1(index).set_picture(frmcards.Image1(layout(c, k, column_picture_field)).picture());
+    if (!another_shows) frmcards.Timer2.set_interval(peek_time);
+    restart_peek_timer();
+    animation(peeked_image) = peek_mark + index;
+}
+
+void key_down(int key_code) {
+    if (key_code == space_key && !tablet_is_turned_for_good()) next_tablet_card();
+}
+
+// A column's card takes those that lie on it along. Of an ace pile it is the top card that moves, whichever of the
+// two was taken hold of.
+std::vector<Image*> lift(Image& dragged) {
+    const auto image = [](int picture) { return &frmcards.Image1(picture); };
+    for (int c = 0; c <= last_column; ++c) {
+        for (int s = 0; s <= column_top(c); ++s) {
+            if (layout(c, s, column_picture_field) != dragged.index()) continue;
+            std::vector<Image*> run;
+            for (int j = s; j <= column_top(c); ++j) run.push_back(image(layout(c, j, column_picture_field)));
+            return run;
+        }
+    }
+    for (int p = 0; p <= 3; ++p) {
+        const bool in_pile = !ace_pile_is_empty(p) && aces(p, beneath_picture_field) == dragged.index();
+        if (in_pile && !ace_pile_holds_one_card(p)) return {image(aces(p, picture_field))};
+    }
+    return {&dragged};
+}
+
+}  // namespace
+
+void attach_card_input() {
+    frmcards.image_events.click = click;
+    frmcards.image_events.double_click = peek;
+    frmcards.image_events.drop = [](int index, Image& source, float x, float) {
+        drop_on_image(index, source, x);
+    };
+    frmcards.on_key_down = key_down;
+    frmcards.mouse().on_lift = lift;
+}
+
+}  // namespace tarnwick

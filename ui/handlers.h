@@ -1,0 +1,16 @@
+#pragma once
+
+namespace tarnwick {
+
+// What each window does: these attach the handlers to the windows of the folder windows/.
+
+void attach_main_window();
+void attach_card_input();
+void attach_timers();
+void attach_menus();
+void attach_error_dialog();
+void attach_win_dialog();
+void attach_statistics_dialog();
+void attach_settings_dialog();
+
+}  // namespace tarnwick

@@ -1,0 +1,76 @@
+#include <string>
+
+#include "board/display.h"
+#include "board/scaling.h"
+#include "game/deal.h"
+#include "game/end_game.h"
+#include "platform/desktop.h"
+#include "settings/settings.h"
+#include "state/variables.h"
+#include "ui/handlers.h"
+#include "ui/stored_settings.h"
+#include "ui/table_colors.h"
+#include "windows/frmcards.h"
+
+namespace tarnwick {
+namespace {
+
+// The window leaves this much of the screen free, and is never designed for less than the smallest screen.
+constexpr int screen_margin = 10;
+constexpr PixelSize smallest_window{800, 600};
+
+// Within a suit, the second pack's two comes this many pictures after the first pack's.
+constexpr int second_pack = 12;
+
+void fill_second_pack() {
+    for (int suit = hearts; suit <= clubs; ++suit) {
+        const int base = first_face_image + cards_per_suit * suit;
+        for (int i = two; i <= king; ++i) {
+            frmcards.Image1(base + second_pack + i).set_picture(frmcards.Image1(base + i).picture());
+        }
+    }
+}
+
+void size_to_screen() {
+    const PixelSize screen = desktop().screen_size();
+    if (screen.width >= smallest_window.width) {
+        frmcards.resize({screen.width - screen_margin, screen.height - screen_margin});
+    } else {
+        frmcards.resize(smallest_window);
+    }
+}
+
+void load() {
+    place_stock();
+    change_back(stored_card_back());
+    set_table_color(stored_back_color());
+    set_text_color(stored_text_color());
+    fill_second_pack();
+    size_to_screen();
+    measure_window();
+    card_scale = stored_flag(key_scale_cards) ? x_scale : 1.0F;
+    place_score_labels();
+    new_game();
+}
+
+void resize() {
+    place_score_labels();
+    if (frmcards.state() == WindowState::minimized) return;
+    measure_window();
+    stretch_cards();
+}
+
+void unload() {
+    closing = flag_true;
+    end_game();
+}
+
+}  // namespace
+
+void attach_main_window() {
+    frmcards.on_load = load;
+    frmcards.on_resize = resize;
+    frmcards.on_unload = unload;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,41 @@
+#include "ui/program.h"
+
+#include "platform/desktop.h"
+#include "settings/settings.h"
+#include "ui/handlers.h"
+#include "windows/frmBestScore.h"
+#include "windows/frmCommon.h"
+#include "windows/frmError.h"
+#include "windows/frmFeatures.h"
+#include "windows/frmcards.h"
+#include "windows/frmyouwin.h"
+
+namespace tarnwick {
+
+void start_program(Store& store) {
+    use_store(&store);
+    attach_main_window();
+    attach_card_input();
+    attach_timers();
+    attach_menus();
+    attach_error_dialog();
+    attach_win_dialog();
+    attach_statistics_dialog();
+    attach_settings_dialog();
+    desktop().event([] { frmcards.show(); });
+    store.listen([](const std::string& sentence) {
+        desktop().after_event([sentence] { desktop().message_box({"Tarnwick", sentence}); });
+    });
+}
+
+void end_program() {
+    for (Form* form : {static_cast<Form*>(&frmcards), static_cast<Form*>(&frmyouwin),
+                       static_cast<Form*>(&frmBestScore), static_cast<Form*>(&frmFeatures),
+                       static_cast<Form*>(&frmError), static_cast<Form*>(&frmCommon)}) {
+        form->on_unload = nullptr;
+        form->unload();
+    }
+    use_store(nullptr);
+}
+
+}  // namespace tarnwick

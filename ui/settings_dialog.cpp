@@ -1,0 +1,146 @@
+#include <exception>
+
+#include "board/display.h"
+#include "board/scaling.h"
+#include "settings/settings.h"
+#include "ui/handlers.h"
+#include "ui/stored_settings.h"
+#include "ui/table_colors.h"
+#include "windows/frmCommon.h"
+#include "windows/frmFeatures.h"
+#include "windows/frmcards.h"
+#include "windows/pictures.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr PixelSize dialog_size{540, 350};
+
+// The backs stand in the frame in two rows of three, each with its option button below.
+void place_backs() {
+    constexpr int backs_in_row = 3;
+    frmFeatures.Frame1.move(10, 0, 291, 310);
+    for (int i = 0; i < back_count; ++i) {
+        const auto left = static_cast<float>(18 + 90 * (i % backs_in_row));
+        const float top = i < backs_in_row ? 30 : 170;
+        frmFeatures.ImgCardBacks(i).move(left, top, card_width, card_height);
+        frmFeatures.optCardBack(i).move(left, top + 110, 85, 21);
+    }
+}
+
+void choose_back(int index) {
+    for (int i = 0; i < back_count; ++i) {
+        frmFeatures.ImgCardBacks(i).set_bordered(i == index);
+        frmFeatures.optCardBack(i).set_on(i == index);
+    }
+}
+
+void load() {
+    frmFeatures.resize_client(dialog_size);
+    for (int i = 0; i < back_count; ++i) {
+        frmFeatures.ImgCardBacks(i).set_picture(frmcards.ImgCardBacks(i).picture());
+    }
+    place_backs();
+    choose_back(stored_card_back());
+    frmFeatures.chkAnamate.move(320, 110, 200, 35);
+    frmFeatures.chkAnamate.set_checked(stored_flag(key_anamate));
+    frmFeatures.chkScaleCards.move(320, 170, 200, 35);
+    frmFeatures.chkScaleCards.set_checked(stored_flag(key_scale_cards));
+    frmFeatures.chkDisplayMes.move(320, 230, 200, 35);
+    frmFeatures.chkDisplayMes.set_checked(stored_flag(key_show_message));
+    const Color back = stored_back_color();
+    frmFeatures.txtBackColor.set_colors(back, back);
+    frmFeatures.txtBackColor.move(320, 10, 41, 24);
+    frmFeatures.lblBackColor.move(380, 10, 121, 24);
+    const Color text = stored_text_color();
+    frmFeatures.txtTextColor.set_colors(text, text);
+    frmFeatures.txtTextColor.move(320, 60, 41, 24);
+    frmFeatures.lblTextColor.move(380, 60, 121, 24);
+    frmFeatures.cmdOk.move(320, 280, 81, 31);
+    frmFeatures.cmdCancel.move(420, 280, 81, 31);
+}
+
+// A colour that is picked is saved at once; cancelling, or any failure, leaves everything as it is.
+void pick_color(TextBox& swatch, const char* key) {
+    frmCommon.load();
+    CommonDialog& dialog = frmCommon.CommonDialog1;
+    dialog.set_cancel_error(true);
+    try {
+        constexpr int start_with_color = 1;
+        dialog.set_flags(start_with_color);
+        dialog.show_color();
+        const Color color = dialog.color();
+        save_setting(key, text_of(color));
+        swatch.set_colors(color, color);
+        frmCommon.unload();
+    } catch (const std::exception&) {
+        // Nothing was picked.
+    }
+    // What was typed into the swatch has done its work.
+    swatch.set_text("");
+}
+
+void attach_swatch(TextBox& swatch, const char* key) {
+    const auto pick = [&swatch, key] { pick_color(swatch, key); };
+    swatch.on_click = pick;
+    swatch.on_change = pick;
+}
+
+void save_back() {
+    for (int i = 0; i < back_count; ++i) {
+        if (!frmFeatures.optCardBack(i).on()) continue;
+        save_setting(key_card_back, text_of(i));
+        change_back(i);
+    }
+}
+
+void save_colors() {
+    const Color back = frmFeatures.txtBackColor.back_color();
+    save_setting(key_back_color, text_of(back));
+    set_table_color(back);
+    const Color text = frmFeatures.txtTextColor.back_color();
+    save_setting(key_text_color, text_of(text));
+    set_text_color(text);
+}
+
+bool scaling_reads_as(bool wanted) {
+    try {
+        return setting_is_on(key_scale_cards) == wanted;
+    } catch (const ConversionError&) {
+        // What cannot be read agrees with nothing: saving the box repairs it.
+        return false;
+    }
+}
+
+void save_scaling() {
+    const bool wanted = frmFeatures.chkScaleCards.checked();
+    if (scaling_reads_as(wanted)) return;
+    save_setting(key_scale_cards, text_of(wanted));
+    stretch_cards();
+}
+
+void save_and_close() {
+    save_back();
+    save_colors();
+    save_scaling();
+    save_setting(key_show_message, text_of(frmFeatures.chkDisplayMes.checked()));
+    save_setting(key_anamate, text_of(frmFeatures.chkAnamate.checked()));
+    frmFeatures.unload();
+}
+
+}  // namespace
+
+void attach_settings_dialog() {
+    frmFeatures.on_load = load;
+    frmFeatures.on_unload = [] { frmcards.set_enabled(true); };
+    frmFeatures.back_events.click = choose_back;
+    for (int i = 0; i < back_count; ++i) {
+        frmFeatures.optCardBack(i).on_click = [i] { choose_back(i); };
+    }
+    attach_swatch(frmFeatures.txtBackColor, key_back_color);
+    attach_swatch(frmFeatures.txtTextColor, key_text_color);
+    frmFeatures.cmdOk.on_click = save_and_close;
+    frmFeatures.cmdCancel.on_click = [] { frmFeatures.unload(); };
+}
+
+}  // namespace tarnwick

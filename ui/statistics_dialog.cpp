@@ -1,0 +1,94 @@
+#include <cmath>
+#include <string>
+
+#include "game/deal.h"
+#include "platform/desktop.h"
+#include "settings/settings.h"
+#include "state/variables.h"
+#include "ui/handlers.h"
+#include "windows/frmBestScore.h"
+#include "windows/frmcards.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr int last_place = 5;
+
+void mark_new_entry() {
+    Outline& square = frmBestScore.shpBestSquare;
+    if (high_score_place >= 1 && high_score_place <= last_place) {
+        square.set_top(pixels(120 + 360 * high_score_place));
+        square.show();
+    } else {
+        square.hide();
+    }
+    high_score_place = none;
+}
+
+void show_average() {
+    const double played = to_double(read_setting(key_games_played, 0));
+    if (played == 0) return;
+    const double average = to_double(read_setting(key_average_score, 0)) / played;
+    // nearbyint rounds ties to even.
+    frmBestScore.lblAverageScore.set_caption(text_of(std::nearbyint(average * 10) / 10));
+}
+
+void load() {
+    mark_new_entry();
+    frmBestScore.lblGamesWon.set_caption(read_setting(key_games_won, 0));
+    frmBestScore.lblGamesPlayed.set_caption(read_setting(key_games_played, 0));
+    for (int i = 1; i <= last_place; ++i) {
+        frmBestScore.lblHighScore(i).set_caption(read_setting(key_high_score(i), 0));
+        frmBestScore.lblHighScoreName(i).set_caption(read_setting(key_high_score_name(i), ""));
+        frmBestScore.lblHighScoreDate(i).set_caption(read_setting(key_high_score_date(i), ""));
+    }
+    show_average();
+}
+
+void unload() {
+    if (closing) return;
+    // Enabled first: should the deal fail, the player must not be left with a dead table.
+    frmcards.set_enabled(true);
+    if (frmBestScore.shpBestSquare.visible()) {
+        frmBestScore.shpBestSquare.hide();
+        new_game();
+    }
+    frmcards.raise();
+}
+
+void clear_score() {
+    const MessageAnswer answer =
+        desktop().message_box({"Clear Scores?", "Are you sure you want to clear the high scores?",
+                               MessageButtons::ok_cancel});
+    if (answer != MessageAnswer::ok) return;
+    settings_store().transaction([] {
+        save_setting(key_average_score, "0");
+        save_setting(key_games_played, "0");
+        for (int i = 1; i <= last_place; ++i) {
+            save_setting(key_high_score(i), "0");
+            save_setting(key_high_score_name(i), "");
+            save_setting(key_high_score_date(i), "");
+        }
+    });
+    frmBestScore.lblAverageScore.set_caption("");
+    frmBestScore.lblGamesPlayed.set_caption("");
+    for (int i = 1; i <= last_place; ++i) {
+        frmBestScore.lblHighScore(i).set_caption("0");
+        frmBestScore.lblHighScoreName(i).set_caption("");
+        frmBestScore.lblHighScoreDate(i).set_caption("");
+    }
+}
+
+void close() { frmBestScore.unload(); }
+
+}  // namespace
+
+void attach_statistics_dialog() {
+    frmBestScore.on_load = load;
+    frmBestScore.on_unload = unload;
+    frmBestScore.on_click = close;
+    frmBestScore.cmdOk.on_click = close;
+    frmBestScore.cmdClearScore.on_click = clear_score;
+}
+
+}  // namespace tarnwick
