@@ -1,0 +1,1 @@
+"""Drawing modules behind generate.py, one per kind of picture."""
