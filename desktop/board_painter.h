@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QFont>
+#include <QPainter>
+#include <QRegion>
+#include <vector>
+
+#include "desktop/drag_shadow.h"
+#include "desktop/picture_cache.h"
+#include "platform/controls.h"
+#include "platform/form.h"
+#include "platform/image.h"
+
+namespace tarnwick {
+
+/// Paints a window's outlines, labels and images (its board) onto anything that can be painted on. What it
+/// paints depends on nothing but the window's widgets, the font, and the device's pixel ratio.
+class BoardPainter {
+  public:
+    explicit BoardPainter(const Form& form) : form_(form) {}
+
+    /// Paints what lies in `area` (pixels of the window's client area). Pictures may reach beyond it: clipping
+    /// is up to the painter.
+    void paint(QPainter& painter, const QRegion& area);
+
+    /// Where a widget that lies at `place` can be seen, in whole pixels.
+    QRect area_of(const Widget& widget, const Rect& place) const;
+    /// Where the lifted images are seen now, with their shadow; empty when none are lifted.
+    QRect lifted_area() const;
+    /// The lower edge of the lowest picture, in pixels.
+    int lower_edge() const;
+    /// How much larger than given the labels are drawn, so that their texts fit; about 1.
+    qreal label_scale() const;
+
+    PictureCache& pictures() { return pictures_; }
+
+  private:
+    struct Sprite {
+        const Image* image;
+        QRect place;  ///< device pixels
+    };
+
+    void paint_outlines(QPainter& painter, const QRegion& area, qreal ratio) const;
+    void paint_labels(QPainter& painter, const QRegion& area) const;
+    void paint_images(QPainter& painter, const QRegion& area, qreal ratio);
+    void paint_lifted(QPainter& painter, const QRegion& area, qreal ratio);
+    void paint_sprite(QPainter& painter, const Sprite& sprite);
+    void sort_images();
+
+    const Form& form_;
+    PictureCache pictures_;
+    DragShadow shadow_;
+    std::vector<const Image*> images_;  ///< from the lowest one up
+    std::vector<Sprite> sprites_;
+};
+
+}  // namespace tarnwick

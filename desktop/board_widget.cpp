@@ -1,0 +1,178 @@
+#include "desktop/board_widget.h"
+
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include "desktop/key_codes.h"
+
+namespace tarnwick {
+namespace {
+
+// Beyond so many rectangles, painting the whole board costs less than keeping them apart.
+constexpr int most_repaints = 24;
+
+constexpr int scroll_step = 48;
+// The board is scrolled by whole device pixels at every scale in quarters.
+constexpr int scroll_grain = 4;
+
+MouseButton button_of(const QMouseEvent& event) {
+    return event.button() == Qt::LeftButton ? MouseButton::left : MouseButton::other;
+}
+
+}  // namespace
+
+BoardWidget::BoardWidget(Form& form) : form_(form), painter_(form), label_scale_(painter_.label_scale()) {
+    setObjectName("board");
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
+    setMinimumSize(320, 240);
+    scroll_bar_.hide();
+    scroll_bar_.setSingleStep(scroll_step);
+    scroll_bar_.setCursor(Qt::ArrowCursor);
+    connect(&scroll_bar_, &QScrollBar::valueChanged, this, [this](int value) {
+        offset_ = value / scroll_grain * scroll_grain;
+        repaint_all();
+    });
+}
+
+void BoardWidget::widget_changed(const Widget& widget, const Rect& before) {
+    if (widget.kind() == WidgetKind::label) update_label_scale();
+    if (widget.kind() == WidgetKind::image) update_scrolling_later();
+    repaint_area(painter_.area_of(widget, before));
+    if (widget.place() != before) repaint_area(painter_.area_of(widget, widget.place()));
+}
+
+void BoardWidget::update_label_scale() {
+    const qreal scale = painter_.label_scale();
+    if (scale == label_scale_) return;
+    label_scale_ = scale;
+    repaint_all();
+}
+
+void BoardWidget::drag_changed() {
+    const QRect before = lifted_area_;
+    lifted_area_ = painter_.lifted_area();
+    if (before.isEmpty() || lifted_area_.isEmpty()) {
+        // Taken up or put down: what lies at the images' own places changes as well.
+        for (const Image* image : form_.mouse().lifted()) {
+            lifted_from_.push_back(painter_.area_of(*image, image->place()));
+        }
+        for (const QRect& area : lifted_from_) repaint_area(area);
+        if (lifted_area_.isEmpty()) lifted_from_.clear();
+    }
+    setMouseTracking(!lifted_area_.isEmpty());
+    // One rectangle paints faster than the several that two overlapping ones are made of.
+    if (before.intersects(lifted_area_)) {
+        repaint_area(before | lifted_area_);
+    } else {
+        repaint_area(before);
+        repaint_area(lifted_area_);
+    }
+}
+
+void BoardWidget::repaint_all() {
+    repaints_ = most_repaints;
+    update();
+}
+
+void BoardWidget::repaint_area(const QRect& area) {
+    if (area.isEmpty() || repaints_ >= most_repaints) return;
+    if (++repaints_ == most_repaints) {
+        update();
+    } else {
+        update(area.translated(0, -offset_));
+    }
+}
+
+void BoardWidget::paintEvent(QPaintEvent* event) {
+    repaints_ = 0;
+    QPainter painter(this);
+    painter.translate(0, -offset_);
+    painter_.paint(painter, event->region().translated(0, offset_));
+}
+
+void BoardWidget::resizeEvent(QResizeEvent*) {
+    painter_.pictures().drop_unused_sizes();
+    repaint_all();
+    const int bar_width = scroll_bar_.sizeHint().width();
+    scroll_bar_.setGeometry(width() - bar_width, 0, bar_width, height());
+    update_scrolling_later();
+    form_.user_resized({width(), height()});
+}
+
+void BoardWidget::update_scrolling_later() {
+    if (scrolling_is_stale_) return;
+    scrolling_is_stale_ = true;
+    // The whole layout changes in many small steps, and only its end counts.
+    QMetaObject::invokeMethod(this, [this] { update_scrolling(); }, Qt::QueuedConnection);
+}
+
+void BoardWidget::update_scrolling() {
+    scrolling_is_stale_ = false;
+    if (!form_.loaded()) return;
+    const int below = std::max(0, painter_.lower_edge() - height());
+    // Some air under the lowest card.
+    const int range = below == 0 ? 0 : (below + 2 * scroll_grain) / scroll_grain * scroll_grain;
+    scroll_bar_.setPageStep(height());
+    scroll_bar_.setRange(0, range);
+    scroll_bar_.setVisible(range > 0);
+}
+
+bool BoardWidget::event(QEvent* event) {
+    if (event->type() == QEvent::UngrabMouse || event->type() == QEvent::Hide) form_.mouse().cancel();
+    if (event->type() == QEvent::FontChange) update_label_scale();
+    return QWidget::event(event);
+}
+
+void BoardWidget::mousePressEvent(QMouseEvent* event) {
+    const QPointF at = on_board(*event);
+    form_.mouse().press(static_cast<float>(at.x()), static_cast<float>(at.y()), button_of(*event));
+}
+
+// The windows find out themselves which presses belong together.
+void BoardWidget::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+
+void BoardWidget::mouseMoveEvent(QMouseEvent* event) {
+    if (!(event->buttons() & Qt::LeftButton)) {
+        // Somebody else took the mouse, and its button was let go there.
+        form_.mouse().cancel();
+        return;
+    }
+    const QPointF at = on_board(*event);
+    form_.mouse().move(static_cast<float>(at.x()), static_cast<float>(at.y()));
+}
+
+void BoardWidget::mouseReleaseEvent(QMouseEvent* event) {
+    const QPointF at = on_board(*event);
+    form_.mouse().release(static_cast<float>(at.x()), static_cast<float>(at.y()), button_of(*event));
+}
+
+QPointF BoardWidget::on_board(const QMouseEvent& event) const { return event.position() + QPointF(0, offset_); }
+
+void BoardWidget::wheelEvent(QWheelEvent* event) {
+    if (!form_.accepts_input() || scroll_bar_.maximum() == 0) return;
+    scroll_bar_.setValue(scroll_bar_.value() - event->angleDelta().y() * scroll_step / QWheelEvent::DefaultDeltasPerStep);
+    const QPointF at = event->position() + QPointF(0, offset_);
+    form_.mouse().move(static_cast<float>(at.x()), static_cast<float>(at.y()));
+}
+
+void BoardWidget::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && form_.mouse().dragged()) {
+        form_.mouse().cancel();
+        return;
+    }
+    if (event->key() == Qt::Key_PageDown || event->key() == Qt::Key_PageUp) {
+        const int page = event->key() == Qt::Key_PageDown ? height() / 2 : -height() / 2;
+        if (form_.accepts_input()) scroll_bar_.setValue(scroll_bar_.value() + page);
+    }
+    const int code = key_code_of(event->key());
+    event->setAccepted(code != 0 && form_.key_down(code));
+}
+
+void BoardWidget::focusOutEvent(QFocusEvent* event) {
+    form_.mouse().cancel();
+    QWidget::focusOutEvent(event);
+}
+
+}  // namespace tarnwick

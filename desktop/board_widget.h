@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QScrollBar>
+#include <QWidget>
+
+#include "desktop/board_painter.h"
+
+namespace tarnwick {
+
+/// Shows a window's board and hands the mouse, the keys and the user's resizing on to the window.
+/// When cards lie below its lower edge, the board can be scrolled down to them.
+class BoardWidget : public QWidget {
+  public:
+    explicit BoardWidget(Form& form);
+
+    /// Repaints a widget that was seen at `before`.
+    void widget_changed(const Widget& widget, const Rect& before);
+    /// Repaints what a step of a drag has changed.
+    void drag_changed();
+    /// Repaints all of the board.
+    void repaint_all();
+
+  protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+  private:
+    void repaint_area(const QRect& area);
+    void update_label_scale();
+    void update_scrolling_later();
+    void update_scrolling();
+    QPointF on_board(const QMouseEvent& event) const;
+
+    Form& form_;
+    BoardPainter painter_;
+    QScrollBar scroll_bar_{Qt::Vertical, this};
+    QRect lifted_area_;
+    std::vector<QRect> lifted_from_;  ///< where the lifted images were taken up
+    qreal label_scale_ = 1;
+    int offset_ = 0;  ///< how far the board is scrolled down, in pixels
+    int repaints_ = 0;  ///< rectangles since the board was last painted
+    bool scrolling_is_stale_ = false;
+};
+
+}  // namespace tarnwick

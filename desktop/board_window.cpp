@@ -1,0 +1,102 @@
+#include "desktop/board_window.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <cmath>
+
+#include "desktop/qt_convert.h"
+#include "desktop/qt_desktop.h"
+
+namespace tarnwick {
+namespace {
+
+WindowState state_of(Qt::WindowStates states) {
+    if (states & Qt::WindowMinimized) return WindowState::minimized;
+    return states & (Qt::WindowMaximized | Qt::WindowFullScreen) ? WindowState::maximized : WindowState::normal;
+}
+
+// The height nearest to the wished one that is a whole number of device pixels, so that the board begins at one.
+int whole_device_height(int height, qreal ratio) {
+    constexpr int quarters = 4;
+    for (int more = 0; more < quarters; ++more) {
+        const qreal device_height = (height + more) * ratio;
+        if (device_height == std::floor(device_height)) return height + more;
+    }
+    return height;
+}
+
+}  // namespace
+
+BoardWindow::BoardWindow(Form& form) : form_(form), board_(*new BoardWidget(form)), color_(form.back_color()) {
+    setObjectName(to_qt(form.name()));
+    make_menus();
+    setCentralWidget(&board_);
+    board_.setFocus();
+}
+
+void BoardWindow::make_menus() {
+    // A menu bar elsewhere on the screen would change what the window's height means.
+    menuBar()->setNativeMenuBar(false);
+    for (const Menu& menu : form_.menus()) {
+        QMenu* native = menuBar()->addMenu(to_qt(menu.caption));
+        for (MenuEntry* entry : menu.entries) {
+            QAction* action = native->addAction(to_qt(entry->caption()), [entry] { entry->choose(); });
+            if (!entry->shortcut().empty()) action->setShortcut(QKeySequence(to_qt(entry->shortcut())));
+            entries_.push_back({entry, action});
+        }
+    }
+    menuBar()->setFixedHeight(whole_device_height(menuBar()->sizeHint().height(), devicePixelRatioF()));
+    sync_menus();
+}
+
+void BoardWindow::sync_menus() {
+    for (const Entry& entry : entries_) entry.action->setVisible(entry.entry->visible());
+}
+
+void BoardWindow::sync() {
+    setWindowTitle(to_qt(form_.caption()));
+    menuBar()->setEnabled(form_.enabled());
+    if (color_ != form_.back_color()) board_.repaint_all();
+    color_ = form_.back_color();
+    sync_size();
+}
+
+void BoardWindow::sync_size() {
+    const PixelSize client = form_.client_size();
+    const QSize size(client.width, client.height);
+    if (isMinimized() || size == board_.size()) return;
+    if (isMaximized()) showNormal();
+    resize(size.width(), size.height() + menuBar()->height());
+}
+
+void BoardWindow::closeEvent(QCloseEvent* event) {
+    // The form decides; when it ends, it takes its window with it.
+    event->ignore();
+    form_.close();
+}
+
+void BoardWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) form_.user_changed_state(state_of(windowState()));
+}
+
+void BoardView::widget_changed(const Widget& widget, const Rect& before) {
+    if (board_window_) board_window_->board().widget_changed(widget, before);
+}
+
+void BoardView::menu_changed() {
+    if (board_window_) board_window_->sync_menus();
+}
+
+void BoardView::drag_changed() {
+    if (board_window_) board_window_->board().drag_changed();
+}
+
+QWidget* BoardView::make_window() {
+    board_window_ = new BoardWindow(form());
+    return board_window_;
+}
+
+void BoardView::sync_window() { board_window_->sync(); }
+
+}  // namespace tarnwick

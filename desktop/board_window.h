@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QMainWindow>
+#include <vector>
+
+#include "desktop/board_widget.h"
+#include "desktop/window_view.h"
+
+namespace tarnwick {
+
+/// A window with a menu bar and a board.
+class BoardWindow : public QMainWindow {
+  public:
+    explicit BoardWindow(Form& form);
+
+    BoardWidget& board() { return board_; }
+    /// Takes over title, size, colour and whether the window takes input.
+    void sync();
+    /// Shows and hides the menus' entries as they say.
+    void sync_menus();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    struct Entry {
+        const MenuEntry* entry;
+        QAction* action;
+    };
+
+    void make_menus();
+    void sync_size();
+
+    Form& form_;
+    BoardWidget& board_;
+    std::vector<Entry> entries_;
+    Color color_;
+};
+
+class BoardView : public WindowView {
+  public:
+    using WindowView::WindowView;
+
+    void widget_changed(const Widget& widget, const Rect& before) override;
+    void menu_changed() override;
+    void drag_changed() override;
+
+  protected:
+    QWidget* make_window() override;
+    void sync_window() override;
+
+  private:
+    QPointer<BoardWindow> board_window_;
+};
+
+}  // namespace tarnwick

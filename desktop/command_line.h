@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace tarnwick {
+
+/// What the program was asked for when it was started.
+struct CommandLine {
+    std::optional<std::uint32_t> deal;
+    std::string store;  ///< the settings' file; empty for the usual one
+    bool help = false;
+    bool version = false;
+};
+
+/// A command line that cannot be understood; what() tells why in one line.
+class CommandLineError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Reads the arguments after the program's name. Throws CommandLineError.
+CommandLine parse_command_line(const std::vector<std::string>& arguments);
+
+/// What --help prints.
+std::string command_line_help();
+
+}  // namespace tarnwick

@@ -1,0 +1,153 @@
+#include <QGroupBox>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "desktop/dialog_control.h"
+#include "desktop/picture_cache.h"
+#include "desktop/qt_convert.h"
+#include "platform/desktop.h"
+#include "platform/form.h"
+#include "windows/pictures.h"
+
+namespace tarnwick {
+namespace {
+
+// A group box with its title on the border rather than above it: the layouts use all of the room inside.
+class FrameBox : public QGroupBox {
+  public:
+    using QGroupBox::QGroupBox;
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        constexpr int title_left = 8;
+        constexpr int gap = 3;
+        constexpr int border_alpha = 70;
+        constexpr qreal radius = 3;
+        QPainter painter(this);
+        QRect text;
+        if (!title().isEmpty()) {
+            text = QRect(title_left, 0, fontMetrics().horizontalAdvance(title()), fontMetrics().height());
+        }
+        painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+        painter.drawText(text, Qt::AlignLeft | Qt::TextDontClip, title());
+        painter.setClipRegion(QRegion(rect()) - text.adjusted(-gap, 0, gap, 0));
+        painter.setRenderHint(QPainter::Antialiasing);
+        QColor border = palette().color(QPalette::WindowText);
+        border.setAlpha(border_alpha);
+        painter.setPen(border);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, text.height() / 2 + 0.5, -0.5, -0.5), radius, radius);
+    }
+};
+
+class FrameControl : public DialogControl {
+  public:
+    FrameControl(const Frame& frame, QGroupBox* native)
+        : DialogControl(native), frame_(frame), native_(*native) {}
+
+    void sync(qreal) override { native_.setTitle(to_qt(frame_.caption())); }
+
+    bool fits(const QSizeF& place) const override {
+        constexpr int air = 8;
+        return QFontMetricsF(native_.font()).horizontalAdvance(to_qt(frame_.caption())) + 2 * air <=
+               place.width();
+    }
+
+  private:
+    const Frame& frame_;
+    QGroupBox& native_;
+};
+
+class PictureBox : public QWidget {
+  public:
+    PictureBox(const Image& image, QWidget* parent) : QWidget(parent), image_(image) {}
+
+    void set_scale(qreal scale) {
+        scale_ = scale;
+        update();
+    }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        if (image_.picture().none()) return;
+        const qreal ratio = devicePixelRatioF();
+        const QSizeF place = image_.stretch() ? QSizeF(size()) : QSizeF(card_width, card_height) * scale_;
+        const QSize device_size = (place * ratio).toSize();
+        if (shown_ != image_.picture() || pixmap_.size() != device_size) {
+            shown_ = image_.picture();
+            pixmap_ = render_picture(shown_, device_size);
+        }
+        pixmap_.setDevicePixelRatio(ratio);
+        QPainter painter(this);
+        painter.drawPixmap(0, 0, pixmap_);
+        if (!image_.bordered()) return;
+        painter.setPen(palette().color(QPalette::WindowText));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+
+    // The press is taken, so that the release comes here too.
+    void mousePressEvent(QMouseEvent* event) override { event->accept(); }
+
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        const bool inside = rect().contains(event->position().toPoint());
+        if (event->button() != Qt::LeftButton || !inside || !image_.form().accepts_input()) return;
+        if (const auto& click = image_.events().click) desktop().event([&] { click(image_.index()); });
+    }
+
+  private:
+    const Image& image_;
+    Picture shown_;
+    QPixmap pixmap_;
+    qreal scale_ = 1;
+};
+
+class ImageControl : public DialogControl {
+  public:
+    explicit ImageControl(PictureBox* native) : DialogControl(native), native_(*native) {}
+    void sync(qreal scale) override { native_.set_scale(scale); }
+
+  private:
+    PictureBox& native_;
+};
+
+class OutlineBox : public QWidget {
+  public:
+    OutlineBox(const Outline& outline, QWidget* parent) : QWidget(parent), outline_(outline) {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        constexpr qreal radius = 4;
+        // Black is the colour of an outline that was never given one, and cannot be seen on a dark desktop.
+        const bool plain = outline_.border_color() == black;
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(plain ? palette().color(QPalette::WindowText) : to_qt(outline_.border_color()));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    }
+
+  private:
+    const Outline& outline_;
+};
+
+class OutlineControl : public DialogControl {
+  public:
+    explicit OutlineControl(OutlineBox* native) : DialogControl(native) {}
+    void sync(qreal) override { native()->update(); }
+};
+
+}  // namespace
+
+std::unique_ptr<DialogControl> make_frame_control(const Frame& frame, QWidget* parent) {
+    return std::make_unique<FrameControl>(frame, new FrameBox(parent));
+}
+
+std::unique_ptr<DialogControl> make_image_control(const Image& image, QWidget* parent) {
+    return std::make_unique<ImageControl>(new PictureBox(image, parent));
+}
+
+std::unique_ptr<DialogControl> make_outline_control(const Outline& outline, QWidget* parent) {
+    return std::make_unique<OutlineControl>(new OutlineBox(outline, parent));
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,83 @@
+#include <QApplication>
+#include <QIcon>
+#include <QTimer>
+#include <cstdlib>
+#include <exception>
+#include <iostream>
+
+#include "desktop/command_line.h"
+#include "desktop/picture_cache.h"
+#include "desktop/qt_desktop.h"
+#include "platform/random.h"
+#include "settings/sqlite_store.h"
+#include "ui/program.h"
+
+namespace {
+
+using namespace tarnwick;
+
+constexpr int bad_usage = 2;
+
+bool is_set(const char* variable) {
+    const char* value = std::getenv(variable);
+    return value && *value;
+}
+
+// Where the toolkit finds no display it would end the program with a crash and a page of hints.
+void report_missing_display(QtMsgType type, const QMessageLogContext&, const QString&) {
+    if (type != QtFatalMsg) return;
+    std::cerr << "tarnwick: the display cannot be opened\n";
+    std::_Exit(EXIT_FAILURE);
+}
+
+// The icon is for the desktop around the window, which can wait until the window is there.
+void set_icon_later() {
+    QTimer::singleShot(0, qApp, [] {
+        QIcon icon;
+        for (const int size : {16, 24}) {
+            icon.addPixmap(QPixmap::fromImage(render_drawing("icon-small", {size, size})));
+        }
+        for (const int size : {32, 48, 64, 128}) {
+            icon.addPixmap(QPixmap::fromImage(render_drawing("icon", {size, size})));
+        }
+        QApplication::setWindowIcon(icon);
+    });
+}
+
+int run(const CommandLine& command, int argc, char** argv) {
+    if (!is_set("DISPLAY") && !is_set("WAYLAND_DISPLAY") && !is_set("QT_QPA_PLATFORM")) {
+        std::cerr << "tarnwick: there is no display (neither DISPLAY nor WAYLAND_DISPLAY is set)\n";
+        return EXIT_FAILURE;
+    }
+    const QtMessageHandler handler = qInstallMessageHandler(report_missing_display);
+    QApplication application(argc, argv);
+    qInstallMessageHandler(handler);
+    QApplication::setApplicationName("tarnwick");
+    QApplication::setApplicationVersion(TARNWICK_VERSION);
+    QGuiApplication::setDesktopFileName("tarnwick");
+
+    QtDesktop desktop;
+    SqliteStore store(command.store.empty() ? default_store_path() : command.store);
+    if (command.deal) random_generator().replay(*command.deal);
+    start_program(store);
+    set_icon_later();
+    return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        const CommandLine command = parse_command_line({argv + 1, argv + argc});
+        if (command.help) std::cout << command_line_help();
+        if (command.version) std::cout << "tarnwick " TARNWICK_VERSION "\n";
+        if (command.help || command.version) return EXIT_SUCCESS;
+        return run(command, argc, argv);
+    } catch (const CommandLineError& error) {
+        std::cerr << "tarnwick: " << error.what() << '\n';
+        return bad_usage;
+    } catch (const std::exception& error) {
+        std::cerr << "tarnwick: " << error.what() << '\n';
+        return EXIT_FAILURE;
+    }
+}

@@ -1,0 +1,45 @@
+#include "desktop/picture_cache.h"
+
+#include <QPainter>
+#include <QSvgRenderer>
+
+#include "windows/pictures.h"
+
+// The macro must stand outside of any namespace.
+static void register_art() { Q_INIT_RESOURCE(art); }
+
+namespace tarnwick {
+
+QImage render_drawing(const QString& name, QSize size, qreal scale) {
+    // A static library's resources are linked in only where something names them.
+    static const bool registered = (register_art(), true);
+    Q_UNUSED(registered)
+    QSvgRenderer renderer(":/art/" + name + ".svg");
+    if (!renderer.isValid()) return {};
+    if (!size.isValid()) size = (QSizeF(renderer.defaultSize()) * scale).toSize();
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(size)));
+    return image;
+}
+
+QPixmap render_picture(Picture picture, QSize size) {
+    if (picture.none() || size.isEmpty()) return {};
+    return QPixmap::fromImage(render_drawing(QString::fromStdString(drawing_of(picture)), size));
+}
+
+const QPixmap& PictureCache::pixmap(Picture picture, QSize size) {
+    Sheet& sheet = sheets_[{size.width(), size.height()}];
+    sheet.used = true;
+    const auto found = sheet.pixmaps.find(picture.number);
+    if (found != sheet.pixmaps.end()) return found->second;
+    return sheet.pixmaps.emplace(picture.number, render_picture(picture, size)).first->second;
+}
+
+void PictureCache::drop_unused_sizes() {
+    std::erase_if(sheets_, [](const auto& entry) { return !entry.second.used; });
+    for (auto& [size, sheet] : sheets_) sheet.used = false;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QColor>
+#include <QRectF>
+#include <QString>
+
+#include "platform/color.h"
+#include "platform/geometry.h"
+
+namespace tarnwick {
+
+inline QColor to_qt(Color color) { return QColor(red_of(color), green_of(color), blue_of(color)); }
+inline Color from_qt(const QColor& color) { return color_of(color.red(), color.green(), color.blue()); }
+
+inline QRectF to_qt(const Rect& rect) {
+    return QRectF(static_cast<qreal>(rect.left), static_cast<qreal>(rect.top), static_cast<qreal>(rect.width),
+                  static_cast<qreal>(rect.height));
+}
+
+inline QString to_qt(const std::string& text) { return QString::fromStdString(text); }
+
+}  // namespace tarnwick

@@ -1,0 +1,146 @@
+#include "desktop/qt_desktop.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QDate>
+#include <QIcon>
+#include <QLocale>
+#include <QMessageBox>
+#include <QScreen>
+#include <algorithm>
+#include <chrono>
+
+#include "desktop/board_window.h"
+#include "desktop/dialog_window.h"
+#include "desktop/help_window.h"
+#include "desktop/qt_convert.h"
+#include "platform/timer.h"
+
+namespace tarnwick {
+
+QtDesktop::QtDesktop() {
+    use_desktop(this);
+    QApplication::setQuitOnLastWindowClosed(false);
+    timer_.setSingleShot(true);
+    timer_.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { tick(); });
+    QObject::connect(qApp, &QApplication::focusChanged, &timer_,
+                     [this](QWidget*, QWidget* now) { hand_on_keyboard(now); });
+}
+
+QtDesktop::~QtDesktop() {
+    use_desktop(nullptr);
+    // Forms may outlive the toolkit; their windows must not.
+    for (WindowView* view : views_) view->delete_window();
+}
+
+void QtDesktop::remove(WindowView& view) { std::erase(views_, &view); }
+
+PixelSize QtDesktop::screen_size() const {
+    const QSize size = QGuiApplication::primaryScreen()->availableSize();
+    return {size.width(), size.height()};
+}
+
+std::int64_t QtDesktop::now() const {
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+std::string QtDesktop::short_date() const {
+    return QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat).toStdString();
+}
+
+std::int64_t QtDesktop::double_click_time() const { return QApplication::doubleClickInterval(); }
+
+std::unique_ptr<FormView> QtDesktop::make_view(Form& form) {
+    if (form.menus().empty()) return std::make_unique<DialogView>(*this, form);
+    return std::make_unique<BoardView>(*this, form);
+}
+
+void QtDesktop::timers_changed() {
+    if (!in_event()) arm_timer();
+}
+
+void QtDesktop::event_ended() { arm_timer(); }
+
+void QtDesktop::arm_timer() {
+    const std::optional<std::int64_t> due = timer_queue().next_due();
+    if (due) {
+        timer_.start(std::chrono::milliseconds(std::max<std::int64_t>(0, *due - now())));
+    } else {
+        timer_.stop();
+    }
+}
+
+void QtDesktop::tick() {
+    // While a message waits for its answer, the timers wait too; the end of its event arms them again.
+    if (in_event()) return;
+    timer_queue().run_due();
+    arm_timer();
+}
+
+void QtDesktop::windows_changed() {
+    QMetaObject::invokeMethod(&timer_, [this] { settle_windows(); }, Qt::QueuedConnection);
+}
+
+void QtDesktop::settle_windows() {
+    QWidget* front = front_window();
+    if (!front) {
+        help_.reset();
+        QApplication::quit();
+        return;
+    }
+    // A dialog that has gone leaves the keyboard to the window under it.
+    if (!QApplication::activeWindow()) front->activateWindow();
+}
+
+QWidget* QtDesktop::main_window() const {
+    for (const WindowView* view : views_) {
+        if (view->window() && !view->form().menus().empty()) return view->window();
+    }
+    return nullptr;
+}
+
+QWidget* QtDesktop::front_window() const {
+    const auto shown = [](const WindowView* view) { return view->window() && view->form().visible(); };
+    const auto front = std::find_if(views_.rbegin(), views_.rend(), shown);
+    return front == views_.rend() ? nullptr : (*front)->window();
+}
+
+void QtDesktop::hand_on_keyboard(QWidget* now) {
+    // A disabled window that the user clicks hands the keyboard on to the dialog that it waits for.
+    QWidget* front = front_window();
+    if (!now || !front || now->window() == front || now->window() != main_window()) return;
+    for (const WindowView* view : views_) {
+        if (view->window() == now->window() && !view->form().enabled()) front->activateWindow();
+    }
+}
+
+MessageAnswer QtDesktop::show_message(const Message& message) {
+    QMessageBox box(front_window());
+    box.setWindowTitle(to_qt(message.title));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(to_qt(message.text));
+    const bool can_cancel = message.buttons == MessageButtons::ok_cancel;
+    box.setStandardButtons(can_cancel ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
+    box.setDefaultButton(QMessageBox::Ok);
+    const bool confirmed = box.exec() == QMessageBox::Ok;
+    // The message may have been shown outside of any event, so that no event's end arms the timer.
+    QMetaObject::invokeMethod(&timer_, [this] { timers_changed(); }, Qt::QueuedConnection);
+    return confirmed ? MessageAnswer::ok : MessageAnswer::cancel;
+}
+
+std::optional<Color> QtDesktop::pick_color() {
+    const QColor picked = QColorDialog::getColor(Qt::white, front_window());
+    if (!picked.isValid()) return std::nullopt;
+    return from_qt(picked);
+}
+
+bool QtDesktop::show_help(const std::string& file_name) {
+    const QString path = find_help(to_qt(file_name));
+    if (path.isEmpty()) return false;
+    if (!help_) help_ = std::make_unique<HelpWindow>();
+    return help_->show_file(path);
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QTimer>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/desktop.h"
+
+class QWidget;
+
+namespace tarnwick {
+
+class HelpWindow;
+class WindowView;
+
+/// The real desktop. Needs a QApplication, and ends its event loop when no window is left.
+class QtDesktop : public Desktop {
+  public:
+    /// Becomes the desktop in use until it is destroyed.
+    QtDesktop();
+    ~QtDesktop() override;
+
+    PixelSize screen_size() const override;
+    std::int64_t now() const override;
+    std::string short_date() const override;
+    std::int64_t double_click_time() const override;
+    std::unique_ptr<FormView> make_view(Form& form) override;
+    void timers_changed() override;
+    void windows_changed() override;
+    std::optional<Color> pick_color() override;
+    bool show_help(const std::string& file_name) override;
+
+    /// Keeps track of the views; called by the views.
+    void add(WindowView& view) { views_.push_back(&view); }
+    void remove(WindowView& view);
+    /// The window that dialogs belong to, and the front one of all; null when there is none.
+    QWidget* main_window() const;
+    QWidget* front_window() const;
+
+  protected:
+    MessageAnswer show_message(const Message& message) override;
+    void event_ended() override;
+
+  private:
+    void arm_timer();
+    void tick();
+    void settle_windows();
+    void hand_on_keyboard(QWidget* now);
+
+    QTimer timer_;
+    std::vector<WindowView*> views_;  ///< in the order in which the windows were loaded
+    std::unique_ptr<HelpWindow> help_;
+};
+
+}  // namespace tarnwick
