@@ -27,6 +27,7 @@ struct SettingAddress {
     std::string application;
     std::string section;
     std::string key;
+    // NOLINTNEXTLINE(modernize-use-nullptr): what the compiler makes of it
     auto operator<=>(const SettingAddress&) const = default;
 };
 
