@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "platform/form.h"
 #include "platform/timer.h"
 
 namespace tarnwick {

@@ -24,7 +24,8 @@ FrmBestScore::FrmBestScore() : Form("frmBestScore") {
                            static_cast<Widget*>(&lblNameText), static_cast<Widget*>(&lblHighScoreDateText1)}) {
         widget->put_into(Frame1);
     }
-    set_tab_order({&cmdClearScore, &cmdOk});
+    // Begins with the button that does no harm.
+    set_tab_order({&cmdOk, &cmdClearScore});
 }
 
 void FrmBestScore::design() {
