@@ -6,6 +6,8 @@
 #include <utility>
 #include <vector>
 
+#include "platform/fault_point.h"
+
 namespace tarnwick {
 
 /// A call to a widget that a window does not have.
@@ -30,6 +32,7 @@ class Family {
 
     /// The member with this index; throws NoSuchWidget where there is none.
     W& operator()(int index) const {
+        fault_point();
         if (index < 0 || static_cast<std::size_t>(index) >= members_.size() ||
             !members_[static_cast<std::size_t>(index)]) {
             throw NoSuchWidget(index);

@@ -2,6 +2,8 @@
 
 #include <sqlite3.h>
 
+#include <cstdint>
+
 namespace tarnwick {
 namespace {
 
@@ -13,10 +15,45 @@ bool means_damage(int code) {
     return primary == SQLITE_CORRUPT || primary == SQLITE_NOTADB || primary == SQLITE_FORMAT;
 }
 
-std::optional<std::string> column_text(sqlite3_stmt* statement) {
-    const auto* bytes = static_cast<const char*>(sqlite3_column_blob(statement, 0));
-    const int length = sqlite3_column_bytes(statement, 0);
+std::string column_text(sqlite3_stmt* statement, int column = 0) {
+    const auto* bytes = static_cast<const char*>(sqlite3_column_blob(statement, column));
+    const int length = sqlite3_column_bytes(statement, column);
     return std::string(bytes ? bytes : "", static_cast<std::size_t>(length));
+}
+
+// FNV-1a over all parts of a value: the structure of a file survives many a flipped bit in its texts.
+std::int64_t checksum_of(const SettingAddress& address, const std::string& text) {
+    std::uint32_t hash = 0x811c9dc5U;
+    for (const std::string* part : {&address.application, &address.section, &address.key, &text}) {
+        for (const char letter : *part + '\n') {
+            hash ^= static_cast<unsigned char>(letter);
+            hash *= 0x01000193U;
+        }
+    }
+    return hash;
+}
+
+constexpr const char* select_all = "SELECT application, section, key, text, checksum FROM setting";
+
+// Reads the current row of select_all; false when its checksum is wrong.
+bool read_row(sqlite3_stmt* statement, SettingAddress& address, std::string& text) {
+    address = {column_text(statement, 0), column_text(statement, 1), column_text(statement, 2)};
+    text = column_text(statement, 3);
+    return sqlite3_column_int64(statement, 4) == checksum_of(address, text);
+}
+
+// The values that a database gives before it fails.
+std::map<SettingAddress, std::string> readable_values(sqlite3* database) {
+    std::map<SettingAddress, std::string> values;
+    sqlite3_stmt* statement = nullptr;
+    if (sqlite3_prepare_v2(database, select_all, -1, &statement, nullptr) != SQLITE_OK) return values;
+    while (sqlite3_step(statement) == SQLITE_ROW) {
+        SettingAddress address;
+        std::string text;
+        if (read_row(statement, address, text)) values[address] = text;
+    }
+    sqlite3_finalize(statement);
+    return values;
 }
 
 }  // namespace
@@ -29,8 +66,9 @@ SqliteFile::SqliteFile(const std::string& path) : path_(path) {
         sqlite3_busy_timeout(database_, patience);
         // EXTRA also syncs the folder after a commit: a result that was acknowledged survives a power cut.
         execute("PRAGMA synchronous = EXTRA");
-        check();
+        check_structure();
         prepare();
+        check_values();
     } catch (...) {
         close();
         throw;
@@ -46,22 +84,38 @@ void SqliteFile::close() noexcept {
     sqlite3_close(database_);
 }
 
-void SqliteFile::check() {
+void SqliteFile::check_structure() {
     sqlite3_stmt* statement = nullptr;
     if (sqlite3_prepare_v2(database_, "PRAGMA quick_check(1)", -1, &statement, nullptr) != SQLITE_OK) fail();
     const int stepped = sqlite3_step(statement);
-    const std::string verdict = stepped == SQLITE_ROW ? column_text(statement).value_or("") : "";
+    const std::string verdict = stepped == SQLITE_ROW ? column_text(statement) : "";
     sqlite3_finalize(statement);
     if (stepped != SQLITE_ROW) fail();
     if (verdict != "ok") throw FileError(verdict, true);
 }
 
+void SqliteFile::check_values() {
+    sqlite3_stmt* statement = nullptr;
+    if (sqlite3_prepare_v2(database_, select_all, -1, &statement, nullptr) != SQLITE_OK) fail();
+    bool sound = true;
+    int stepped = SQLITE_ROW;
+    while (sound && (stepped = sqlite3_step(statement)) == SQLITE_ROW) {
+        SettingAddress address;
+        std::string text;
+        sound = read_row(statement, address, text);
+    }
+    sqlite3_finalize(statement);
+    if (!sound) throw FileError("a value has changed by itself", true);
+    if (stepped != SQLITE_DONE) fail();
+}
+
 void SqliteFile::prepare() {
     execute("CREATE TABLE IF NOT EXISTS setting (application TEXT NOT NULL, section TEXT NOT NULL,"
-            " key TEXT NOT NULL, text TEXT NOT NULL, PRIMARY KEY (application, section, key)) WITHOUT ROWID");
+            " key TEXT NOT NULL, text TEXT NOT NULL, checksum INTEGER NOT NULL,"
+            " PRIMARY KEY (application, section, key)) WITHOUT ROWID");
     const char* select = "SELECT text FROM setting WHERE application = ?1 AND section = ?2 AND key = ?3";
-    const char* upsert = "INSERT INTO setting VALUES (?1, ?2, ?3, ?4)"
-                         " ON CONFLICT DO UPDATE SET text = excluded.text";
+    const char* upsert = "INSERT INTO setting VALUES (?1, ?2, ?3, ?4, ?5)"
+                         " ON CONFLICT DO UPDATE SET text = excluded.text, checksum = excluded.checksum";
     // A table of another shape under this name is damage too: no version of the program has written it.
     if (sqlite3_prepare_v3(database_, select, -1, SQLITE_PREPARE_PERSISTENT, &select_, nullptr) != SQLITE_OK ||
         sqlite3_prepare_v3(database_, upsert, -1, SQLITE_PREPARE_PERSISTENT, &upsert_, nullptr) != SQLITE_OK) {
@@ -87,7 +141,10 @@ void SqliteFile::step(sqlite3_stmt* statement, const SettingAddress& address, co
     bind(1, address.application);
     bind(2, address.section);
     bind(3, address.key);
-    if (text) bind(4, *text);
+    if (text) {
+        bind(4, *text);
+        sqlite3_bind_int64(statement, 5, checksum_of(address, *text));
+    }
     const int stepped = sqlite3_step(statement);
     if (stepped == SQLITE_ROW && result) *result = column_text(statement);
     const int ended = sqlite3_reset(statement);
@@ -110,6 +167,16 @@ void SqliteFile::commit() { execute("COMMIT"); }
 
 void SqliteFile::roll_back() noexcept {
     if (!sqlite3_get_autocommit(database_)) sqlite3_exec(database_, "ROLLBACK", nullptr, nullptr, nullptr);
+}
+
+std::map<SettingAddress, std::string> salvaged_values(const std::string& path) {
+    std::map<SettingAddress, std::string> values;
+    sqlite3* database = nullptr;
+    if (sqlite3_open_v2(path.c_str(), &database, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK) {
+        values = readable_values(database);
+    }
+    sqlite3_close(database);
+    return values;
 }
 
 bool SqliteFile::still_in_place() const {

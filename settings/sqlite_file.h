@@ -2,6 +2,7 @@
 
 #include <sys/stat.h>
 
+#include <map>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -34,7 +35,7 @@ struct SettingAddress {
 /// One open SQLite file with the table of settings. Every function throws FileError.
 class SqliteFile {
   public:
-    /// Opens or creates the file and checks that it is whole.
+    /// Opens or creates the file and checks that it is whole: its structure, and the checksum of every value.
     explicit SqliteFile(const std::string& path);
     ~SqliteFile();
     SqliteFile(const SqliteFile&) = delete;
@@ -54,7 +55,8 @@ class SqliteFile {
   private:
     void execute(const char* sql);
     void prepare();
-    void check();
+    void check_structure();
+    void check_values();
     void step(sqlite3_stmt* statement, const SettingAddress& address, const std::string* text,
               std::optional<std::string>* result);
     [[noreturn]] void fail() const;
@@ -66,5 +68,9 @@ class SqliteFile {
     sqlite3_stmt* select_ = nullptr;
     sqlite3_stmt* upsert_ = nullptr;
 };
+
+/// The values of a damaged file that can still be read and whose checksum is right. Never throws, and leaves the
+/// file as it is.
+std::map<SettingAddress, std::string> salvaged_values(const std::string& path);
 
 }  // namespace tarnwick

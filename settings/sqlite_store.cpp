@@ -6,15 +6,13 @@
 namespace tarnwick {
 namespace fs = std::filesystem;
 
-SqliteStore::SqliteStore(const std::string& path) : path_(path) {
-    std::error_code failure;
-    const fs::path folder = fs::path(path).parent_path();
-    if (!folder.empty()) fs::create_directories(folder, failure);
-    open();
-}
+SqliteStore::SqliteStore(const std::string& path) : path_(path) { open(); }
 
 void SqliteStore::open() {
     file_.reset();
+    std::error_code ignored;
+    const fs::path folder = fs::path(path_).parent_path();
+    if (!folder.empty()) fs::create_directories(folder, ignored);
     try {
         file_ = std::make_unique<SqliteFile>(path_);
     } catch (const FileError& failure) {
@@ -24,6 +22,7 @@ void SqliteStore::open() {
         }
         try {
             file_ = std::make_unique<SqliteFile>(path_);
+            write_out();
         } catch (const FileError& second) {
             tell_unwritten(second.what());
         }
@@ -48,8 +47,9 @@ bool SqliteStore::set_aside() {
     if (failure) return false;
     // A journal left behind would be played into the new file.
     fs::rename(path_ + "-journal", aside.string() + "-journal", failure);
+    for (const auto& [address, text] : salvaged_values(aside.string())) unwritten_.try_emplace(address, text);
     notice("The file with your settings and scores was damaged: it was set aside as \"" + aside.string() +
-           "\", and a new one was begun.");
+           "\", and a new one was begun with what could still be read.");
     return true;
 }
 
@@ -67,8 +67,7 @@ void SqliteStore::tell_unwritten(const std::string& why) {
     if (told_unwritten_) return;
     told_unwritten_ = true;
     notice("Settings and scores cannot be saved in \"" + path_ + "\" (" + why +
-           "): you can play on, but they will be lost when you close the game unless the file can be written "
-           "again by then.");
+           "): you can play on, but they will be lost when you close the game.");
 }
 
 std::optional<std::string> SqliteStore::read(const std::string& application, const std::string& section,
@@ -82,11 +81,10 @@ std::optional<std::string> SqliteStore::read(const std::string& application, con
     try {
         return file_->read(address);
     } catch (const FileError& failure) {
+        if (recovered_from(failure)) return read(application, section, key);
         // Without its old values the file must not be written again: counts would start anew from nothing.
-        if (!recovered_from(failure)) {
-            tell_unwritten(failure.what());
-            file_.reset();
-        }
+        tell_unwritten(failure.what());
+        file_.reset();
         return std::nullopt;
     }
 }

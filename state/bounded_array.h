@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <stdexcept>
 
+#include "platform/fault_point.h"
 #include "state/integer.h"
 
 namespace tarnwick {
@@ -32,6 +33,7 @@ class BoundedArray {
     template <class... Indices>
     static std::size_t place(Indices... indices) {
         static_assert(sizeof...(Indices) == sizeof...(Last), "one index for each dimension");
+        fault_point();
         std::size_t place = 0;
         bool inside = true;
         // The unsigned comparison covers a negative index as well.

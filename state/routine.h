@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/fault_point.h"
 #include "state/report_error.h"
 #include "state/variables.h"
 
@@ -27,6 +28,7 @@ class Statements {
     template <class Statement>
     void operator()(Statement&& statement) {
         try {
+            fault_point();
             statement();
         } catch (const Leave&) {
             throw;
