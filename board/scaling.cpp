@@ -2,6 +2,7 @@
 
 #include "board/display.h"
 #include "settings/settings.h"
+#include "settings/stored_settings.h"
 #include "state/variables.h"
 #include "windows/frmcards.h"
 #include "windows/pictures.h"
@@ -23,7 +24,7 @@ void set_stretching(bool stretch) {
 }  // namespace
 
 void stretch_cards() {
-    const bool wanted = setting_is_on(key_scale_cards);
+    const bool wanted = stored_flag(key_scale_cards);
     const bool scaled = frmcards.width() < design_width * twips_per_pixel || wanted;
     set_stretching(scaled);
     card_scale = scaled ? x_scale : 1.0F;

@@ -25,11 +25,17 @@ void stop_effects() {
     if (frmcards.Timer3.enabled()) frmcards.Timer3.set_enabled(false);
 }
 
-void cover_peeked_card() { show_stored_back(animation(peeked_image) - peek_mark); }
+void cover_peeked_card() {
+    const int image = animation(peeked_image) - peek_mark;
+    // First the back in use: should the stored one not be readable, no face must stay.
+    frmcards.Image1(image).set_picture(current_back());
+    show_stored_back(image);
+}
 
 void end_peek() {
-    // Ended before the stored card back is read: should that fail, it must not fail again with every tick.
     const int image = animation(peeked_image) - peek_mark;
+    frmcards.Image1(image).set_picture(current_back());
+    // Ended before the stored card back is read: should that fail, it must not fail again with every tick.
     frmcards.Timer2.set_enabled(false);
     animation(peeked_image) = no_peek;
     show_stored_back(image);

@@ -49,9 +49,12 @@ QRectF label_place(const Rect& place, qreal scale) {
 
 int text_flags(const Label& label) {
     switch (label.alignment()) {
-        case Alignment::right: return Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip;
-        case Alignment::center: return Qt::AlignHCenter | Qt::AlignVCenter | Qt::TextDontClip;
-        case Alignment::left: break;
+        case Alignment::right:
+            return Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip;
+        case Alignment::center:
+            return Qt::AlignHCenter | Qt::AlignVCenter | Qt::TextDontClip;
+        case Alignment::left:
+            break;
     }
     return Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip;
 }
@@ -186,7 +189,8 @@ void BoardPainter::paint_lifted(QPainter& painter, const QRegion& area, qreal ra
 }
 
 void BoardPainter::paint_sprite(QPainter& painter, const Sprite& sprite) {
-    painter.drawPixmap(sprite.place.topLeft(), pictures_.pixmap(sprite.image->picture(), sprite.place.size()));
+    painter.drawPixmap(sprite.place.topLeft(),
+                       pictures_.pixmap(sprite.image->picture(), sprite.place.size()));
     if (!sprite.image->bordered()) return;
     painter.setPen(QPen(Qt::black, 1));
     painter.drawRect(QRectF(sprite.place).adjusted(0.5, 0.5, -0.5, -0.5));

@@ -19,8 +19,8 @@ class BoardPainter {
   public:
     explicit BoardPainter(const Form& form) : form_(form) {}
 
-    /// Paints what lies in `area` (pixels of the window's client area). Pictures may reach beyond it: clipping
-    /// is up to the painter.
+    /// Paints what lies in `area` (pixels of the window's client area). Pictures may reach beyond it:
+    /// clipping is up to the painter.
     void paint(QPainter& painter, const QRegion& area);
 
     /// Where a widget that lies at `place` can be seen, in whole pixels.

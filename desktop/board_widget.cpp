@@ -29,7 +29,6 @@ BoardWidget::BoardWidget(Form& form) : form_(form), painter_(form), label_scale_
     setMinimumSize(320, 240);
     scroll_bar_.hide();
     scroll_bar_.setSingleStep(scroll_step);
-    scroll_bar_.setCursor(Qt::ArrowCursor);
     connect(&scroll_bar_, &QScrollBar::valueChanged, this, [this](int value) {
         offset_ = value / scroll_grain * scroll_grain;
         repaint_all();
@@ -105,7 +104,8 @@ void BoardWidget::update_scrolling_later() {
     if (scrolling_is_stale_) return;
     scrolling_is_stale_ = true;
     // The whole layout changes in many small steps, and only its end counts.
-    QMetaObject::invokeMethod(this, [this] { update_scrolling(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { update_scrolling(); }, Qt::QueuedConnection);
 }
 
 void BoardWidget::update_scrolling() {
@@ -148,11 +148,14 @@ void BoardWidget::mouseReleaseEvent(QMouseEvent* event) {
     form_.mouse().release(static_cast<float>(at.x()), static_cast<float>(at.y()), button_of(*event));
 }
 
-QPointF BoardWidget::on_board(const QMouseEvent& event) const { return event.position() + QPointF(0, offset_); }
+QPointF BoardWidget::on_board(const QMouseEvent& event) const {
+    return event.position() + QPointF(0, offset_);
+}
 
 void BoardWidget::wheelEvent(QWheelEvent* event) {
     if (!form_.accepts_input() || scroll_bar_.maximum() == 0) return;
-    scroll_bar_.setValue(scroll_bar_.value() - event->angleDelta().y() * scroll_step / QWheelEvent::DefaultDeltasPerStep);
+    scroll_bar_.setValue(scroll_bar_.value() -
+                         event->angleDelta().y() * scroll_step / QWheelEvent::DefaultDeltasPerStep);
     const QPointF at = event->position() + QPointF(0, offset_);
     form_.mouse().move(static_cast<float>(at.x()), static_cast<float>(at.y()));
 }

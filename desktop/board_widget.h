@@ -45,7 +45,7 @@ class BoardWidget : public QWidget {
     QRect lifted_area_;
     std::vector<QRect> lifted_from_;  ///< where the lifted images were taken up
     qreal label_scale_ = 1;
-    int offset_ = 0;  ///< how far the board is scrolled down, in pixels
+    int offset_ = 0;    ///< how far the board is scrolled down, in pixels
     int repaints_ = 0;  ///< rectangles since the board was last painted
     bool scrolling_is_stale_ = false;
 };

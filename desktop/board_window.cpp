@@ -12,10 +12,12 @@ namespace {
 
 WindowState state_of(Qt::WindowStates states) {
     if (states & Qt::WindowMinimized) return WindowState::minimized;
-    return states & (Qt::WindowMaximized | Qt::WindowFullScreen) ? WindowState::maximized : WindowState::normal;
+    return states & (Qt::WindowMaximized | Qt::WindowFullScreen) ? WindowState::maximized
+                                                                 : WindowState::normal;
 }
 
-// The height nearest to the wished one that is a whole number of device pixels, so that the board begins at one.
+// The height nearest to the wished one that is a whole number of device pixels, so that the board begins at
+// one.
 int whole_device_height(int height, qreal ratio) {
     constexpr int quarters = 4;
     for (int more = 0; more < quarters; ++more) {
@@ -27,7 +29,8 @@ int whole_device_height(int height, qreal ratio) {
 
 }  // namespace
 
-BoardWindow::BoardWindow(Form& form) : form_(form), board_(*new BoardWidget(form)), color_(form.back_color()) {
+BoardWindow::BoardWindow(Form& form)
+    : form_(form), board_(*new BoardWidget(form)), color_(form.back_color()) {
     setObjectName(to_qt(form.name()));
     make_menus();
     setCentralWidget(&board_);
@@ -35,8 +38,6 @@ BoardWindow::BoardWindow(Form& form) : form_(form), board_(*new BoardWidget(form
 }
 
 void BoardWindow::make_menus() {
-    // A menu bar elsewhere on the screen would change what the window's height means.
-    menuBar()->setNativeMenuBar(false);
     for (const Menu& menu : form_.menus()) {
         QMenu* native = menuBar()->addMenu(to_qt(menu.caption));
         for (MenuEntry* entry : menu.entries) {

@@ -28,14 +28,16 @@ class FrameBox : public QGroupBox {
         if (!title().isEmpty()) {
             text = QRect(title_left, 0, fontMetrics().horizontalAdvance(title()), fontMetrics().height());
         }
-        painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+        painter.setPen(
+            palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
         painter.drawText(text, Qt::AlignLeft | Qt::TextDontClip, title());
         painter.setClipRegion(QRegion(rect()) - text.adjusted(-gap, 0, gap, 0));
         painter.setRenderHint(QPainter::Antialiasing);
         QColor border = palette().color(QPalette::WindowText);
         border.setAlpha(border_alpha);
         painter.setPen(border);
-        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, text.height() / 2 + 0.5, -0.5, -0.5), radius, radius);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, text.height() / 2 + 0.5, -0.5, -0.5), radius,
+                                radius);
     }
 };
 

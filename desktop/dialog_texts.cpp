@@ -19,9 +19,12 @@ constexpr qreal air = 2;
 
 Qt::Alignment alignment_of(const Label& label) {
     switch (label.alignment()) {
-        case Alignment::right: return Qt::AlignRight;
-        case Alignment::center: return Qt::AlignHCenter;
-        case Alignment::left: break;
+        case Alignment::right:
+            return Qt::AlignRight;
+        case Alignment::center:
+            return Qt::AlignHCenter;
+        case Alignment::left:
+            break;
     }
     return Qt::AlignLeft;
 }
@@ -42,7 +45,8 @@ bool text_fits(const QString& text, const QFont& font, const QSizeF& place) {
 
 class LabelControl : public DialogControl {
   public:
-    LabelControl(const Label& label, QLabel* native) : DialogControl(native), label_(label), native_(*native) {
+    LabelControl(const Label& label, QLabel* native)
+        : DialogControl(native), label_(label), native_(*native) {
         native->setTextFormat(Qt::PlainText);
     }
 
@@ -72,6 +76,7 @@ class LabelControl : public DialogControl {
     QFont font_at(qreal scale) const {
         QFont font = native_.parentWidget()->font();
         const auto points = static_cast<qreal>(label_.font().points);
+        if (!label_.font().family.empty()) font.setFamily(to_qt(label_.font().family));
         if (has_own_size()) font.setPixelSize(qRound(points * pixels_per_point * scale));
         font.setBold(label_.font().bold);
         return font;
@@ -80,7 +85,8 @@ class LabelControl : public DialogControl {
     // Names can be of any length: what does not fit ends in an ellipsis and can be read in full in a tip.
     void show_text(const QString& text, const QFont& font, const QSizeF& place) {
         const bool elided = !native_.wordWrap() && !text_fits(text, font, place);
-        native_.setText(elided ? QFontMetricsF(font).elidedText(text, Qt::ElideRight, place.width() - air) : text);
+        native_.setText(elided ? QFontMetricsF(font).elidedText(text, Qt::ElideRight, place.width() - air)
+                               : text);
         native_.setToolTip(elided ? text.toHtmlEscaped() : QString());
     }
 

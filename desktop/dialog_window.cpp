@@ -128,7 +128,7 @@ void DialogWindow::reject() {
         static_cast<Button*>(widget)->click();
         return;
     }
-    form_.close();
+    // Without a button that cancels there is nothing for Escape to do: it must not enter half a name.
 }
 
 void DialogWindow::closeEvent(QCloseEvent* event) {

@@ -9,11 +9,21 @@ namespace tarnwick {
 
 int key_code_of(int qt_key) {
     constexpr std::array codes{
-        std::pair{Qt::Key_Backspace, 8}, std::pair{Qt::Key_Tab, 9},       std::pair{Qt::Key_Return, enter_key},
-        std::pair{Qt::Key_Enter, enter_key}, std::pair{Qt::Key_Escape, 27}, std::pair{Qt::Key_PageUp, 33},
-        std::pair{Qt::Key_PageDown, 34}, std::pair{Qt::Key_End, 35},      std::pair{Qt::Key_Home, 36},
-        std::pair{Qt::Key_Left, 37},     std::pair{Qt::Key_Up, 38},       std::pair{Qt::Key_Right, 39},
-        std::pair{Qt::Key_Down, 40},     std::pair{Qt::Key_Insert, 45},   std::pair{Qt::Key_Delete, 46},
+        std::pair{Qt::Key_Backspace, 8},
+        std::pair{Qt::Key_Tab, 9},
+        std::pair{Qt::Key_Return, enter_key},
+        std::pair{Qt::Key_Enter, enter_key},
+        std::pair{Qt::Key_Escape, 27},
+        std::pair{Qt::Key_PageUp, 33},
+        std::pair{Qt::Key_PageDown, 34},
+        std::pair{Qt::Key_End, 35},
+        std::pair{Qt::Key_Home, 36},
+        std::pair{Qt::Key_Left, 37},
+        std::pair{Qt::Key_Up, 38},
+        std::pair{Qt::Key_Right, 39},
+        std::pair{Qt::Key_Down, 40},
+        std::pair{Qt::Key_Insert, 45},
+        std::pair{Qt::Key_Delete, 46},
     };
     // Space, the digits and the letters have the same codes on both sides.
     if (qt_key == Qt::Key_Space || (qt_key >= Qt::Key_0 && qt_key <= Qt::Key_9) ||
@@ -21,7 +31,8 @@ int key_code_of(int qt_key) {
         return qt_key;
     }
     if (qt_key >= Qt::Key_F1 && qt_key <= Qt::Key_F12) return 112 + qt_key - Qt::Key_F1;
-    const auto found = std::find_if(codes.begin(), codes.end(), [=](auto& code) { return code.first == qt_key; });
+    const auto found =
+        std::find_if(codes.begin(), codes.end(), [=](auto& code) { return code.first == qt_key; });
     return found == codes.end() ? 0 : found->second;
 }
 

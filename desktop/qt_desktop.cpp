@@ -13,6 +13,7 @@
 #include "desktop/board_window.h"
 #include "desktop/dialog_window.h"
 #include "desktop/help_window.h"
+#include "desktop/lean_style.h"
 #include "desktop/qt_convert.h"
 #include "platform/timer.h"
 
@@ -21,6 +22,10 @@ namespace tarnwick {
 QtDesktop::QtDesktop() {
     use_desktop(this);
     QApplication::setQuitOnLastWindowClosed(false);
+    // A menu bar elsewhere on the screen would change what a window's height means, and to look for one takes
+    // as long as all else at the start.
+    QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
+    QApplication::setStyle(new LeanStyle);
     timer_.setSingleShot(true);
     timer_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { tick(); });
@@ -35,6 +40,17 @@ QtDesktop::~QtDesktop() {
 }
 
 void QtDesktop::remove(WindowView& view) { std::erase(views_, &view); }
+
+void QtDesktop::detach_dialogs_of(const QWidget& window) {
+    for (const WindowView* view : views_) {
+        QWidget* dialog = view->window();
+        if (!dialog || dialog->parentWidget() != &window) continue;
+        const QPoint place = dialog->pos();
+        dialog->setParent(nullptr, dialog->windowFlags());
+        dialog->move(place);
+        if (view->form().visible()) dialog->show();
+    }
+}
 
 PixelSize QtDesktop::screen_size() const {
     const QSize size = QGuiApplication::primaryScreen()->availableSize();
@@ -80,7 +96,8 @@ void QtDesktop::tick() {
 }
 
 void QtDesktop::windows_changed() {
-    QMetaObject::invokeMethod(&timer_, [this] { settle_windows(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        &timer_, [this] { settle_windows(); }, Qt::QueuedConnection);
 }
 
 void QtDesktop::settle_windows() {
@@ -126,7 +143,8 @@ MessageAnswer QtDesktop::show_message(const Message& message) {
     box.setDefaultButton(QMessageBox::Ok);
     const bool confirmed = box.exec() == QMessageBox::Ok;
     // The message may have been shown outside of any event, so that no event's end arms the timer.
-    QMetaObject::invokeMethod(&timer_, [this] { timers_changed(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        &timer_, [this] { timers_changed(); }, Qt::QueuedConnection);
     return confirmed ? MessageAnswer::ok : MessageAnswer::cancel;
 }
 

@@ -5,11 +5,14 @@
 
 namespace tarnwick {
 
-WindowView::WindowView(QtDesktop& desktop, Form& form) : desktop_(desktop), form_(form) { desktop_.add(*this); }
+WindowView::WindowView(QtDesktop& desktop, Form& form) : desktop_(desktop), form_(form) {
+    desktop_.add(*this);
+}
 
 WindowView::~WindowView() {
     desktop_.remove(*this);
     if (!window_) return;
+    desktop_.detach_dialogs_of(*window_);
     window_->hide();
     window_->deleteLater();
 }

@@ -10,8 +10,8 @@ namespace tarnwick {
 class QtDesktop;
 
 /// What the views of all windows share. The native window is made when its form is first shown. It outlives
-/// its view by a moment, as a view may end within an event of its own window: it is hidden at once, so that it
-/// gets no more input, and deleted later.
+/// its view by a moment, as a view may end within an event of its own window: it is hidden at once, so that
+/// it gets no more input, and deleted later.
 class WindowView : public FormView {
   public:
     WindowView(QtDesktop& desktop, Form& form);

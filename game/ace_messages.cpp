@@ -7,19 +7,27 @@ namespace {
 
 std::string rank_name(int rank) {
     switch (rank) {
-        case jack: return "Jack";
-        case queen: return "Queen";
-        case king: return "King";
-        default: return std::to_string(rank + 1);
+        case jack:
+            return "Jack";
+        case queen:
+            return "Queen";
+        case king:
+            return "King";
+        default:
+            return std::to_string(rank + 1);
     }
 }
 
 std::string suit_name(int suit) {
     switch (suit) {
-        case hearts: return "Hearts";
-        case spades: return "Spades";
-        case diamonds: return "Diamonds";
-        default: return "Clubs";
+        case hearts:
+            return "Hearts";
+        case spades:
+            return "Spades";
+        case diamonds:
+            return "Diamonds";
+        default:
+            return "Clubs";
     }
 }
 

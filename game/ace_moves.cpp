@@ -28,16 +28,18 @@ bool fits_on_ace_pile(int top, int beneath, int rank, int pile_suit, int suit) {
 // How many steps of the slide a distance in pixels takes beyond the least number.
 int steps_for(float distance) { return static_cast<int>(std::abs(distance) / (175 * x_scale)); }
 
-int steps_from_column(int picture, int p) {
-    const Image& card = frmcards.Image1(picture);
+int steps_from_column(int p) {
+    const Image& card = frmcards.Image1(aces(p, picture_field));
     const Outline& outline = frmcards.Shape1(p);
     return steps_for(card.left() - outline.left()) + 3 + steps_for(card.top() - outline.top());
 }
 
 // Asks for the slide of a card that lies on pile p by now, but is still seen where it came from.
-void start_slide(Statements& then, int picture, int p, bool first_card, int steps) {
-    then([=] { animation(sliding_picture) = picture; });
-    then([=] { animation(beneath_sliding) = first_card ? no_card_beneath : int{aces(p, beneath_picture_field)}; });
+void start_slide(Statements& then, int p, bool first_card, int steps) {
+    then([=] { animation(sliding_picture) = aces(p, picture_field); });
+    then([=] {
+        animation(beneath_sliding) = first_card ? no_card_beneath : int{aces(p, beneath_picture_field)};
+    });
     then([=] { animation(slide_source) = drag_source; });
     then([=] { animation(slide_pile) = p; });
     then([=] { animation(slide_steps) = steps; });
@@ -70,12 +72,14 @@ bool to_ace(const Integer& target, const Integer& top_rank, const Integer& benea
 void tablet_to_ace(const Integer& target, bool animate) {
     resumable("tablet_to_ace", [&](Statements& then) {
         const int p = target - first_ace_pile;
-        const int slot = turned_slot();
-        const int picture = tablet(slot, picture_field);
-        const bool first_card = ace_pile_is_empty(p);
-        then([&] { push_on_ace_pile(p, tablet(slot, rank_field), tablet(slot, suit_field), picture); });
-        if (then.holds([&] { return slides(animate); })) {
-            start_slide(then, picture, p, first_card, 2 * p + 3);
+        bool first_card = false;
+        then([&] { first_card = ace_pile_is_empty(p); });
+        // Read before anything is changed: a stored text that does not convert must not stop the move
+        // halfway.
+        const bool slide = then.holds([&] { return slides(animate); });
+        then([&] { push_on_ace_pile(p, turned_card()); });
+        if (slide) {
+            start_slide(then, p, first_card, 2 * p + 3);
         } else {
             then([&] { redisplay_aces(p, first_card ? single_card_mode : stacked_mode); });
         }
@@ -90,13 +94,16 @@ void layout_to_ace(const Integer& target, bool animate) {
     resumable("layout_to_ace", [&](Statements& then) {
         const int p = target - first_ace_pile;
         const int c = drag_source;
-        const int top = column_top(c);
-        const int picture = layout(c, top, column_picture_field);
-        const bool first_card = ace_pile_is_empty(p);
-        then([&] { push_on_ace_pile(p, layout(c, top, rank_field), layout(c, top, suit_field), picture); });
-        then([&] { column_top(c) = top - 1; });
-        if (then.holds([&] { return slides(animate); })) {
-            start_slide(then, picture, p, first_card, steps_from_column(picture, p));
+        bool first_card = false;
+        then([&] { first_card = ace_pile_is_empty(p); });
+        // Read before anything is changed, as in tablet_to_ace.
+        const bool slide = then.holds([&] { return slides(animate); });
+        then([&] { push_on_ace_pile(p, top_card(c)); });
+        then([&] { column_top(c) -= 1; });
+        if (slide) {
+            int steps = 1;
+            then([&] { steps = steps_from_column(p); });
+            start_slide(then, p, first_card, steps);
         } else {
             then([&] { redisplay_aces(p, first_card ? single_card_mode : stacked_mode); });
         }

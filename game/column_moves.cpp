@@ -10,23 +10,21 @@
 namespace tarnwick {
 namespace {
 
-void place_on_column(int c, int rank, int suit, int picture) {
+void place_on_column(int c, const Card& card) {
     column_top(c) += 1;
     const int slot = column_top(c);
-    layout(c, slot, rank_field) = rank;
-    layout(c, slot, suit_field) = suit;
+    layout(c, slot, rank_field) = card.rank;
+    layout(c, slot, suit_field) = card.suit;
     layout(c, slot, face_down_field) = 0;
-    layout(c, slot, column_picture_field) = picture;
+    layout(c, slot, column_picture_field) = card.picture;
 }
 
-bool fits_on_top(int c, int rank, int suit) {
-    if (column_is_empty(c)) return rank == king;
-    const int top = column_top(c);
-    return builds_on(rank, suit, layout(c, top, rank_field), layout(c, top, suit_field));
+bool card_builds_on(const Card& card, const Card& below) {
+    return builds_on(card.rank, card.suit, below.rank, below.suit);
 }
 
-bool column_card_fits(int source, int i, int rank_below, int suit_below) {
-    return builds_on(layout(source, i, rank_field), layout(source, i, suit_field), rank_below, suit_below);
+bool fits_on_top(int c, const Card& card) {
+    return column_is_empty(c) ? card.rank == king : card_builds_on(card, top_card(c));
 }
 
 // What the search for the card to move finds for one card of the source column.
@@ -34,28 +32,21 @@ enum class Found { nothing, run, exchange };
 
 Found move_for_card(int source, int i, int c) {
     const bool face_up = layout(source, i, face_down_field) == 0;
-    const bool face_up_king = face_up && layout(source, i, rank_field) == king;
-    if (!face_up_king) {
-        if (!face_up || column_is_empty(c)) return Found::nothing;
-        const int top = column_top(c);
-        const bool fits = column_card_fits(source, i, layout(c, top, rank_field), layout(c, top, suit_field));
+    const Card card = column_card(source, i);
+    if (!face_up || card.rank != king) {
+        const bool fits = face_up && !column_is_empty(c) && card_builds_on(card, top_card(c));
         return fits ? Found::run : Found::nothing;
     }
     if (column_is_empty(c)) return Found::run;
-    const int top = column_top(source);
     const bool continues =
-        layout(c, 0, face_down_field) == 0 &&
-        column_card_fits(c, 0, layout(source, top, rank_field), layout(source, top, suit_field));
+        layout(c, 0, face_down_field) == 0 && card_builds_on(column_card(c, 0), top_card(source));
     return continues ? Found::exchange : Found::nothing;
 }
 
 void move_run(Statements& then, int source, int first, int c) {
     const int last = column_top(source);
     for (int j = first; j <= last; ++j) {
-        then([=] {
-            place_on_column(c, layout(source, j, rank_field), layout(source, j, suit_field),
-                            layout(source, j, column_picture_field));
-        });
+        then([=] { place_on_column(c, column_card(source, j)); });
         then([=] { column_top(source) -= 1; });
         then([=] { frmcards.Image1(layout(source, j, column_picture_field)).hide(); });
     }
@@ -65,10 +56,11 @@ void move_run(Statements& then, int source, int first, int c) {
 }
 
 void copy_face_up(int source, int from, int c, int to) {
-    layout(c, to, rank_field) = layout(source, from, rank_field);
-    layout(c, to, suit_field) = layout(source, from, suit_field);
+    const Card card = column_card(source, from);
+    layout(c, to, rank_field) = card.rank;
+    layout(c, to, suit_field) = card.suit;
     layout(c, to, face_down_field) = 0;
-    layout(c, to, column_picture_field) = layout(source, from, column_picture_field);
+    layout(c, to, column_picture_field) = card.picture;
 }
 
 // The whole target column goes onto the source column, and from the King on everything comes back.
@@ -95,15 +87,11 @@ void exchange(Statements& then, int source, int first, int c) {
 bool from_tablet_to_column(const Integer& c) {
     bool moved = false;
     resumable("from_tablet_to_column", [&](Statements& then) {
-        const int slot = turned_slot();
-        const int rank = tablet(slot, rank_field);
-        const int suit = tablet(slot, suit_field);
-        const int picture = tablet(slot, picture_field);
-        if (!then.holds([&] { return fits_on_top(c, rank, suit); })) return;
-        then([&] { place_on_column(c, rank, suit, picture); });
-        then([&] { frmcards.Image1(picture).hide(); });
+        if (!then.holds([&] { return fits_on_top(c, turned_card()); })) return;
+        then([&] { place_on_column(c, turned_card()); });
+        then([&] { frmcards.Image1(turned_card().picture).hide(); });
         then([&] { redisplay_column(c); });
-        then([&] { take_from_tablet(); });
+        then([] { take_from_tablet(); });
         then([&] { add_undo(tablet_pile, c, 1); });
         moved = true;
     });
@@ -114,7 +102,9 @@ bool from_column_to_column(const Integer& c) {
     bool moved = false;
     resumable("from_column_to_column", [&](Statements& then) {
         const int source = drag_source;
-        for (int i = column_top(source); i >= 0 && !moved; --i) {
+        int top = -1;
+        then([&] { top = column_top(source); });
+        for (int i = top; i >= 0 && !moved; --i) {
             Found found = Found::nothing;
             then([&] { found = move_for_card(source, i, c); });
             if (found == Found::run) move_run(then, source, i, c);
@@ -129,11 +119,9 @@ bool from_ace_to_column(const Integer& c) {
     bool moved = false;
     resumable("from_ace_to_column", [&](Statements& then) {
         const int p = drag_source - first_ace_pile;
-        const int rank = aces(p, rank_field);
-        const int picture = aces(p, picture_field);
-        if (!then.holds([&] { return fits_on_top(c, rank, aces(p, suit_field)); })) return;
-        then([&] { place_on_column(c, rank, aces(p, suit_field), picture); });
-        then([&] { frmcards.Image1(picture).hide(); });
+        if (!then.holds([&] { return fits_on_top(c, ace_pile_card(p)); })) return;
+        then([&] { place_on_column(c, ace_pile_card(p)); });
+        then([&] { frmcards.Image1(ace_pile_card(p).picture).hide(); });
         // An ace that will be alone is shown by another image than the plain ace beneath another card.
         then([&] { frmcards.Image1(aces(p, beneath_picture_field)).hide(); });
         then([&] { pop_ace_pile(p); });

@@ -4,8 +4,8 @@
 
 namespace tarnwick {
 
-// Moves that end on column c, 0 to 9. Each checks the rule for columns, moves, scores, draws and records the move;
-// the result is false when the move is refused, and nothing has changed then.
+// Moves that end on column c, 0 to 9. Each checks the rule for columns, moves, scores, draws and records the
+// move; the result is false when the move is refused, and nothing has changed then.
 
 /// The turned card of the tablet.
 bool from_tablet_to_column(const Integer& c);

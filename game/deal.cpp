@@ -15,7 +15,6 @@ namespace {
 
 constexpr int shuffle_passes = 3;
 
-using Card = std::array<Integer, 3>;
 using Cards = std::array<Card, card_count>;
 
 void put_into_deck(int row, int rank, int suit, int picture) {
@@ -46,6 +45,8 @@ void reset_state() {
 }
 
 void clear_table() {
+    // A card that is being dragged belongs to the old deal.
+    frmcards.mouse().cancel();
     frmcards.mnuUndo.set_visible(false);
     frmcards.Image1(plain_ace_image).hide();
     for (int i = stock_image; i < first_ace_zone + 4; ++i) frmcards.Image1(i).show();
@@ -95,12 +96,13 @@ void shuffle_deck() {
     random_generator().randomize();
     Cards cards;
     for (int row = 0; row < card_count; ++row) {
-        cards[static_cast<std::size_t>(row)] = {deck(row, 0), deck(row, 1), deck(row, 2)};
+        cards[static_cast<std::size_t>(row)] = {deck(row, rank_field), deck(row, suit_field),
+                                                deck(row, picture_field)};
     }
     for (int pass = 0; pass < shuffle_passes; ++pass) shuffle_once(cards);
     for (int row = 0; row < card_count; ++row) {
         const Card& card = cards[static_cast<std::size_t>(row)];
-        put_into_deck(row, card[0], card[1], card[2]);
+        put_into_deck(row, card.rank, card.suit, card.picture);
     }
 }
 

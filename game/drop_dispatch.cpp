@@ -47,22 +47,22 @@ void drop_on_column(int c, float x_pixels) {
 }
 
 // The first ace pile, from the left, that an automatic move may try; none when there is no such pile.
-int pile_for(int rank, int suit) {
+int pile_for(const Card& card) {
     for (int k = 0; k <= 3; ++k) {
-        if (rank == ace ? ace_pile_is_empty(k) : aces(k, suit_field) == suit) return k;
+        if (card.rank == ace ? ace_pile_is_empty(k) : aces(k, suit_field) == card.suit) return k;
     }
     return none;
 }
 
-bool offer_to_ace_pile(int p, int rank, int suit, bool animate) {
-    return to_ace(first_ace_pile + p, aces(p, rank_field), aces(p, beneath_rank_field), rank,
-                  aces(p, suit_field), suit, animate);
+bool offer_to_ace_pile(int p, const Card& card, bool animate) {
+    return to_ace(first_ace_pile + p, aces(p, rank_field), aces(p, beneath_rank_field), card.rank,
+                  aces(p, suit_field), card.suit, animate);
 }
 
-bool move_automatically(int rank, int suit) {
+bool move_automatically(const Card& card) {
     suppress_help = flag_true;
-    const int p = pile_for(rank, suit);
-    return p != none && offer_to_ace_pile(p, rank, suit, true);
+    const int p = pile_for(card);
+    return p != none && offer_to_ace_pile(p, card, true);
 }
 
 }  // namespace
@@ -79,17 +79,13 @@ void drop_on_image(int index, const Image& source, float x) {
             drop_on_column(column_at(target.left()), x / twips_per_pixel);
         }
     } else if (target.left() > tablet_target_limit * x_scale) {
-        column_to_column(ace_pile_at(target.left()));
+        // A card in flight passes places that belong to no pile.
+        column_to_column(is_sliding(target) ? first_ace_pile + animation(slide_pile)
+                                            : ace_pile_at(target.left()));
     } else if (drag_source == tablet_pile) {
         column_to_column(tablet_pile);
     }
     settle_landed_win();
-}
-
-void settle_landed_win() {
-    if (animation(slide_wins_game) != 1 || frmcards.Timer3.enabled()) return;
-    animation(slide_wins_game) = 0;
-    if (all_ace_piles_complete()) end_game();
 }
 
 bool column_to_column(const Integer& target) {
@@ -110,14 +106,11 @@ bool column_to_column(const Integer& target) {
 bool from_tablet_to(const Integer& target) {
     bool moved = false;
     resumable("from_tablet_to", [&](Statements& then) {
-        const int slot = turned_slot();
-        const int rank = tablet(slot, rank_field);
-        const int suit = tablet(slot, suit_field);
         then([] { suppress_help = flag_false; });
         if (target == tablet_pile) {
-            then([&] { moved = move_automatically(rank, suit); });
+            then([&] { moved = move_automatically(turned_card()); });
         } else if (target >= first_ace_pile) {
-            then([&] { moved = offer_to_ace_pile(target - first_ace_pile, rank, suit, false); });
+            then([&] { moved = offer_to_ace_pile(target - first_ace_pile, turned_card(), false); });
         } else {
             then([&] { moved = from_tablet_to_column(target); });
         }
@@ -128,14 +121,11 @@ bool from_tablet_to(const Integer& target) {
 bool from_column_to(const Integer& target) {
     bool moved = false;
     resumable("from_column_to", [&](Statements& then) {
-        const int top = column_top(drag_source);
-        const int rank = layout(drag_source, top, rank_field);
-        const int suit = layout(drag_source, top, suit_field);
         then([] { suppress_help = flag_false; });
         if (target >= first_ace_pile) {
-            then([&] { moved = offer_to_ace_pile(target - first_ace_pile, rank, suit, false); });
+            then([&] { moved = offer_to_ace_pile(target - first_ace_pile, top_card(drag_source), false); });
         } else if (target == drag_source) {
-            then([&] { moved = move_automatically(rank, suit); });
+            then([&] { moved = move_automatically(top_card(drag_source)); });
         } else {
             then([&] { moved = from_column_to_column(target); });
         }

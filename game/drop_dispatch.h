@@ -5,8 +5,9 @@
 
 namespace tarnwick {
 
-/// Deals with a drop of image `source` on image `index` of Image1: finds out the two piles and makes the move, if
-/// there is one; a move refused by a column is tried once more with its neighbour nearest to the pointer.
+/// Deals with a drop of image `source` on image `index` of Image1: finds out the two piles and makes the
+/// move, if there is one; a move refused by a column is tried once more with its neighbour nearest to the
+/// pointer.
 /// @param x  the pointer's distance from the left edge of the image dropped on, in twips
 void drop_on_image(int index, const Image& source, float x);
 
@@ -18,8 +19,5 @@ bool column_to_column(const Integer& target);
 bool from_tablet_to(const Integer& target);
 bool from_ace_to(const Integer& target);
 bool from_column_to(const Integer& target);
-
-/// After a slide was landed early: ends the game if that slide has won it and it is still won.
-void settle_landed_win();
 
 }  // namespace tarnwick

@@ -13,8 +13,8 @@ namespace {
 
 constexpr int best_scores = 5;
 
-// From the win dialog to the end of the statistics dialog after it, the game is counted but the next one is not
-// dealt yet.
+// From the win dialog to the end of the statistics dialog after it, the game is counted but the next one is
+// not dealt yet.
 bool is_counted_already() {
     return frmyouwin.visible() || (frmBestScore.visible() && frmBestScore.shpBestSquare.visible());
 }
@@ -48,12 +48,29 @@ void count_game() {
 }  // namespace
 
 void end_game() {
-    reporting("end_game", [] {
-        if (is_counted_already()) return;
-        stop_effects();
-        if (score != 0) count_game();
-        if (frmcards.enabled()) new_game();
+    const bool slide_cut_short = frmcards.Timer3.enabled();
+    bool ended = false;
+    reporting("end_game", [&ended] {
+        if (!is_counted_already()) {
+            stop_effects();
+            if (score != 0) count_game();
+            if (frmcards.enabled()) new_game();
+        }
+        ended = true;
     });
+    // After a failure the game goes on, and its cards must lie where they belong.
+    if (slide_cut_short && !ended) land_slide();
+}
+
+void finish_slide() {
+    land_slide();
+    settle_landed_win();
+}
+
+void settle_landed_win() {
+    if (animation(slide_wins_game) != 1 || frmcards.Timer3.enabled()) return;
+    animation(slide_wins_game) = 0;
+    if (all_ace_piles_complete()) end_game();
 }
 
 }  // namespace tarnwick

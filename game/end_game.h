@@ -2,9 +2,15 @@
 
 namespace tarnwick {
 
-/// Ends the game, won or not: stops the timed effects, counts a game with a score in the statistics, and deals
-/// the next game; a score that enters the best five opens the win dialog instead, and the next game is dealt
-/// when the statistics dialog after it is closed.
+/// Ends the game, won or not: stops the timed effects, counts a game with a score in the statistics, and
+/// deals the next game; a score that enters the best five opens the win dialog instead, and the next game is
+/// dealt when the statistics dialog after it is closed.
 void end_game();
+
+/// Lays the sliding card on its pile, and ends the game if that has won it.
+void finish_slide();
+
+/// After a slide has landed: ends the game if that slide has won it and it is still won.
+void settle_landed_win();
 
 }  // namespace tarnwick

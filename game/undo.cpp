@@ -15,7 +15,8 @@ void reverse_newest_record() {
     const int a = undo_list(0, 0);
     const int b = undo_list(0, 1);
     const bool to_ace_pile = b >= first_ace_pile;
-    // A turned-up record goes with its move; alone, after a failure, there is nothing that it could take back.
+    // A turned-up record goes with its move; alone, after a failure, there is nothing that it could take
+    // back.
     if (a == turned_up_record) return;
     if (a == turn_record) {
         undo_next_tablet_card();
@@ -31,11 +32,9 @@ void reverse_newest_record() {
 }  // namespace
 
 void do_undo() {
-    if (frmcards.Timer3.enabled()) {
-        land_slide();
-        // The winning move is the newest one: taken back, it ends no game.
-        animation(slide_wins_game) = 0;
-    }
+    if (frmcards.Timer3.enabled()) land_slide();
+    // A winning move that is taken back ends no game.
+    animation(slide_wins_game) = 0;
     reverse_newest_record();
     remove_undo_record(0);
     if (undo_count() < 1) frmcards.mnuUndo.set_visible(false);

@@ -16,17 +16,17 @@ void add_to_score(int points) {
 }
 
 // Puts a card back on top of column c, face up.
-void put_back_on_column(int c, int rank, int suit, int picture) {
+void put_back_on_column(int c, const Card& card) {
     column_top(c) += 1;
     const int top = column_top(c);
-    layout(c, top, rank_field) = rank;
-    layout(c, top, suit_field) = suit;
+    layout(c, top, rank_field) = card.rank;
+    layout(c, top, suit_field) = card.suit;
     layout(c, top, face_down_field) = 0;
-    layout(c, top, column_picture_field) = picture;
+    layout(c, top, column_picture_field) = card.picture;
 }
 
-// Where the move had turned up the card in slot `top` of column c, turns it down again; its record goes with the
-// move's.
+// Where the move had turned up the card in slot `top` of column c, turns it down again; its record goes with
+// the move's.
 void turn_down_again(int c, int top) {
     if (undo_count() < 2 || undo_list(1, 0) != turned_up_record) return;
     layout(c, top, face_down_field) = 1;
@@ -53,10 +53,8 @@ void take_back_from_ace_pile(int p) {
 void undo_from_ace_to_column() {
     const int p = undo_list(0, 0) - first_ace_pile;
     const int c = undo_list(0, 1);
-    const int top = column_top(c);
-    push_on_ace_pile(p, layout(c, top, rank_field), layout(c, top, suit_field),
-                     layout(c, top, column_picture_field));
-    column_top(c) = top - 1;
+    push_on_ace_pile(p, top_card(c));
+    column_top(c) -= 1;
     redisplay_aces(p, ace_pile_mode(p));
     add_to_score(1);
 }
@@ -66,7 +64,7 @@ void undo_from_column_to_ace() {
         const int c = undo_list(0, 0);
         const int p = undo_list(0, 1) - first_ace_pile;
         const int uncovered = column_top(c);
-        put_back_on_column(c, aces(p, rank_field), aces(p, suit_field), aces(p, picture_field));
+        put_back_on_column(c, ace_pile_card(p));
         take_back_from_ace_pile(p);
         turn_down_again(c, uncovered);
         add_to_score(-1);
@@ -80,8 +78,7 @@ void undo_from_column_to_column() {
     const int uncovered = column_top(source);
     const int last = column_top(c);
     for (int i = last - undo_list(0, 2); i <= last; ++i) {
-        put_back_on_column(source, layout(c, i, rank_field), layout(c, i, suit_field),
-                           layout(c, i, column_picture_field));
+        put_back_on_column(source, column_card(c, i));
         frmcards.Image1(layout(c, column_top(c), column_picture_field)).hide();
         column_top(c) -= 1;
     }

@@ -19,10 +19,10 @@ void make_room_in_tablet() {
     }
 }
 
-void put_into_turned_slot(int rank, int suit, int picture) {
-    tablet(turned_slot(), rank_field) = rank;
-    tablet(turned_slot(), suit_field) = suit;
-    tablet(turned_slot(), picture_field) = picture;
+void put_into_turned_slot(const Card& card) {
+    tablet(turned_slot(), rank_field) = card.rank;
+    tablet(turned_slot(), suit_field) = card.suit;
+    tablet(turned_slot(), picture_field) = card.picture;
 }
 
 void show_turned_slot() {
@@ -67,12 +67,11 @@ void undo_next_tablet_card() {
 void undo_from_tablet_to_column() {
     reporting("undo_from_tablet_to_column", [] {
         const int c = undo_list(0, 1);
-        const int top = column_top(c);
-        const int picture = layout(c, top, column_picture_field);
+        const Card card = top_card(c);
         make_room_in_tablet();
-        put_into_turned_slot(layout(c, top, rank_field), layout(c, top, suit_field), picture);
-        frmcards.Image1(picture).hide();
-        column_top(c) = top - 1;
+        put_into_turned_slot(card);
+        frmcards.Image1(card.picture).hide();
+        column_top(c) -= 1;
         redisplay_column(c);
         show_turned_slot();
         add_to_score(-1);
@@ -84,7 +83,7 @@ void undo_from_tablet_to_ace() {
     reporting("undo_from_tablet_to_ace", [] {
         const int p = undo_list(0, 1) - first_ace_pile;
         make_room_in_tablet();
-        put_into_turned_slot(aces(p, rank_field), aces(p, suit_field), aces(p, picture_field));
+        put_into_turned_slot(ace_pile_card(p));
         take_back_from_ace_pile(p);
         show_turned_slot();
         add_to_score(-2);

@@ -49,8 +49,8 @@ void set_column(int c, const std::vector<Position::ColumnCard>& cards) {
 void set_ace_pile(int p, const std::vector<int>& cards) {
     for (const int picture : cards) {
         const bool beneath = picture == ace_of_spades_image && cards.size() > 1;
-        push_on_ace_pile(p, rank_of_picture(picture), suit_of_picture(picture),
-                         beneath ? plain_ace_image : picture);
+        push_on_ace_pile(p, {rank_of_picture(picture), suit_of_picture(picture),
+                             beneath ? int{plain_ace_image} : picture});
     }
     frmcards.Image1(first_ace_zone + p).set_visible(cards.empty());
     redisplay_aces(p, ace_pile_mode(p));

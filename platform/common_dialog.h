@@ -13,7 +13,8 @@ class CommonDialogError : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// The colour picker and the help viewer behind one object, as its callers use it: set it up, show it, read it.
+/// The colour picker and the help viewer behind one object, as its callers use it: set it up, show it, read
+/// it.
 class CommonDialog {
   public:
     /// Whether a cancelled dialog raises an error.

@@ -22,8 +22,10 @@ class Outline : public Widget {
 
 enum class Alignment { left, right, center };
 
-/// How a label's text looks: a size in points (0 is the system's), bold or not.
+/// How a label's text looks: the family (empty is the system's), a size in points (0 is the system's), bold
+/// or not.
 struct Font {
+    std::string family;
     float points = 0;
     bool bold = false;
 };

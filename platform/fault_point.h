@@ -17,8 +17,8 @@ class ForcedFault : public std::runtime_error {
 /// Fault points still to be passed before one of them throws; 0 for none.
 inline int points_to_fault = 0;
 
-/// A place where a test can force a failure: each statement of a routine, each access to an array or a family of
-/// widgets.
+/// A place where a test can force a failure: each statement of a routine, each access to an array or a family
+/// of widgets.
 inline void fault_point() {
     if (points_to_fault > 0 && --points_to_fault == 0) throw ForcedFault();
 }

@@ -150,7 +150,8 @@ void Form::user_changed_state(WindowState state) {
 }
 
 bool Form::key_down(int key_code) {
-    if (!accepts_input() || !on_key_down) return false;
+    // A drag is one action of the player's: no key comes between its press and its release.
+    if (!accepts_input() || !on_key_down || mouse_.dragged()) return false;
     desktop().event([&] { on_key_down(key_code); });
     return true;
 }

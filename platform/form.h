@@ -14,7 +14,8 @@
 
 namespace tarnwick {
 
-/// What a desktop shows of one window. A window without a view (headless, or not loaded) is only kept in memory.
+/// What a desktop shows of one window. A window without a view (headless, or not loaded) is only kept in
+/// memory.
 class FormView {
   public:
     virtual ~FormView() = default;
@@ -142,9 +143,9 @@ class Form {
     bool enabled_ = true;
 };
 
-/// What a window's frame and menu bar take off its size, in pixels. The figures are fixed, so that a window of
-/// a given size has the same client area under every window manager; the height leaves the score labels (their
-/// lower edge lies 53 pixels above the frame's) three pixels of air.
+/// What a window's frame and menu bar take off its size, in pixels. The figures are fixed, so that a window
+/// of a given size has the same client area under every window manager; the height leaves the score labels
+/// (their lower edge lies 53 pixels above the frame's) three pixels of air.
 PixelSize frame_of(const Form& form);
 
 }  // namespace tarnwick

@@ -13,7 +13,8 @@ class Image;
 struct ImageEvents {
     std::function<void(int index)> click;
     std::function<void(int index)> double_click;
-    /// A dragged image was let go over image `index`; x and y are the pointer's place in that image, in twips.
+    /// A dragged image was let go over image `index`; x and y are the pointer's place in that image, in
+    /// twips.
     std::function<void(int index, Image& source, float x, float y)> drop;
 };
 

@@ -12,7 +12,10 @@ void MenuEntry::set_visible(bool visible) {
 }
 
 void MenuEntry::choose() {
-    if (visible_ && form_.accepts_input() && on_click) desktop().event(on_click);
+    if (!visible_ || !form_.accepts_input() || !on_click) return;
+    // What an entry does may change what lies under the pointer: a drag ends with it.
+    form_.mouse().cancel();
+    desktop().event(on_click);
 }
 
 }  // namespace tarnwick

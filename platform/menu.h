@@ -24,7 +24,8 @@ class MenuEntry {
     void set_visible(bool visible);
 
     std::function<void()> on_click;
-    /// What a desktop calls when the user chooses the entry; a hidden one and one of a disabled window do nothing.
+    /// What a desktop calls when the user chooses the entry; a hidden one and one of a disabled window do
+    /// nothing.
     void choose();
 
   private:

@@ -13,8 +13,9 @@ class Image;
 
 enum class MouseButton { left, other };
 
-/// What the left mouse button does to the images of one window: clicks and two-click events on images that are
-/// dragged by hand, drags and drops of those on automatic drag. Places are pixels in the window's client area.
+/// What the left mouse button does to the images of one window: clicks and two-click events on images that
+/// are dragged by hand, drags and drops of those on automatic drag. Places are pixels in the window's client
+/// area.
 class Mouse {
   public:
     explicit Mouse(Form& form) : form_(form) {}

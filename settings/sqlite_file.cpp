@@ -59,8 +59,8 @@ std::map<SettingAddress, std::string> readable_values(sqlite3* database) {
 }  // namespace
 
 SqliteFile::SqliteFile(const std::string& path) : path_(path) {
-    const int opened = sqlite3_open_v2(path.c_str(), &database_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE,
-                                       nullptr);
+    const int opened =
+        sqlite3_open_v2(path.c_str(), &database_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
     try {
         if (opened != SQLITE_OK) fail();
         sqlite3_busy_timeout(database_, patience);
@@ -110,15 +110,19 @@ void SqliteFile::check_values() {
 }
 
 void SqliteFile::prepare() {
-    execute("CREATE TABLE IF NOT EXISTS setting (application TEXT NOT NULL, section TEXT NOT NULL,"
-            " key TEXT NOT NULL, text TEXT NOT NULL, checksum INTEGER NOT NULL,"
-            " PRIMARY KEY (application, section, key)) WITHOUT ROWID");
+    execute(
+        "CREATE TABLE IF NOT EXISTS setting (application TEXT NOT NULL, section TEXT NOT NULL,"
+        " key TEXT NOT NULL, text TEXT NOT NULL, checksum INTEGER NOT NULL,"
+        " PRIMARY KEY (application, section, key)) WITHOUT ROWID");
     const char* select = "SELECT text FROM setting WHERE application = ?1 AND section = ?2 AND key = ?3";
-    const char* upsert = "INSERT INTO setting VALUES (?1, ?2, ?3, ?4, ?5)"
-                         " ON CONFLICT DO UPDATE SET text = excluded.text, checksum = excluded.checksum";
+    const char* upsert =
+        "INSERT INTO setting VALUES (?1, ?2, ?3, ?4, ?5)"
+        " ON CONFLICT DO UPDATE SET text = excluded.text, checksum = excluded.checksum";
     // A table of another shape under this name is damage too: no version of the program has written it.
-    if (sqlite3_prepare_v3(database_, select, -1, SQLITE_PREPARE_PERSISTENT, &select_, nullptr) != SQLITE_OK ||
-        sqlite3_prepare_v3(database_, upsert, -1, SQLITE_PREPARE_PERSISTENT, &upsert_, nullptr) != SQLITE_OK) {
+    if (sqlite3_prepare_v3(database_, select, -1, SQLITE_PREPARE_PERSISTENT, &select_, nullptr) !=
+            SQLITE_OK ||
+        sqlite3_prepare_v3(database_, upsert, -1, SQLITE_PREPARE_PERSISTENT, &upsert_, nullptr) !=
+            SQLITE_OK) {
         const bool damaged = (sqlite3_errcode(database_) & 0xFF) == SQLITE_ERROR;
         throw FileError(sqlite3_errmsg(database_), damaged || means_damage(sqlite3_errcode(database_)));
     }

@@ -69,8 +69,8 @@ class SqliteFile {
     sqlite3_stmt* upsert_ = nullptr;
 };
 
-/// The values of a damaged file that can still be read and whose checksum is right. Never throws, and leaves the
-/// file as it is.
+/// The values of a damaged file that can still be read and whose checksum is right. Never throws, and leaves
+/// the file as it is.
 std::map<SettingAddress, std::string> salvaged_values(const std::string& path);
 
 }  // namespace tarnwick

@@ -11,8 +11,8 @@ namespace tarnwick {
 
 /// The store in one SQLite file. Every read asks the file and every save is on the disk when it returns.
 ///
-/// Values that cannot be written are kept in memory, and written with the next save that succeeds. A file that
-/// turns out to be damaged is set aside beside the new one, and never overwritten. The listener is told.
+/// Values that cannot be written are kept in memory, and written with the next save that succeeds. A file
+/// that turns out to be damaged is set aside beside the new one, and never overwritten. The listener is told.
 class SqliteStore : public Store {
   public:
     /// Opens the file, creating it and its folder. Never throws: a store without a file works in memory.

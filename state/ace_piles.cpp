@@ -1,10 +1,8 @@
 #include "state/ace_piles.h"
 
-#include "state/variables.h"
-
 namespace tarnwick {
 
-void push_on_ace_pile(int p, int rank, int suit, int picture) {
+void push_on_ace_pile(int p, const Card& card) {
     if (ace_pile_is_empty(p)) {
         aces(p, last_used_field) = picture_field;
     } else {
@@ -18,9 +16,9 @@ void push_on_ace_pile(int p, int rank, int suit, int picture) {
             aces(p, beneath_rank_field + field) = aces(p, field);
         }
     }
-    aces(p, rank_field) = rank;
-    aces(p, suit_field) = suit;
-    aces(p, picture_field) = picture;
+    aces(p, rank_field) = card.rank;
+    aces(p, suit_field) = card.suit;
+    aces(p, picture_field) = card.picture;
 }
 
 void pop_ace_pile(int p) {

@@ -26,7 +26,8 @@ class Integer {
 
   private:
     static constexpr std::int16_t narrowed(int wide) {
-        if (wide < std::numeric_limits<std::int16_t>::min() || wide > std::numeric_limits<std::int16_t>::max()) {
+        if (wide < std::numeric_limits<std::int16_t>::min() ||
+            wide > std::numeric_limits<std::int16_t>::max()) {
             throw IntegerOverflow();
         }
         return static_cast<std::int16_t>(wide);

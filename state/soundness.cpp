@@ -88,7 +88,8 @@ void inspect_tablet(Inspection& inspection) {
     const int turned = turned_slot();
     inspection.expect(turned >= -1 && turned <= last && last < tablet_size, "tablet out of range");
     for (int i = 0; i <= last; ++i) {
-        inspection.see(tablet(i, rank_field), tablet(i, suit_field), tablet(i, picture_field), "in the tablet");
+        inspection.see(tablet(i, rank_field), tablet(i, suit_field), tablet(i, picture_field),
+                       "in the tablet");
     }
     const int shown = turned >= 0 ? int{tablet(turned, picture_field)} : empty_waste_image;
     inspection.expect(shown_tablet_image() == shown, "the tablet shows another card than the turned one");
@@ -98,7 +99,8 @@ void inspect_ace_pile(Inspection& inspection, int p) {
     const std::string where = "on ace pile " + std::to_string(p);
     const int size = ace_pile_size(p);
     if (size == 0) {
-        inspection.expect(aces(p, suit_field) == none && ace_pile_holds_one_card(p), "not quite empty " + where);
+        inspection.expect(aces(p, suit_field) == none && ace_pile_holds_one_card(p),
+                          "not quite empty " + where);
         return;
     }
     const int suit = aces(p, suit_field);

@@ -4,16 +4,16 @@
 
 namespace tarnwick {
 
-/// What is wrong with the state of the game, one sentence a fault; empty when nothing is. Checked are: each of
-/// the 100 cards lies in exactly one place, columns and ace piles are in order, the bookkeeping agrees with the
-/// cards, and the score is the one that the state earns.
+/// What is wrong with the state of the game, one sentence a fault; empty when nothing is. Checked are: each
+/// of the 100 cards lies in exactly one place, columns and ace piles are in order, the bookkeeping agrees
+/// with the cards, and the score is the one that the state earns.
 std::string state_faults();
 
 /// Whether state_faults() finds nothing.
 bool state_is_sound();
 
-/// The score that belongs to the state: a point for each card that has left the tablet, lies on an ace pile or
-/// was turned up, and the bonus once all four aces lie.
+/// The score that belongs to the state: a point for each card that has left the tablet, lies on an ace pile
+/// or was turned up, and the bonus once all four aces lie.
 int score_of_state();
 
 }  // namespace tarnwick

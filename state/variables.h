@@ -15,8 +15,9 @@ inline constexpr int picture_field = 2;
 /// The 100 cards in dealing order: rank, suit, picture.
 extern BoundedArray<99, 2> deck;
 
-/// The columns: (column, slot, field), slot 0 at the bottom. The fields are rank, suit, face-down flag (1 face
-/// down), picture. Slot 22 is bookkeeping: its field 0 is the slot of the column's top card, -1 for none.
+/// The columns: (column, slot, field), slot 0 at the bottom. The fields are rank, suit, face-down flag (1
+/// face down), picture. Slot 22 is bookkeeping: its field 0 is the slot of the column's top card, -1 for
+/// none.
 using Layout = BoundedArray<9, 22, 3>;
 extern Layout layout;
 extern Layout saved_layout;
@@ -40,14 +41,14 @@ inline constexpr int last_used_field = 29;
 
 /// The three timed effects; the elements are named below.
 extern BoundedArray<7> animation;
-inline constexpr int twinkle_frame = 0;     ///< image of the twinkle shown last, -1 when none plays
-inline constexpr int peeked_image = 1;      ///< 1000 + the image that shows its face for a moment, or 1
-inline constexpr int sliding_picture = 2;   ///< the card that slides to an ace pile
-inline constexpr int beneath_sliding = 3;   ///< the pile's card that moves beneath it, or no_card_beneath
-inline constexpr int slide_source = 4;      ///< the pile that the slide has started from
-inline constexpr int slide_pile = 5;        ///< the ace pile 0 to 3 that it goes to
-inline constexpr int slide_steps = 6;       ///< ticks still to go
-inline constexpr int slide_wins_game = 7;   ///< 1: the game ends with this slide
+inline constexpr int twinkle_frame = 0;    ///< image of the twinkle shown last, -1 when none plays
+inline constexpr int peeked_image = 1;     ///< 1000 + the image that shows its face for a moment, or 1
+inline constexpr int sliding_picture = 2;  ///< the card that slides to an ace pile
+inline constexpr int beneath_sliding = 3;  ///< the pile's card that moves beneath it, or no_card_beneath
+inline constexpr int slide_source = 4;     ///< the pile that the slide has started from
+inline constexpr int slide_pile = 5;       ///< the ace pile 0 to 3 that it goes to
+inline constexpr int slide_steps = 6;      ///< ticks still to go
+inline constexpr int slide_wins_game = 7;  ///< 1: the game ends with this slide
 inline constexpr int no_card_beneath = 9999;
 inline constexpr int no_twinkle = -1;
 inline constexpr int no_peek = 1;
@@ -91,6 +92,21 @@ inline bool ace_pile_is_complete(int p) { return aces(p, beneath_rank_field) == 
 /// How many of the four piles hold no card.
 int empty_ace_piles();
 bool all_ace_piles_complete();
+
+/// One card as the routines hand it on.
+struct Card {
+    int rank = none;
+    int suit = none;
+    int picture = none;
+};
+/// The turned card of the tablet; throws SubscriptOutOfRange when none is turned.
+Card turned_card();
+/// The card in a slot of column c.
+Card column_card(int c, int slot);
+/// The top card of column c; throws SubscriptOutOfRange when it is empty.
+Card top_card(int c);
+/// The top card of ace pile p.
+Card ace_pile_card(int p);
 
 inline Integer& undo_count() { return undo_list(300, 0); }
 

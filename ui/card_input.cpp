@@ -13,9 +13,7 @@ namespace {
 constexpr int space_key = 32;
 constexpr int peek_time = 1500;
 
-bool is_face_down_image(int index) {
-    return index >= first_face_down_image && index < first_face_image;
-}
+bool is_face_down_image(int index) { return index >= first_face_down_image && index < first_face_image; }
 
 void click(int index) {
     if (index == stock_image) next_tablet_card();
@@ -42,8 +40,8 @@ void key_down(int key_code) {
     if (key_code == space_key && !tablet_is_turned_for_good()) next_tablet_card();
 }
 
-// A column's card takes those that lie on it along. Of an ace pile it is the top card that moves, whichever of the
-// two was taken hold of.
+// A column's card takes those that lie on it along. Of an ace pile it is the top card that moves, whichever
+// of the two was taken hold of.
 std::vector<Image*> lift(Image& dragged) {
     const auto image = [](int picture) { return &frmcards.Image1(picture); };
     for (int c = 0; c <= last_column; ++c) {

@@ -6,9 +6,9 @@
 #include "game/end_game.h"
 #include "platform/desktop.h"
 #include "settings/settings.h"
+#include "settings/stored_settings.h"
 #include "state/variables.h"
 #include "ui/handlers.h"
-#include "ui/stored_settings.h"
 #include "ui/table_colors.h"
 #include "windows/frmcards.h"
 

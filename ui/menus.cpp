@@ -13,7 +13,15 @@
 namespace tarnwick {
 namespace {
 
+// A slide that wins the game must not end it behind a dialog: it lands before one opens. False when that has
+// opened the win dialog.
+bool can_open_dialog() {
+    if (frmcards.Timer3.enabled()) finish_slide();
+    return frmcards.enabled();
+}
+
 void show_best_scores() {
+    if (!can_open_dialog()) return;
     frmcards.set_enabled(false);
     frmBestScore.show();
 }
@@ -24,6 +32,7 @@ void exit_program() {
 }
 
 void change_settings() {
+    if (!can_open_dialog()) return;
     frmcards.set_enabled(false);
     frmFeatures.show();
 }

@@ -2,6 +2,8 @@
 
 #include "platform/desktop.h"
 #include "settings/settings.h"
+#include "settings/stored_settings.h"
+#include "state/variables.h"
 #include "ui/handlers.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmCommon.h"
@@ -14,6 +16,7 @@ namespace tarnwick {
 
 void start_program(Store& store) {
     use_store(&store);
+    forget_told_settings();
     attach_main_window();
     attach_card_input();
     attach_timers();
@@ -29,13 +32,19 @@ void start_program(Store& store) {
 }
 
 void end_program() {
-    for (Form* form : {static_cast<Form*>(&frmcards), static_cast<Form*>(&frmyouwin),
-                       static_cast<Form*>(&frmBestScore), static_cast<Form*>(&frmFeatures),
-                       static_cast<Form*>(&frmError), static_cast<Form*>(&frmCommon)}) {
+    for (Form* form :
+         {static_cast<Form*>(&frmcards), static_cast<Form*>(&frmyouwin), static_cast<Form*>(&frmBestScore),
+          static_cast<Form*>(&frmFeatures), static_cast<Form*>(&frmError), static_cast<Form*>(&frmCommon)}) {
         form->on_unload = nullptr;
         form->unload();
     }
     use_store(nullptr);
+    // A program starts with its variables zero: the next one must not lay out the cards of this game at
+    // first.
+    layout = {};
+    tablet = {};
+    aces = {};
+    x_scale = card_scale = 0;
 }
 
 }  // namespace tarnwick

@@ -3,8 +3,8 @@
 #include "board/display.h"
 #include "board/scaling.h"
 #include "settings/settings.h"
+#include "settings/stored_settings.h"
 #include "ui/handlers.h"
-#include "ui/stored_settings.h"
 #include "ui/table_colors.h"
 #include "windows/frmCommon.h"
 #include "windows/frmFeatures.h"
@@ -36,7 +36,7 @@ void choose_back(int index) {
 }
 
 void load() {
-    frmFeatures.resize_client(dialog_size);
+    frmFeatures.resize(dialog_size);
     for (int i = 0; i < back_count; ++i) {
         frmFeatures.ImgCardBacks(i).set_picture(frmcards.ImgCardBacks(i).picture());
     }
@@ -90,7 +90,10 @@ void save_back() {
     for (int i = 0; i < back_count; ++i) {
         if (!frmFeatures.optCardBack(i).on()) continue;
         save_setting(key_card_back, text_of(i));
+        const bool all_turned = frmcards.Image1(stock_image).picture().none();
         change_back(i);
+        // An empty place stays one: there is no card whose back it could show.
+        if (all_turned) frmcards.Image1(stock_image).set_picture({});
     }
 }
 

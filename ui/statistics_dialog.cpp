@@ -1,6 +1,7 @@
 #include <cmath>
 #include <string>
 
+#include "board/timed_effects.h"
 #include "game/deal.h"
 #include "platform/desktop.h"
 #include "settings/settings.h"
@@ -51,15 +52,16 @@ void unload() {
     frmcards.set_enabled(true);
     if (frmBestScore.shpBestSquare.visible()) {
         frmBestScore.shpBestSquare.hide();
+        // The table went on twinkling behind the dialogs.
+        stop_effects();
         new_game();
     }
     frmcards.raise();
 }
 
 void clear_score() {
-    const MessageAnswer answer =
-        desktop().message_box({"Clear Scores?", "Are you sure you want to clear the high scores?",
-                               MessageButtons::ok_cancel});
+    const MessageAnswer answer = desktop().message_box(
+        {"Clear Scores?", "Are you sure you want to clear the high scores?", MessageButtons::ok_cancel});
     if (answer != MessageAnswer::ok) return;
     settings_store().transaction([] {
         save_setting(key_average_score, "0");

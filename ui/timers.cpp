@@ -18,7 +18,9 @@ Image& ace_of_spades() { return frmcards.Image1(ace_of_spades_image); }
 
 bool ace_lies_on_top_of_a_pile() {
     constexpr float turned_card_limit = 83.333F;
-    return ace_of_spades().visible() && ace_of_spades().top() == static_cast<float>(top_row) &&
+    // The turned card lies a fraction of a pixel to the right of the limit at some widths.
+    return shown_tablet_image() != ace_of_spades_image && ace_of_spades().visible() &&
+           ace_of_spades().top() == static_cast<float>(top_row) &&
            ace_of_spades().left() > turned_card_limit * x_scale;
 }
 
@@ -66,8 +68,7 @@ void tick_slide() {
     }
     animation(slide_steps) -= 1;
     if (animation(slide_steps) > 0) return;
-    land_slide();
-    if (animation(slide_wins_game) == 1) end_game();
+    finish_slide();
 }
 
 }  // namespace

@@ -17,7 +17,9 @@ void load() {
     const bool won = all_ace_piles_complete() && high_score_place == 1;
     frmyouwin.lblYouWin.set_visible(won);
     frmyouwin.lblNewHighScore.set_visible(!won);
-    if (won) save_setting(key_games_won, text_of(to_double(read_setting(key_games_won, 0)) + 1));
+    if (!won) return;
+    settings_store().transaction(
+        [] { save_setting(key_games_won, text_of(to_double(read_setting(key_games_won, 0)) + 1)); });
 }
 
 void move_entry_down(int place) {

@@ -20,8 +20,9 @@ FrmBestScore::FrmBestScore() : Form("frmBestScore") {
             column->add(i, *this).put_into(Frame1);
         }
     }
-    for (Widget* widget : {static_cast<Widget*>(&shpBestSquare), static_cast<Widget*>(&lblScoreText),
-                           static_cast<Widget*>(&lblNameText), static_cast<Widget*>(&lblHighScoreDateText1)}) {
+    for (Widget* widget :
+         {static_cast<Widget*>(&shpBestSquare), static_cast<Widget*>(&lblScoreText),
+          static_cast<Widget*>(&lblNameText), static_cast<Widget*>(&lblHighScoreDateText1)}) {
         widget->put_into(Frame1);
     }
     // Begins with the button that does no harm.

@@ -26,20 +26,20 @@ void Frmyouwin::design() {
     imgLogo.set_stretch(true);
     imgLogo.move_twips(120, 480, 2292, 2388);
 
-    const auto design_label = [](Label& label, const char* caption, Font font) {
+    const auto design_label = [](Label& label, const char* caption, const Font& font) {
         label.set_caption(caption);
         label.set_font(font);
     };
-    design_label(lblComgrats, "Congratulations", {18, true});
+    design_label(lblComgrats, "Congratulations", {"Arial", 18, true});
     lblComgrats.move_twips(3360, 480, 2775, 435);
-    design_label(lblYouWin, "You Won!", {32.25F, true});
+    design_label(lblYouWin, "You Won!", {"Arial", 32.25F, true});
     lblYouWin.move_twips(3252, 1080, 3000, 756);
-    design_label(lblNewHighScore, "You have a new high score!", {18, true});
+    design_label(lblNewHighScore, "You have a new high score!", {"Arial", 18, true});
     lblNewHighScore.set_alignment(Alignment::center);
     lblNewHighScore.move_twips(3000, 960, 3372, 852);
     design_label(Label1, "Your Name", {});
     Label1.move_twips(2400, 2040, 852, 252);
-    design_label(lblPlatform, "Tarnwick", {15.75F, true});
+    design_label(lblPlatform, "Tarnwick", {"Arial", 15.75F, true});
     lblPlatform.move_twips(3504, 2520, 2400, 360);
 
     txtYourName.set_text("");

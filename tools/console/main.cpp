@@ -1,5 +1,5 @@
-// Plays records of games, headless: reads actions from a file or from standard input, and answers each with the
-// position after it.
+// Plays records of games, headless: reads actions from a file or from standard input, and answers each with
+// the position after it.
 
 #include <charconv>
 #include <cstdlib>
@@ -74,7 +74,8 @@ int run(const std::vector<std::string>& arguments) {
                           std::cout);
     } else if (first == "--signature" && arguments.size() > 1) {
         RecordPlayer player;
-        for (std::size_t i = 1; i < arguments.size(); ++i) play_file(arguments[i], player, nullptr, signature);
+        for (std::size_t i = 1; i < arguments.size(); ++i)
+            play_file(arguments[i], player, nullptr, signature);
         std::cout << signature.text() << '\n';
     } else if (arguments.empty()) {
         RecordPlayer player;

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace tarnwick {
+
+/// The desktop's style without the one icon that every menu bar loads, and that only a window too narrow for
+/// its three menus would show. It would cost the loading of all image plugins at the start.
+class LeanStyle : public QProxyStyle {
+  public:
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
+                       const QWidget* widget) const override {
+        if (icon == SP_ToolBarHorizontalExtensionButton) return {};
+        return QProxyStyle::standardIcon(icon, option, widget);
+    }
+};
+
+}  // namespace tarnwick

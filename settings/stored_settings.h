@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/color.h"
+
+namespace tarnwick {
+
+// Stored settings as a window needs them when it is loaded or laid out. A text that does not convert must not
+// keep it from appearing: the default stands in for it, and the player is told once.
+
+int stored_card_back();
+Color stored_back_color();
+Color stored_text_color();
+/// A setting that is on unless it is stored as off.
+bool stored_flag(const char* key);
+
+/// Tells about each text that does not convert anew; for the start of the program.
+void forget_told_settings();
+
+}  // namespace tarnwick
