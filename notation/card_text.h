@@ -5,8 +5,8 @@
 
 namespace tarnwick {
 
-// Cards as text: the rank, the suit, and ' for a card of the second pack, as in K♠, 10♦ or 2♥'. The suit may also
-// be written with its letter: h, s, d or c.
+// Cards as text: the rank, the suit, and ' for a card of the second pack, as in K♠, 10♦ or 2♥'. The suit may
+// also be written with its letter: h, s, d or c.
 
 /// A card written out.
 std::string card_text(int picture);

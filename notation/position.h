@@ -25,8 +25,9 @@ struct Position {
 /// The position of the game in hand. A card that slides to its ace pile lies there already.
 Position current_position();
 
-/// Puts the game in hand into a position, on the table as well: with an empty undo list and no effect under way.
-/// The deal that a restart brings back stays what it was. The position must keep the rules (see parse_position).
+/// Puts the game in hand into a position, on the table as well: with an empty undo list and no effect under
+/// way. The deal that a restart brings back stays what it was. The position must keep the rules (see
+/// parse_position).
 void set_position(const Position& position);
 
 }  // namespace tarnwick

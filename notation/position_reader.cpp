@@ -59,7 +59,8 @@ class Reader {
     void read_line(std::string_view line) {
         const std::size_t colon = line.find(':');
         const Words name = split(line.substr(0, colon), " \t\r");
-        if (colon == std::string_view::npos || name.empty()) refuse("no pile in \"" + std::string(line) + "\"");
+        if (colon == std::string_view::npos || name.empty())
+            refuse("no pile in \"" + std::string(line) + "\"");
         Words words = split(line.substr(colon + 1), " \t\r");
         std::string whole_name(name[0]);
         if (name.size() > 1) whole_name += ' ' + std::string(name[1]);
@@ -162,11 +163,13 @@ class Reader {
             const auto face_down = static_cast<std::size_t>(
                 std::count_if(column.begin(), column.end(), [](const auto& card) { return card.face_down; }));
             std::vector<Position::ColumnCard> filled;
-            for (std::size_t k = face_down; k < c && next != rest.end(); ++k) filled.push_back({*next++, true});
+            for (std::size_t k = face_down; k < c && next != rest.end(); ++k)
+                filled.push_back({*next++, true});
             column.insert(column.begin(), filled.begin(), filled.end());
         }
         if (!rest_in_tablet_) return;
-        while (next != rest.end() && position_.tablet.size() < tablet_size) position_.tablet.push_back(*next++);
+        while (next != rest.end() && position_.tablet.size() < tablet_size)
+            position_.tablet.push_back(*next++);
     }
 
     void check_column(std::size_t c) const {

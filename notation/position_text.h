@@ -15,12 +15,13 @@ namespace tarnwick {
 //     tablet: 4♣ (5♦) 6♠ ..      in turning order, the turned card in parentheses; ".." are all cards left
 //     score: 12                  without this line the score is the one that the position earns
 //
-// A pile without a line, or with "-", is empty. The cards that no line names lie where ".." stands in a column or
-// in the tablet: the columns are filled first, then the tablet, in order of suits and packs. Those that find no
-// room there are out of the game.
+// A pile without a line, or with "-", is empty. The cards that no line names lie where ".." stands in a
+// column or in the tablet: the columns are filled first, then the tablet, in order of suits and packs. Those
+// that find no room there are out of the game.
 
-/// Reads a position. Throws std::invalid_argument, saying in one line what is wrong: with the text, or with the
-/// rules (a card named twice, a run out of order, a face-down card where none is dealt or on top, too many cards).
+/// Reads a position. Throws std::invalid_argument, saying in one line what is wrong: with the text, or with
+/// the rules (a card named twice, a run out of order, a face-down card where none is dealt or on top, too
+/// many cards).
 Position parse_position(std::string_view text);
 
 /// Writes a position; reading it gives the same one.

@@ -54,7 +54,8 @@ class Words {
 
 int take_pile(Words& words) {
     if (words.take("tablet")) return tablet_pile;
-    if (words.take("ace")) return first_ace_pile + static_cast<int>(words.take_number(3, "an ace pile, 0 to 3,"));
+    if (words.take("ace"))
+        return first_ace_pile + static_cast<int>(words.take_number(3, "an ace pile, 0 to 3,"));
     return static_cast<int>(words.take_number(last_column, "a pile (0 to 9, tablet, ace 0 to ace 3)"));
 }
 
@@ -79,15 +80,15 @@ bool parse_action(std::string_view line, Action& action) {
         action.target = take_pile(words);
         constexpr std::uint32_t card_width_in_record = 70;
         if (words.take("at")) {
-            action.offset = static_cast<int>(words.take_number(card_width_in_record, "a place on a card, 0 to 70,"));
+            action.offset =
+                static_cast<int>(words.take_number(card_width_in_record, "a place on a card, 0 to 70,"));
         }
     } else if (words.take("undo")) {
         action.kind = ActionKind::undo;
     } else if (words.take("restart")) {
         action.kind = ActionKind::restart;
     } else if (!words.take("turn")) {
-        throw std::invalid_argument("\"" + words.word() +
-                                    "\" is none of deal, turn, drag, undo and restart");
+        throw std::invalid_argument("\"" + words.word() + "\" is none of deal, turn, drag, undo and restart");
     }
     words.expect_end();
     return true;
@@ -115,11 +116,16 @@ std::vector<Action> parse_record(std::string_view text) {
 
 std::string text_of(const Action& action) {
     switch (action.kind) {
-        case ActionKind::deal: return "deal " + std::to_string(action.deal);
-        case ActionKind::turn: return "turn";
-        case ActionKind::undo: return "undo";
-        case ActionKind::restart: return "restart";
-        case ActionKind::drag: break;
+        case ActionKind::deal:
+            return "deal " + std::to_string(action.deal);
+        case ActionKind::turn:
+            return "turn";
+        case ActionKind::undo:
+            return "undo";
+        case ActionKind::restart:
+            return "restart";
+        case ActionKind::drag:
+            break;
     }
     std::string text = "drag " + pile_text(action.source) + ' ' + pile_text(action.target);
     if (action.offset != Action::default_drop_offset) text += " at " + std::to_string(action.offset);

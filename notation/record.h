@@ -37,8 +37,8 @@ struct Action {
     static constexpr int default_drop_offset = 30;
 };
 
-/// Reads one line; false when there is nothing on it. Throws std::invalid_argument, saying in a few words what is
-/// wrong with it.
+/// Reads one line; false when there is nothing on it. Throws std::invalid_argument, saying in a few words
+/// what is wrong with it.
 bool parse_action(std::string_view line, Action& action);
 
 /// Reads a whole record. Throws std::invalid_argument with "line 3: " before the fault.

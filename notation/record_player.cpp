@@ -86,10 +86,18 @@ void RecordPlayer::play(const Action& action) {
     if (!started_) throw std::invalid_argument("a record begins with a deal");
     if (!frmcards.accepts_input()) throw std::invalid_argument("the game is over");
     switch (action.kind) {
-        case ActionKind::turn: turn(); break;
-        case ActionKind::drag: drag(action); break;
-        case ActionKind::undo: frmcards.mnuUndo.choose(); break;
-        default: frmcards.mnuRestart.choose(); break;
+        case ActionKind::turn:
+            turn();
+            break;
+        case ActionKind::drag:
+            drag(action);
+            break;
+        case ActionKind::undo:
+            frmcards.mnuUndo.choose();
+            break;
+        default:
+            frmcards.mnuRestart.choose();
+            break;
     }
 }
 

@@ -11,14 +11,15 @@
 
 namespace tarnwick {
 
-/// Plays records through a headless desktop of its own, with the same mouse events as in the real window. Cards do
-/// not slide, so that every action is over when it returns.
+/// Plays records through a headless desktop of its own, with the same mouse events as in the real window.
+/// Cards do not slide, so that every action is over when it returns.
 class RecordPlayer {
   public:
     RecordPlayer();
     ~RecordPlayer();
 
-    /// Plays one action. Throws std::invalid_argument when it cannot be done: no card to drag, or the game is over.
+    /// Plays one action. Throws std::invalid_argument when it cannot be done: no card to drag, or the game is
+    /// over.
     void play(const Action& action);
 
     /// The help messages that the last action has brought up.

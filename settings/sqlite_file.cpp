@@ -84,14 +84,21 @@ void SqliteFile::close() noexcept {
     sqlite3_close(database_);
 }
 
-void SqliteFile::check_structure() {
+std::string SqliteFile::answer_to(const char* question) {
     sqlite3_stmt* statement = nullptr;
-    if (sqlite3_prepare_v2(database_, "PRAGMA quick_check(1)", -1, &statement, nullptr) != SQLITE_OK) fail();
+    if (sqlite3_prepare_v2(database_, question, -1, &statement, nullptr) != SQLITE_OK) fail();
     const int stepped = sqlite3_step(statement);
-    const std::string verdict = stepped == SQLITE_ROW ? column_text(statement) : "";
+    std::string answer = stepped == SQLITE_ROW ? column_text(statement) : "";
     sqlite3_finalize(statement);
     if (stepped != SQLITE_ROW) fail();
+    return answer;
+}
+
+void SqliteFile::check_structure() {
+    const std::string verdict = answer_to("PRAGMA quick_check(1)");
     if (verdict != "ok") throw FileError(verdict, true);
+    // In another encoding the values would all be there, but under names that nobody asks for.
+    if (answer_to("PRAGMA encoding") != "UTF-8") throw FileError("another encoding", true);
 }
 
 void SqliteFile::check_values() {

@@ -55,6 +55,7 @@ class SqliteFile {
   private:
     void execute(const char* sql);
     void prepare();
+    std::string answer_to(const char* question);
     void check_structure();
     void check_values();
     void step(sqlite3_stmt* statement, const SettingAddress& address, const std::string* text,

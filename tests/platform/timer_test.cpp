@@ -1,0 +1,114 @@
+#include "platform/timer.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <vector>
+
+#include "platform/form.h"
+#include "platform/headless.h"
+
+namespace tarnwick {
+namespace {
+
+struct Clockwork : Form {
+    Clockwork() : Form("clockwork") {}
+    void design() override {
+        timer.set_interval(100);
+        timer.set_enabled(true);
+    }
+    Timer timer{*this};
+};
+
+// Timers register for good, so that they must live as long as the program.
+Clockwork& clockwork() {
+    static Clockwork form;
+    return form;
+}
+
+class TimerTest : public testing::Test {
+  protected:
+    TimerTest() {
+        clockwork().timer.on_tick = [this] { ticks.push_back(desktop.now()); };
+        clockwork().show();
+    }
+    ~TimerTest() override { clockwork().unload(); }
+
+    using Times = std::vector<std::int64_t>;
+    HeadlessDesktop desktop;
+    Timer& timer = clockwork().timer;
+    Times ticks;
+};
+
+TEST_F(TimerTest, TicksAtItsIntervalWhileEnabledAndLoaded) {
+    desktop.advance(350);
+    EXPECT_EQ(ticks, (Times{100, 200, 300}));
+    timer.set_enabled(false);
+    desktop.advance(1000);
+    EXPECT_EQ(ticks.size(), 3U);
+    timer.set_enabled(true);
+    desktop.advance(150);
+    EXPECT_EQ(ticks.back(), 1450) << "enabling starts a new period";
+    clockwork().unload();
+    desktop.advance(1000);
+    EXPECT_EQ(ticks.size(), 4U);
+}
+
+TEST_F(TimerTest, StartsANewPeriodWhenTheIntervalChanges) {
+    desktop.advance(90);
+    timer.set_interval(30);
+    desktop.advance(29);
+    EXPECT_EQ(ticks, Times{});
+    desktop.advance(1);
+    EXPECT_EQ(ticks, Times{120});
+    desktop.advance(10);
+    timer.set_interval(30);
+    desktop.advance(20);
+    EXPECT_EQ(ticks.back(), 150) << "the same interval again changes nothing";
+    timer.set_interval(0);
+    desktop.advance(1000);
+    EXPECT_EQ(ticks.size(), 2U);
+}
+
+TEST_F(TimerTest, TicksOnceAfterASleepAndKeepsOn) {
+    desktop.sleep(1050);
+    EXPECT_EQ(ticks, Times{1050});
+    desktop.advance(100);
+    EXPECT_LE(ticks.size(), 3U) << "missed ticks are not made up for";
+}
+
+TEST_F(TimerTest, NeverTicksWithinAnEvent) {
+    desktop.event([this] {
+        desktop.sleep(500);
+        EXPECT_EQ(ticks, Times{});
+    });
+    desktop.sleep(0);
+    EXPECT_EQ(ticks, Times{500});
+}
+
+TEST(Event, ThatFailsIsToldOnceAndTheProgramGoesOn) {
+    HeadlessDesktop desktop;
+    desktop.event([] { throw std::runtime_error("no such card"); });
+    ASSERT_EQ(desktop.messages().size(), 1U);
+    EXPECT_NE(desktop.messages()[0].text.find("no such card"), std::string::npos);
+    int runs = 0;
+    desktop.event([&runs] { ++runs; });
+    EXPECT_EQ(runs, 1);
+    EXPECT_FALSE(desktop.in_event());
+}
+
+TEST(Event, IsFollowedByWhatWasLeftForLater) {
+    HeadlessDesktop desktop;
+    std::string order;
+    desktop.event([&] {
+        desktop.after_event([&order] { order += "later "; });
+        desktop.event([&order] { order += "inner "; });
+        order += "outer ";
+    });
+    EXPECT_EQ(order, "inner outer later ");
+    desktop.after_event([&order] { order += "at once"; });
+    EXPECT_EQ(order, "inner outer later at once");
+}
+
+}  // namespace
+}  // namespace tarnwick

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "platform/headless.h"
+#include "platform/image.h"
+#include "settings/store.h"
+#include "state/cards.h"
+
+namespace tarnwick {
+
+/// Pile numbers as the player sees them: columns are 0 to 9.
+constexpr int ace_pile(int p) { return 12 + p; }
+
+/// A drop this far into an image is never tried on a neighbouring column.
+inline constexpr float middle = 30;
+
+/// A running game on the headless desktop, played with mouse and keys at pixel positions. Settings that the
+/// program finds at its start are saved into the store before `start`.
+class Play {
+  public:
+    explicit Play(PixelSize screen = {810, 610}) : desktop(screen) {}
+    ~Play();
+    Play(const Play&) = delete;
+    Play& operator=(const Play&) = delete;
+
+    void start(std::uint32_t deal = 1);
+    /// Starts, without sliding cards, in a position.
+    void start(const std::string& position);
+
+    /// Presses the mouse on the card that a pile would move, and lets go over what lies on top of the target,
+    /// `offset` pixels from its left edge.
+    void drag(int from, int to, float offset = middle);
+    /// A drag that takes hold of slot `slot` of column `from`.
+    void drag_slot(int from, int slot, int to, float offset = middle);
+    void drag_image(const Image& from, const Image& to, float offset = middle);
+    /// Press and release at one place of a pile's top card: the way to send it to its ace pile.
+    void click(int pile, float offset = middle);
+    void click_stock(int times = 1);
+    void double_click(const Image& image);
+    void space(int times = 1);
+    void undo();
+
+    /// The text of the last message box, which is then forgotten; empty when there was none.
+    std::string message();
+
+    void save(const std::string& key, const std::string& text) {
+        store.save("Tarnwick", "setting", key, text);
+    }
+    /// The stored text of a key, "-" when there is none.
+    std::string stored(const std::string& key);
+
+    HeadlessDesktop desktop;
+    MemoryStore store;
+};
+
+/// The image seen on top of a pile, or its drop zone (the stock for the tablet) when it is empty.
+Image& top_image(int pile);
+
+/// What is wrong with the images of the table compared with the state; empty when every card is seen exactly
+/// where it lies and nothing else is. Not while a card slides.
+std::string display_faults();
+
+/// The undo list, newest record first, as "(25 25 -1) (3 12 1)".
+std::string undo_records();
+
+/// Whether each line of `lines` is one of the lines that position_text() writes.
+bool shows(const std::string& lines);
+
+}  // namespace tarnwick

@@ -1,0 +1,142 @@
+#include <gtest/gtest.h>
+
+#include "notation/position_text.h"
+#include "state/variables.h"
+#include "tests/support/play.h"
+#include "windows/frmCommon.h"
+#include "windows/frmFeatures.h"
+#include "windows/frmcards.h"
+#include "windows/pictures.h"
+
+namespace tarnwick {
+namespace {
+
+class SettingsDialog : public testing::Test {
+  protected:
+    void open() {
+        if (!frmcards.loaded()) play.start();
+        frmcards.mnuSetings.choose();
+    }
+    int bordered_back() {
+        int bordered = -1;
+        for (int i = 0; i < back_count; ++i) {
+            if (frmFeatures.ImgCardBacks(i).bordered()) bordered = bordered == -1 ? i : 99;
+            EXPECT_EQ(frmFeatures.optCardBack(i).on(), frmFeatures.ImgCardBacks(i).bordered());
+        }
+        return bordered;
+    }
+
+    Play play;
+};
+
+TEST_F(SettingsDialog, ShowsWhatIsStored) {
+    play.save("card back", "4");
+    play.save("anamate", "False");
+    play.save("scale cards", "0");
+    play.save("show message", "-1");
+    play.save("back color", "255");
+    play.save("text color", "16777215");
+    open();
+    EXPECT_FALSE(frmcards.enabled());
+    EXPECT_EQ(bordered_back(), 4);
+    EXPECT_FALSE(frmFeatures.chkAnamate.checked());
+    EXPECT_FALSE(frmFeatures.chkScaleCards.checked());
+    EXPECT_TRUE(frmFeatures.chkDisplayMes.checked());
+    EXPECT_EQ(frmFeatures.txtBackColor.back_color(), 255);
+    EXPECT_EQ(frmFeatures.txtTextColor.text_color(), 16777215);
+    EXPECT_EQ(frmcards.back_color(), 255) << "the table as well, from the start";
+    EXPECT_EQ(frmcards.LblScore.text_color(), 16777215);
+    EXPECT_EQ(frmcards.Shape1(14).border_color(), 16777215);
+    EXPECT_EQ(frmcards.Image1(stock_image).picture(), back_picture(4));
+}
+
+TEST_F(SettingsDialog, ConfirmedUntouchedRewritesEverythingButTheScaling) {
+    open();
+    x_scale = 3;  // a rescaling would measure nothing, but lay out by this
+    frmFeatures.cmdOk.click();
+    EXPECT_EQ(card_scale, 1);
+    EXPECT_EQ(play.stored("card back"), "0");
+    EXPECT_EQ(play.stored("back color"), "32768");
+    EXPECT_EQ(play.stored("text color"), "0");
+    EXPECT_EQ(play.stored("show message"), "True");
+    EXPECT_EQ(play.stored("anamate"), "True");
+    EXPECT_EQ(play.stored("scale cards"), "-");
+    EXPECT_FALSE(frmFeatures.loaded());
+    EXPECT_TRUE(frmcards.enabled());
+}
+
+TEST_F(SettingsDialog, SavesAndAppliesTheChoices) {
+    play.start();
+    frmcards.user_resized({1192, 700});
+    open();
+    frmFeatures.optCardBack(2).click();
+    EXPECT_EQ(bordered_back(), 2);
+    // A click on a back chooses it like its option button.
+    const Image& fifth = frmFeatures.ImgCardBacks(5);
+    fifth.events().click(5);
+    EXPECT_EQ(bordered_back(), 5);
+    EXPECT_EQ(play.stored("card back"), "-") << "nothing is saved yet";
+    frmFeatures.chkScaleCards.set_checked(false);
+    frmFeatures.chkAnamate.set_checked(false);
+    frmFeatures.chkDisplayMes.set_checked(false);
+    frmFeatures.cmdOk.click();
+    EXPECT_EQ(play.stored("card back"), "5");
+    EXPECT_EQ(play.stored("scale cards"), "False");
+    EXPECT_EQ(play.stored("anamate"), "False");
+    EXPECT_EQ(play.stored("show message"), "False");
+    EXPECT_EQ(card_scale, 1);
+    EXPECT_EQ(display_faults(), "");
+    open();
+    frmFeatures.chkScaleCards.set_checked(true);
+    frmFeatures.cmdOk.click();
+    EXPECT_EQ(play.stored("scale cards"), "True");
+    EXPECT_EQ(card_scale, 1.5F);
+    EXPECT_EQ(display_faults(), "");
+}
+
+TEST_F(SettingsDialog, SavesAPickedColorAtOnceButShowsItOnConfirmation) {
+    open();
+    play.desktop.answer_color(color_of(1, 2, 3));
+    frmFeatures.txtBackColor.click();
+    EXPECT_EQ(play.stored("back color"), "197121");
+    EXPECT_EQ(frmFeatures.txtBackColor.back_color(), 197121);
+    EXPECT_EQ(frmFeatures.txtBackColor.text_color(), 197121);
+    EXPECT_FALSE(frmCommon.loaded());
+    frmFeatures.cmdCancel.click();
+    EXPECT_EQ(frmcards.back_color(), 32768);
+    EXPECT_TRUE(frmcards.enabled());
+    open();
+    EXPECT_EQ(frmFeatures.txtBackColor.back_color(), 197121);
+    play.desktop.answer_color(7);
+    frmFeatures.txtTextColor.type("x");
+    EXPECT_EQ(play.stored("text color"), "7") << "typing into the swatch picks too";
+    frmFeatures.cmdOk.click();
+    EXPECT_EQ(frmcards.back_color(), 197121);
+    EXPECT_EQ(frmcards.LblScoreMax.back_color(), 197121);
+    EXPECT_EQ(frmcards.lblScoreText.text_color(), 7);
+    EXPECT_EQ(frmcards.Shape1(0).border_color(), 7);
+}
+
+TEST_F(SettingsDialog, SavesNoColorWhenThePickerIsCancelled) {
+    open();
+    frmFeatures.txtTextColor.click();
+    EXPECT_EQ(play.stored("text color"), "-");
+    EXPECT_EQ(frmFeatures.txtTextColor.back_color(), black);
+    EXPECT_TRUE(frmCommon.loaded());
+    EXPECT_EQ(play.message(), "");
+    frmFeatures.close();
+    EXPECT_TRUE(frmcards.enabled());
+}
+
+TEST_F(SettingsDialog, OpensOverStoredTextsThatCannotBeUsed) {
+    play.save("card back", "9");
+    play.save("back color", "green");
+    open();
+    EXPECT_TRUE(frmFeatures.visible());
+    EXPECT_EQ(bordered_back(), 0);
+    EXPECT_EQ(frmFeatures.txtBackColor.back_color(), 32768);
+    EXPECT_NE(play.message().find("back color"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace tarnwick
