@@ -49,16 +49,9 @@ install_packages() {
 
 # Configures and builds one preset: configure_and_build PRESET [TARGET ...]
 configure_and_build() {
-    local preset=$1 log
+    local preset=$1
     shift
-    log=$(mktemp)
-    if ! cmake --preset "$preset" >"$log" 2>&1; then
-        cat "$log" >&2
-        rm -f "$log"
-        return 1
-    fi
-    rm -f "$log"
-    cmake --build --preset "$preset" ${1:+--target "$@"}
+    cmake --preset "$preset" && cmake --build --preset "$preset" ${1:+--target "$@"}
 }
 
 # Starts a virtual display with a window manager and sets DISPLAY: start_virtual_display WIDTHxHEIGHT
