@@ -26,6 +26,7 @@ class Family {
     W& add(int index, Arguments&&... arguments) {
         const auto slot = static_cast<std::size_t>(index);
         if (slot >= members_.size()) members_.resize(slot + 1);
+        // cppcheck-suppress constStatement
         members_[slot] = std::make_unique<W>(std::forward<Arguments>(arguments)...);
         return *members_[slot];
     }

@@ -27,10 +27,6 @@ std::string read_setting(const std::string& key, const std::string& default_text
     return settings_store().read(application, section, key).value_or(default_text);
 }
 
-std::string read_setting(const std::string& key, const char* default_text) {
-    return read_setting(key, std::string(default_text));
-}
-
 std::string read_setting(const std::string& key, int default_value) {
     return read_setting(key, text_of(default_value));
 }

@@ -35,7 +35,8 @@ Store& settings_store();
 
 /// The stored text of a key, or the default as text. Every call asks the store.
 std::string read_setting(const std::string& key, const std::string& default_text);
-std::string read_setting(const std::string& key, const char* default_text);
+/// Would read as a number or a flag: a text is passed as a std::string.
+std::string read_setting(const std::string& key, const char* default_text) = delete;
 std::string read_setting(const std::string& key, int default_value);
 std::string read_setting(const std::string& key, bool default_value);
 

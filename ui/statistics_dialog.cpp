@@ -40,8 +40,8 @@ void load() {
     frmBestScore.lblGamesPlayed.set_caption(read_setting(key_games_played, 0));
     for (int i = 1; i <= last_place; ++i) {
         frmBestScore.lblHighScore(i).set_caption(read_setting(key_high_score(i), 0));
-        frmBestScore.lblHighScoreName(i).set_caption(read_setting(key_high_score_name(i), ""));
-        frmBestScore.lblHighScoreDate(i).set_caption(read_setting(key_high_score_date(i), ""));
+        frmBestScore.lblHighScoreName(i).set_caption(read_setting(key_high_score_name(i), std::string()));
+        frmBestScore.lblHighScoreDate(i).set_caption(read_setting(key_high_score_date(i), std::string()));
     }
     show_average();
 }

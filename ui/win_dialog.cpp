@@ -24,8 +24,8 @@ void load() {
 
 void move_entry_down(int place) {
     const std::string best = read_setting(key_high_score(place), 0);
-    const std::string name = read_setting(key_high_score_name(place), "");
-    const std::string date = read_setting(key_high_score_date(place), "");
+    const std::string name = read_setting(key_high_score_name(place), std::string());
+    const std::string date = read_setting(key_high_score_date(place), std::string());
     save_setting(key_high_score(place + 1), best);
     save_setting(key_high_score_name(place + 1), name);
     save_setting(key_high_score_date(place + 1), date);

@@ -49,7 +49,7 @@ Table stored_table() {
     Table table;
     for (int place = 1; place <= static_cast<int>(places); ++place) {
         table.push_back({to_integer(read_setting(key_high_score(place), 0)),
-                         read_setting(key_high_score_name(place), "")});
+                         read_setting(key_high_score_name(place), std::string())});
     }
     return table;
 }
