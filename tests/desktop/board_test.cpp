@@ -1,0 +1,172 @@
+#include <gtest/gtest.h>
+
+#include "state/variables.h"
+#include "tests/desktop/board_picture.h"
+#include "tests/desktop/eventually.h"
+#include "windows/frmcards.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr const char* program = TARNWICK_PROGRAM;
+
+// The columns of this deal end in Q♦ 10♥ K♦ 6♠ A♣ 2♥ J♦ 9♣ 6♦ Q♣. The ace of Spades, which glints at times of
+// its own, is never played.
+constexpr std::uint32_t deal = 26;
+constexpr int column_of_king = 2;
+constexpr int column_of_ace = 4;
+constexpr int column_of_jack = 6;
+constexpr int column_of_queen = 9;
+
+Image& back(int c, int k) { return frmcards.Image1(face_down_image(c, k)); }
+
+// How long every slide to an ace pile has ended after.
+constexpr int slide_time = 1000;
+
+// The bare table under the shortest column.
+constexpr Spot bare{60, 820};
+
+TEST(Board, IsThereFromTheStart) {
+    TwinGame game({program, deal});
+    EXPECT_EQ(game.screen().title(game.window()), main_title);
+    const XPlace window = game.screen().place(game.window());
+    EXPECT_EQ(board_faults(game), "");
+    EXPECT_EQ(window.width, game.board().width);
+    for (const Label* label : {&frmcards.lblScoreText, &frmcards.LblScore, &frmcards.LblScoreMax}) {
+        EXPECT_LE(label->place().bottom(), static_cast<float>(game.board().height)) << label->caption();
+    }
+    const XPlace screen = game.screen().screen();
+    EXPECT_TRUE(window.x >= 0 && window.x + window.width <= screen.width) << window.x;
+    EXPECT_TRUE(window.y >= 0 && window.y + window.height <= screen.height) << window.y;
+}
+
+TEST(Board, TurnsTheTabletOnceForEveryClick) {
+    TwinGame game({program, deal});
+    game.click_stock();
+    EXPECT_EQ(turned_slot(), 4);
+    EXPECT_EQ(board_faults(game), "");
+    for (int i = 0; i < 4; ++i) game.click_stock();
+    EXPECT_EQ(turned_slot(), 24);
+    EXPECT_EQ(board_faults(game), "");
+    game.space();
+    EXPECT_EQ(turned_slot(), 29);
+    EXPECT_EQ(board_faults(game), "");
+}
+
+TEST(Board, LiftedCardsFollowThePointerToAColumn) {
+    TwinGame game({program, deal});
+    game.drag(column_of_jack, column_of_queen);
+    EXPECT_EQ(board_faults(game), "");
+    const Image& queen = frmcards.Image1(layout(column_of_queen, column_of_queen, column_picture_field));
+    game.press(TwinGame::spot_on(queen));
+    EXPECT_EQ(frmcards.mouse().lifted().size(), 2U);
+    EXPECT_EQ(board_faults(game), "") << "taken up";
+    game.move(bare);
+    EXPECT_EQ(board_faults(game), "") << "on the way";
+    game.release(TwinGame::spot_on(top_image(column_of_king)));
+    EXPECT_EQ(column_top(column_of_king), column_of_king + 2);
+    EXPECT_EQ(board_faults(game), "") << "put down";
+}
+
+TEST(Board, ARefusedCardIsBackAtOnce) {
+    TwinGame game({program, deal});
+    const QImage before = expected_board();
+    game.drag(column_of_king, column_of_ace);
+    game.drag(TwinGame::spot_on(top_image(column_of_jack)), bare);
+    EXPECT_EQ(expected_board(), before);
+    EXPECT_EQ(board_faults(game), "");
+    // What comes after is not disturbed, and shows that all of it has been dealt with.
+    game.space();
+    EXPECT_EQ(board_faults(game), "");
+}
+
+TEST(Board, EscapeEndsADrag) {
+    TwinGame game({program, deal});
+    game.press(TwinGame::spot_on(top_image(column_of_jack)));
+    game.move(bare);
+    ASSERT_EQ(board_faults(game), "");
+    game.screen().key("Escape");
+    frmcards.mouse().cancel();
+    EXPECT_EQ(board_faults(game), "") << "at Escape";
+    game.release(TwinGame::spot_on(top_image(column_of_queen)));
+    game.space();
+    EXPECT_EQ(column_top(column_of_queen), column_of_queen);
+    EXPECT_EQ(board_faults(game), "") << "at the release after it";
+}
+
+TEST(Board, OtherButtonsDoNotDisturbADrag) {
+    TwinGame game({program, deal});
+    game.press(TwinGame::spot_on(top_image(column_of_jack)));
+    game.move(bare);
+    const Spot target = TwinGame::spot_on(top_image(column_of_queen));
+    game.press(target, XButton::right);
+    game.release(target, XButton::right);
+    EXPECT_NE(frmcards.mouse().dragged(), nullptr);
+    EXPECT_EQ(board_faults(game), "") << "while it is held";
+    game.release(target);
+    EXPECT_EQ(column_top(column_of_queen), column_of_queen + 1);
+    EXPECT_EQ(board_faults(game), "");
+    game.press(TwinGame::spot_on(frmcards.Image1(stock_image)), XButton::right);
+    game.release(TwinGame::spot_on(frmcards.Image1(stock_image)), XButton::right);
+    game.space();
+    EXPECT_EQ(turned_slot(), 4) << "the right button has turned the tablet";
+    EXPECT_EQ(board_faults(game), "");
+}
+
+TEST(Board, AClickSendsAnAceUp) {
+    TwinGame game({program, deal});
+    game.click(column_of_ace);
+    ASSERT_TRUE(frmcards.Timer3.enabled());
+    game.headless().desktop.advance(slide_time);
+    EXPECT_FALSE(ace_pile_is_empty(0));
+    EXPECT_EQ(board_faults(game), "");
+}
+
+TEST(Board, APeekLastsAMomentAndAHalf) {
+    TwinGame game({program, deal});
+    const QImage before = expected_board();
+    const Spot spot = TwinGame::spot_on(back(5, 2));
+    game.click(spot);
+    const auto start = std::chrono::steady_clock::now();
+    game.click(spot);
+    ASSERT_NE(expected_board(), before);
+    EXPECT_EQ(board_faults(game), "") << "the face";
+    game.headless().desktop.advance(1500);
+    ASSERT_EQ(expected_board(), before);
+    EXPECT_EQ(board_faults(game), "") << "the back again";
+    EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(1500));
+}
+
+TEST(Board, FollowsTheSizeOfTheWindow) {
+    TwinGame game({program, deal});
+    for (const auto& [width, height] : {std::pair{900, 700}, {700, 500}, {1100, 900}}) {
+        game.resize(width, height);
+        EXPECT_EQ(frmcards.client_size().width, width);
+        EXPECT_EQ(board_faults(game), "") << width;
+    }
+}
+
+TEST(Board, ComesBackFromBeingMinimised) {
+    TwinGame game({program, deal});
+    // Only a window that has settled is minimised for good.
+    ASSERT_EQ(board_faults(game), "");
+    game.screen().minimize(game.window());
+    ASSERT_TRUE(eventually([&] { return game.screen().minimized(game.window()); }));
+    game.screen().restore(game.window());
+    ASSERT_TRUE(game.gets_keyboard(game.window()));
+    EXPECT_EQ(board_faults(game), "");
+    game.space();
+    EXPECT_EQ(turned_slot(), 4);
+    EXPECT_EQ(board_faults(game), "");
+}
+
+TEST(Board, IsSharpAtTwiceTheSize) {
+    TwinGame game({.program = program, .deal = deal, .settings = {}, .environment = {}, .scale = 2});
+    game.resize(1200, 900);
+    EXPECT_EQ(board_faults(game), "");
+    game.space();
+    EXPECT_EQ(board_faults(game), "");
+}
+
+}  // namespace
+}  // namespace tarnwick

@@ -1,0 +1,161 @@
+#include <gtest/gtest.h>
+
+#include "tests/desktop/board_picture.h"
+#include "tests/desktop/eventually.h"
+#include "windows/frmBestScore.h"
+#include "windows/frmError.h"
+#include "windows/frmFeatures.h"
+#include "windows/frmcards.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr const char* program = TARNWICK_PROGRAM;
+constexpr const char* settings_title = "Select Settings";
+
+// Clicks in the middle of a control, wherever the dialog is and however much it is enlarged.
+void click_control(TwinGame& game, XWindow dialog, const Widget& control) {
+    const XPlace place = game.screen().place(dialog);
+    const float scale =
+        static_cast<float>(place.width) / static_cast<float>(control.form().client_size().width);
+    float x = control.left() + control.width() / 2;
+    float y = control.top() + control.height() / 2;
+    if (control.container()) {
+        x += control.container()->left();
+        y += control.container()->top();
+    }
+    game.screen().click(place.x + static_cast<int>(x * scale), place.y + static_cast<int>(y * scale));
+}
+
+// Opens the settings in both games.
+XWindow open_settings(TwinGame& game) {
+    game.screen().key("alt+s");
+    game.screen().key("c");
+    frmcards.mnuSetings.choose();
+    const XWindow dialog = game.wait_for(settings_title);
+    EXPECT_TRUE(game.gets_keyboard(dialog));
+    return dialog;
+}
+
+// Chooses the fourth back and unticks two boxes in both games.
+void change_settings(TwinGame& game, XWindow dialog) {
+    click_control(game, dialog, frmFeatures.ImgCardBacks(3));
+    click_control(game, dialog, frmFeatures.chkAnamate);
+    click_control(game, dialog, frmFeatures.chkScaleCards);
+    frmFeatures.optCardBack(3).click();
+    frmFeatures.chkAnamate.set_checked(false);
+    frmFeatures.chkScaleCards.set_checked(false);
+}
+
+TEST(Settings, AreTakenOverAndKept) {
+    TwinGame game({program, 26});
+    const QImage before = expected_board();
+    change_settings(game, open_settings(game));
+    game.screen().key("Return");
+    frmFeatures.cmdOk.click();
+    EXPECT_TRUE(game.goes(settings_title));
+    EXPECT_EQ(game.stored("card back"), "3");
+    EXPECT_EQ(game.stored("anamate"), "False");
+    EXPECT_EQ(game.stored("scale cards"), "False");
+    EXPECT_EQ(game.stored("show message"), "True");
+    ASSERT_NE(expected_board(), before);
+    EXPECT_EQ(board_faults(game), "");
+    game.screen().key("ctrl+q");
+    ASSERT_EQ(game.program().exit_code(), 0);
+    game.restart({{"card back", "3"}, {"scale cards", "False"}, {"anamate", "False"}});
+    EXPECT_EQ(board_faults(game), "") << "after a restart";
+}
+
+TEST(Settings, AreLeftAloneByCancelEscapeAndCloseBox) {
+    TwinGame game({program, 26});
+    for (const std::string way : {"Cancel", "Escape", "close box"}) {
+        const XWindow dialog = open_settings(game);
+        change_settings(game, dialog);
+        if (way == "Cancel") click_control(game, dialog, frmFeatures.cmdCancel);
+        if (way == "Escape") game.screen().key("Escape");
+        if (way == "close box") game.screen().close(dialog);
+        frmFeatures.cmdCancel.click();
+        ASSERT_TRUE(game.goes(settings_title)) << way;
+        ASSERT_TRUE(game.gets_keyboard(game.window())) << way;
+        game.space();
+        EXPECT_EQ(game.stored("card back"), "-") << way;
+        EXPECT_EQ(game.stored("anamate"), "-") << way;
+        EXPECT_EQ(board_faults(game), "") << way;
+    }
+}
+
+TEST(Settings, AColorIsPickedInADialogOfItsOwn) {
+    TwinGame game({program, 26});
+    const XWindow dialog = open_settings(game);
+    click_control(game, dialog, frmFeatures.txtBackColor);
+    const XWindow picker = game.wait_for("Select Color");
+    ASSERT_TRUE(game.gets_keyboard(picker));
+    game.screen().key("Escape");
+    ASSERT_TRUE(game.goes("Select Color"));
+    EXPECT_EQ(game.stored("back color"), "-");
+    click_control(game, dialog, frmFeatures.txtBackColor);
+    ASSERT_TRUE(game.gets_keyboard(game.wait_for("Select Color")));
+    game.screen().key("Return");
+    ASSERT_TRUE(game.goes("Select Color"));
+    EXPECT_TRUE(eventually([&] { return game.stored("back color") == "16777215"; }))
+        << "the picker begins with white";
+    game.screen().key("Escape");
+    ASSERT_TRUE(game.goes(settings_title));
+    frmFeatures.cmdCancel.click();
+    EXPECT_EQ(board_faults(game), "") << "cancelled, the table keeps its colour";
+}
+
+TEST(Settings, OneThatCannotBeUsedIsToldAndReplaced) {
+    TwinGame game({program, 26, {{"card back", "7"}}});
+    ASSERT_EQ(game.headless().desktop.messages().size(), 1U);
+    ASSERT_TRUE(game.gets_keyboard(game.wait_for("Tarnwick")));
+    game.screen().key("Return");
+    ASSERT_TRUE(game.goes("Tarnwick"));
+    // The deal has met the setting as well, and says so in the way of the game's routines.
+    ASSERT_TRUE(frmError.visible());
+    ASSERT_TRUE(game.gets_keyboard(game.wait_for("Error")));
+    game.screen().key("Return");
+    ASSERT_TRUE(game.goes("Error"));
+    ASSERT_TRUE(game.gets_keyboard(game.window()));
+    game.space();
+    EXPECT_EQ(board_faults(game), "") << "with the usual back";
+}
+
+TEST(Statistics, AreClearedAfterAQuestion) {
+    TwinGame game({program,
+                   26,
+                   {{"games played", "3"},
+                    {"games won", "2"},
+                    {"average score", "300"},
+                    {"high score 1", "150"},
+                    {"high score name 1", "Ann"},
+                    {"high score date 1", "1/2/2000"}}});
+    game.screen().key("alt+f");
+    game.screen().key("b");
+    const XWindow dialog = game.wait_for("Scores");
+    ASSERT_TRUE(game.gets_keyboard(dialog));
+    // The controls are where they are stored, opened here or not.
+    frmBestScore.load();
+    click_control(game, dialog, frmBestScore.cmdClearScore);
+    ASSERT_TRUE(game.gets_keyboard(game.wait_for("Clear Scores?")));
+    game.screen().key("Escape");
+    ASSERT_TRUE(game.goes("Clear Scores?"));
+    EXPECT_EQ(game.stored("high score 1"), "150");
+    EXPECT_EQ(game.stored("games played"), "3");
+
+    click_control(game, dialog, frmBestScore.cmdClearScore);
+    ASSERT_TRUE(game.gets_keyboard(game.wait_for("Clear Scores?")));
+    game.screen().key("Return");
+    ASSERT_TRUE(game.goes("Clear Scores?"));
+    EXPECT_TRUE(eventually([&] { return game.stored("high score 1") == "0"; }));
+    for (const char* key : {"games played", "average score"}) EXPECT_EQ(game.stored(key), "0") << key;
+    for (const char* key : {"high score name 1", "high score date 1"}) EXPECT_EQ(game.stored(key), "") << key;
+    EXPECT_EQ(game.stored("games won"), "2");
+    ASSERT_TRUE(game.gets_keyboard(dialog)) << "the dialog stays open";
+    game.screen().key("Escape");
+    EXPECT_TRUE(game.goes("Scores"));
+    EXPECT_TRUE(game.gets_keyboard(game.window()));
+}
+
+}  // namespace
+}  // namespace tarnwick

@@ -1,0 +1,91 @@
+#include <gtest/gtest.h>
+
+#include "state/variables.h"
+#include "tests/desktop/board_picture.h"
+#include "tests/desktop/eventually.h"
+#include "windows/frmcards.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr const char* program = TARNWICK_PROGRAM;
+constexpr int column_of_ace = 4;
+
+// Scores a point for the ace, and one for the card under it.
+void score_two(TwinGame& game) {
+    game.click(column_of_ace);
+    game.headless().desktop.advance(1000);
+    ASSERT_EQ(score, 2);
+    ASSERT_EQ(board_faults(game), "");
+}
+
+TEST(Endings, AClosedGameWithABestScoreStillAsksForTheName) {
+    TwinGame game({program, 26});
+    score_two(game);
+    game.screen().key("ctrl+q");
+    const XWindow dialog = game.wait_for(win_title);
+    EXPECT_TRUE(game.goes(main_title));
+    ASSERT_TRUE(game.gets_keyboard(dialog));
+    game.screen().type("Bo");
+    game.screen().key("Return");
+    ASSERT_TRUE(game.gets_keyboard(game.wait_for("Scores")));
+    EXPECT_EQ(game.stored("high score 1"), "2");
+    EXPECT_EQ(game.stored("high score name 1"), "Bo");
+    EXPECT_TRUE(game.program().running()) << "a window is open";
+    game.screen().key("Return");
+    EXPECT_EQ(game.program().exit_code(), 0);
+    EXPECT_EQ(game.stored("games won"), "-");
+}
+
+TEST(Endings, AScoreIsNotLostWhenItsDialogIsClosed) {
+    TwinGame game({program, 26});
+    score_two(game);
+    game.screen().key("F2");
+    const XWindow dialog = game.wait_for(win_title);
+    ASSERT_TRUE(game.gets_keyboard(dialog));
+    EXPECT_EQ(game.screen().stacking().back(), dialog);
+    game.screen().close(dialog);
+    ASSERT_TRUE(game.gets_keyboard(game.wait_for("Scores")));
+    EXPECT_EQ(game.stored("high score 1"), "2");
+    EXPECT_EQ(game.stored("high score name 1"), "");
+    game.screen().key("Escape");
+    ASSERT_TRUE(game.gets_keyboard(game.window()));
+    game.space();
+    EXPECT_TRUE(game.program().running());
+}
+
+// A number of games that is no number makes the end of a game fail.
+const std::map<std::string, std::string> broken{{"games played", "many"}};
+
+TEST(Endings, AfterAnErrorThePlayerGoesOn) {
+    TwinGame game({program, 26, broken});
+    score_two(game);
+    game.screen().key("F2");
+    ASSERT_TRUE(game.gets_keyboard(game.wait_for("Error")));
+    game.screen().key("Return");
+    ASSERT_TRUE(game.goes("Error"));
+    ASSERT_TRUE(game.gets_keyboard(game.window()));
+    game.space();
+    EXPECT_EQ(board_faults(game), "") << "the game in hand is still there";
+}
+
+TEST(Endings, AfterAnErrorThePlayerClosesTheGame) {
+    TwinGame game({program, 26, broken});
+    score_two(game);
+    game.screen().key("F2");
+    ASSERT_TRUE(game.gets_keyboard(game.wait_for("Error")));
+    // The table is not disabled by an error.
+    game.screen().restore(game.window());
+    ASSERT_TRUE(game.gets_keyboard(game.window()));
+    game.space();
+    EXPECT_TRUE(game.has("Error"));
+    game.screen().restore(game.wait_for("Error"));
+    ASSERT_TRUE(game.gets_keyboard(game.wait_for("Error")));
+    game.screen().key("Tab");
+    game.screen().key("space");
+    EXPECT_EQ(game.program().exit_code(), 0);
+    EXPECT_EQ(game.stored("games played"), "many");
+}
+
+}  // namespace
+}  // namespace tarnwick

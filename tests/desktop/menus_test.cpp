@@ -1,0 +1,125 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "state/variables.h"
+#include "tests/desktop/board_picture.h"
+#include "tests/desktop/eventually.h"
+#include "windows/frmcards.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr const char* program = TARNWICK_PROGRAM;
+
+using Keys = std::vector<std::string>;
+
+void press_keys(TwinGame& game, const Keys& keys) {
+    for (const std::string& key : keys) game.screen().key(key);
+}
+
+class EntryForTheGame : public testing::TestWithParam<std::pair<Keys, MenuEntry*>> {};
+
+TEST_P(EntryForTheGame, IsChosenWithKeys) {
+    const auto& [keys, entry] = GetParam();
+    TwinGame game({program, 26});
+    game.drag(6, 9);
+    game.space();
+    game.space();
+    const QImage before = expected_board();
+    press_keys(game, keys);
+    entry->choose();
+    ASSERT_NE(expected_board(), before);
+    EXPECT_EQ(board_faults(game), "");
+    game.space();
+    EXPECT_EQ(board_faults(game), "") << "the next key";
+}
+
+INSTANTIATE_TEST_SUITE_P(Menus, EntryForTheGame,
+                         testing::Values(std::pair{Keys{"F3"}, &frmcards.mnuRestart},
+                                         std::pair{Keys{"alt+f", "r"}, &frmcards.mnuRestart},
+                                         std::pair{Keys{"ctrl+u"}, &frmcards.mnuUndo},
+                                         std::pair{Keys{"alt+s", "u"}, &frmcards.mnuUndo}));
+
+TEST(Menus, TheNextDealComesByMenuAndKey) {
+    TwinGame game({program, 26});
+    for (const Keys& keys : {Keys{"F2"}, Keys{"alt+f", "n"}}) {
+        game.space();
+        press_keys(game, keys);
+        frmcards.mnuNew.choose();
+        ASSERT_EQ(turned_slot(), -1);
+        EXPECT_EQ(board_faults(game), "") << keys[0];
+    }
+    EXPECT_EQ(game.stored("games played"), "-") << "games without a point are not counted";
+}
+
+TEST(Menus, EachWindowOpensByKeysAndClosesByEscape) {
+    TwinGame game({program, 26});
+    const std::vector<std::pair<Keys, std::string>> windows{{{"alt+f", "b"}, "Scores"},
+                                                            {{"alt+s", "c"}, "Select Settings"},
+                                                            {{"F1"}, "Help"},
+                                                            {{"alt+h", "h"}, "Help"}};
+    for (const auto& [keys, title] : windows) {
+        press_keys(game, keys);
+        ASSERT_TRUE(game.gets_keyboard(game.wait_for(title))) << title;
+        game.screen().key("Escape");
+        ASSERT_TRUE(game.goes(title)) << title;
+        ASSERT_TRUE(game.gets_keyboard(game.window())) << "after " << title;
+        game.space();
+        EXPECT_EQ(board_faults(game), "") << "after " << title;
+    }
+}
+
+TEST(Menus, TheProgramEndsByMenuKeyAndCloseBox) {
+    const std::vector<std::function<void(TwinGame&)>> ways{
+        [](TwinGame& game) { press_keys(game, {"ctrl+q"}); },
+        [](TwinGame& game) {
+            press_keys(game, {"alt+f", "e"});
+        },
+        [](TwinGame& game) { game.screen().close(game.window()); },
+    };
+    for (const auto& leave : ways) {
+        TwinGame game({program, 26});
+        leave(game);
+        EXPECT_EQ(game.program().exit_code(), 0);
+        EXPECT_EQ(game.program().errors(), "");
+    }
+}
+
+// A user who pokes at everything of the main window while a dialog waits in front of it.
+void poke_main_window(TwinGame& game) {
+    XDriver& screen = game.screen();
+    const XPlace main = game.screen().place(game.window());
+    const Spot stock = TwinGame::spot_on(frmcards.Image1(stock_image));
+    screen.click(main.x + stock.x, main.y + game.board().y + stock.y);
+    screen.click(main.x + 20, main.y + game.board().y / 2);
+    for (const char* key : {"F2", "F3", "ctrl+u", "ctrl+q", "alt+f", "n"}) screen.key(key);
+    screen.close(game.window());
+}
+
+TEST(Menus, AreDeadWhileADialogIsOpen) {
+    TwinGame game({program, 26});
+    const std::vector<std::pair<Keys, std::string>> dialogs{{{"alt+f", "b"}, "Scores"},
+                                                            {{"alt+s", "c"}, "Select Settings"}};
+    for (const auto& [keys, title] : dialogs) {
+        game.space();
+        press_keys(game, keys);
+        const XWindow dialog = game.wait_for(title);
+        ASSERT_TRUE(game.gets_keyboard(dialog));
+        poke_main_window(game);
+        ASSERT_TRUE(game.gets_keyboard(dialog)) << "the dialog keeps the keyboard";
+        EXPECT_EQ(game.screen().windows_of(game.program().pid()).size(), 2U);
+        EXPECT_EQ(game.screen().stacking().back(), dialog);
+        // The clicks make the keyboard wander to the main window and back, for a moment yet.
+        ASSERT_TRUE(eventually([&] {
+            game.screen().key("Escape");
+            return !game.has(title);
+        })) << title;
+        ASSERT_TRUE(game.gets_keyboard(game.window()));
+        game.space();
+        EXPECT_EQ(board_faults(game), "") << title;
+    }
+}
+
+}  // namespace
+}  // namespace tarnwick
