@@ -111,10 +111,11 @@ TEST(Menus, AreDeadWhileADialogIsOpen) {
         EXPECT_EQ(game.screen().windows_of(game.program().pid()).size(), 2U);
         EXPECT_EQ(game.screen().stacking().back(), dialog);
         // The clicks make the keyboard wander to the main window and back, for a moment yet.
-        ASSERT_TRUE(eventually([&] {
+        const auto escape_closes = [&game, &name = title] {
             game.screen().key("Escape");
-            return !game.has(title);
-        })) << title;
+            return !game.has(name);
+        };
+        ASSERT_TRUE(eventually(escape_closes)) << title;
         ASSERT_TRUE(game.gets_keyboard(game.window()));
         game.space();
         EXPECT_EQ(board_faults(game), "") << title;

@@ -2,6 +2,7 @@
 // picture of its window: shows that the whole program works, and what it looks like.
 
 #include <QImage>
+#include <chrono>
 #include <cstdint>
 #include <cstdlib>
 #include <iostream>
@@ -23,14 +24,16 @@ void require(bool condition, const std::string& failure) {
     if (!condition) throw std::runtime_error(failure);
 }
 
-// Waits until the board has changed from `before` and is still: an animation has ended.
+// Waits until the board has changed from `before` and has stood still for longer than a step of an animation.
 void wait_for_change(TwinGame& game, const XPixels& before, const std::string& what) {
+    using Clock = std::chrono::steady_clock;
     XPixels last;
+    Clock::time_point changed = Clock::now();
     const auto is_still = [&] {
         const XPixels now = game.board_pixels();
-        const bool still = now == last;
+        if (now != last) changed = Clock::now();
         last = now;
-        return still && !(now == before);
+        return now != before && Clock::now() - changed > std::chrono::milliseconds(200);
     };
     require(eventually(is_still), what + " changes nothing in the window");
 }
@@ -46,11 +49,12 @@ void act(TwinGame& game, const std::string& what, Action action) {
 int top_card(int c, int field) { return layout(c, column_top(c), field); }
 
 bool fits(int c, int target) {
-    return c != target && builds_on(top_card(c, rank_field), top_card(c, suit_field),
-                                    top_card(target, rank_field), top_card(target, suit_field));
+    return c != target && top_card(c, rank_field) != ace &&
+           builds_on(top_card(c, rank_field), top_card(c, suit_field), top_card(target, rank_field),
+                     top_card(target, suit_field));
 }
 
-// Drags the first card that fits on another column, from the left.
+// Drags the first card that fits on another column, from the left; the ace is for its pile.
 void drag_a_card(TwinGame& game) {
     for (int c = 0; c <= last_column; ++c) {
         for (int target = 0; target <= last_column; ++target) {
