@@ -7,6 +7,7 @@
 #include <QLocale>
 #include <QMessageBox>
 #include <QScreen>
+#include <QWindow>
 #include <algorithm>
 #include <chrono>
 
@@ -29,8 +30,9 @@ QtDesktop::QtDesktop() {
     timer_.setSingleShot(true);
     timer_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { tick(); });
-    QObject::connect(qApp, &QApplication::focusChanged, &timer_,
-                     [this](QWidget*, QWidget* now) { hand_on_keyboard(now); });
+    // A window without any widget that takes the keyboard, as a disabled one is, tells of its focus only
+    // here.
+    QObject::connect(qApp, &QGuiApplication::focusWindowChanged, &timer_, [this] { hand_on_keyboard(); });
 }
 
 QtDesktop::~QtDesktop() {
@@ -124,13 +126,19 @@ QWidget* QtDesktop::front_window() const {
     return front == views_.rend() ? nullptr : (*front)->window();
 }
 
-void QtDesktop::hand_on_keyboard(QWidget* now) {
+void QtDesktop::hand_on_keyboard() {
     // A disabled window that the user clicks hands the keyboard on to the dialog that it waits for.
     QWidget* front = front_window();
-    if (!now || !front || now->window() == front || now->window() != main_window()) return;
-    for (const WindowView* view : views_) {
-        if (view->window() == now->window() && !view->form().enabled()) front->activateWindow();
-    }
+    const QWidget* main = main_window();
+    if (!front || !main || front == main || main->windowHandle() != QGuiApplication::focusWindow()) return;
+    const auto is_disabled = [main](const WindowView* view) {
+        return view->window() == main && !view->form().enabled();
+    };
+    if (std::none_of(views_.begin(), views_.end(), is_disabled)) return;
+    front->activateWindow();
+    // A window manager that is still busy with the click may give the keyboard back: looked at again.
+    constexpr std::chrono::milliseconds a_moment{100};
+    QTimer::singleShot(a_moment, &timer_, [this] { hand_on_keyboard(); });
 }
 
 MessageAnswer QtDesktop::show_message(const Message& message) {

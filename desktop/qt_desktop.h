@@ -48,7 +48,7 @@ class QtDesktop : public Desktop {
     void arm_timer();
     void tick();
     void settle_windows();
-    void hand_on_keyboard(QWidget* now);
+    void hand_on_keyboard();
 
     QTimer timer_;
     std::vector<WindowView*> views_;  ///< in the order in which the windows were loaded

@@ -37,8 +37,8 @@ def outline(colour):
 
 def misty():
     """Ridge behind ridge in the mist, mirrored by a still lake."""
-    defs = "<defs>" + gradient("s", (0, "#a9c0cc"), (1, "#e9f0f0"))
-    for name, top in (("a", "#94b0bf"), ("b", "#6f92a4"), ("c", "#3f6678")):
+    defs = "<defs>" + gradient("s", (0, "#8fb0c1"), (1, "#eff3ee"))
+    for name, top in (("a", "#7598ab"), ("b", "#4b748a"), ("c", "#1d4658")):
         defs += gradient(name, (0, top), (1, "#e6eeee"))
     defs += "</defs>"
     firs = "".join(f"L{num(x - 1.6)} {num(y)} {num(x)} {num(y - h)}"
@@ -51,13 +51,13 @@ def misty():
             + path("M4 48V25L12 20 18 24 29 13.5 37 21 43 18.5 52 26 60 22 67 27"
                    "V48Z", "url(#a)")
             + path("M29 13.5 37 21 34 20.5 32 23 29.5 19.5 27 22 24.5 18Z",
-                   "#dfe9ec")
+                   "#f2f6f5")
             + path("M4 48V33L14 27.5 22 33 31 29 41 35.5 53 26.5 67 34V48Z",
                    "url(#b)")
             + path(f"M4 48V38.5{firs}L67 38V48Z", "url(#c)"))
     lake = (path("M4 45.5H67V50.5H4Z", "#e6eeee")
-            + line("M12 47H34M44 47H58M59 49H37M27 49H13", "#9db7c2", .7))
-    return defs + two_way(half) + lake + outline("#5b7f90")
+            + line("M12 47H34M44 47H58M59 49H37M27 49H13", "#6f94a5", .8))
+    return defs + two_way(half) + lake + outline("#3f6678")
 
 
 def rose():
@@ -148,27 +148,55 @@ def polar(radius, turn, x=CX, y=CY):
     return f"{num(x + radius * cos(turn))} {num(y + radius * sin(turn))}"
 
 
+def wheel():
+    """Return the tyre and the crossed spokes behind the chainring."""
+    spokes = "".join(f"M{polar(4, turn + lean)}L{polar(22, turn)}"
+                     for turn in (pi * index / 9 for index in range(18))
+                     for lean in (1.25, -1.25))
+    tread = "".join(f"M{polar(23.2, turn)}L{polar(25.4, turn + .06)}"
+                    for turn in (pi * index / 30 for index in range(60)))
+    return (circle(CX, CY, 25.4, "#b97d17") + circle(CX, CY, 22.8, "#f6d27a")
+            + circle(CX, CY, 21.9, "url(#g)") + line(tread, "#e3ac32", .9)
+            + line(spokes, "#cf9424", .6))
+
+
 def pedal():
     """A chainring with its cranks and pedals, framed by the chain."""
-    ground, dark, steel = "#e3ac32", "#2c2a2b", "#f7ecd0"
+    dark, light, steel = "#2c2a2b", "#6d6763", "#f7ecd0"
+    defs = ("<defs>"
+            + gradient("g", (0, "#ffe08c"), (.6, "#f0bd4a"), (1, "#e3ac32"),
+                       radial=True)
+            + gradient("d", (0, "#1c1a1b"), (.75, "#2c2a2b"), (.86, "#5a5552"),
+                       (1, "#242223"), radial=True) + "</defs>")
     teeth = "L".join(f"{polar(16.8, turn - .075)}L{polar(18.8, turn)}"
                      f"L{polar(16.8, turn + .075)}"
                      for turn in (2 * pi * index / 30 for index in range(30)))
     spider = "".join(f"M35.5 48L{polar(15, pi * index / 3)}" for index in range(6))
-    ring = (path(f"M{teeth}Z", dark) + circle(CX, CY, 14, ground)
-            + line(spider, dark, 2.4) + circle(CX, CY, 5.5, dark))
+    bolts = "".join(circle(CX + 14.9 * cos(turn), CY + 14.9 * sin(turn), .9, "#e3ac32")
+                    for turn in (pi * index / 3 for index in range(6)))
+    ring = (path(f"M{teeth}Z", "url(#d)") + circle(CX, CY, 13.2, "#eab440")
+            + line(f"M{polar(12.8, pi)}A12.8 12.8 0 0 1 {polar(12.8, 0)}",
+                   "#b97d17", .8)
+            + line(spider, dark, 2.6) + line(spider, light, .7)
+            + bolts + circle(CX, CY, 5.5, dark))
     # The end of the crank, where its pedal turns.
     x, y = CX + 25 * sin(.55), CY - 25 * cos(.55)
+    lean = f"rotate({num(.55 * 180 / pi)} {CX} {CY})"
+    place = f"translate({num(x)} {num(y)})"
     crank = (path("M33.1 48 34.1 22.5Q35.5 20.9 36.9 22.5L37.9 48Z", steel,
-                  transform=f"rotate({num(.55 * 180 / pi)} {CX} {CY})")
+                  transform=lean)
+             + path("M35.9 48 35.9 22Q36.5 22 36.9 22.5L37.9 48Z", "#c9b58a",
+                    transform=lean)
              + path("M-8-3H8Q9.5-3 9.5-1.5V1.5Q9.5 3 8 3H-8Q-9.5 3-9.5 1.5V-1.5"
-                    "Q-9.5-3-8-3Z", dark, transform=f"translate({num(x)} {num(y)})")
-             + line("M-7-1.2H-2M-7 1.2H-2M2-1.2H7M2 1.2H7", ground, 1,
-                    transform=f"translate({num(x)} {num(y)})")
+                    "Q-9.5-3-8-3Z", dark, transform=place)
+             + line("M-8.5-2.5H8.5", light, .7, transform=place)
+             + line("M-7-1.2H-2M-7 1.2H-2M2-1.2H7M2 1.2H7", "#f2b93f", 1,
+                    transform=place)
              + circle(x, y, 1.4, steel))
-    return (panel(ground) + chain(dark, ground) + ring + two_way(crank, "c")
-            + circle(CX, CY, 3.4, steel) + circle(CX, CY, 1.4, dark)
-            + outline("#b07d17"))
+    return (defs + panel("#e3ac32") + panel("url(#g)", 5) + wheel()
+            + chain(dark, "#e3ac32") + ring + two_way(crank, "c")
+            + circle(CX, CY, 3.4, steel) + circle(CX, CY, 2.2, "#c9b58a")
+            + circle(CX, CY, 1.4, dark) + outline("#a06f14"))
 
 
 def cut(points, left, top, right, bottom):

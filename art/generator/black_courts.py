@@ -2,11 +2,12 @@
 
 from .figure import (FAIR, RUDDY, TAWNY, arm, beard, body, features, head,
                      moustache)
-from .style import (BROWN, GOLD, INK, OCHRE, PINE, RED, SLATE, SNOW, STEEL,
+from .style import (BROWN, GOLD, INK, OAK, OCHRE, PINE, RED, SLATE, SNOW, STEEL,
                     TEAL, WINE, circle, line, path)
 
 NIGHT = "#26334d"
 RAVEN = "#1d1f26"
+DUSK = "#6f87ad"
 
 
 def king_of_spades():
@@ -72,19 +73,25 @@ def jack_of_spades():
               + line("M21 33.5C28 37 36 42 44 50M24 32.5C31 36 39 41 47.5 50.5",
                      BROWN, .6, stroke_dasharray="1 2"))
     hood = (path("M36 7C45 8 49 15 48.5 22 48.3 27 46 32 42 35.5L36 38"
-                 " 30 35.5C26 32 23.7 27 23.5 22 23 15 27 8 36 7Z", SLATE)
+                 " 30 35.5C26 32 23.7 27 23.5 22 23 15 27 8 36 7Z", DUSK)
             + path("M36 12C42 12 45 17 44.6 22 44.4 27 42 31 36 34.5"
-                   " 30 31 27.6 27 27.4 22 27 17 30 12 36 12Z", INK))
-    axe = (path("M55 14H57V51H55Z", BROWN)
-           + path("M46.5 20C48 14.5 52 11 57.5 11.5 60.5 11.8 63 13 64.5 15.5"
-                  " 61 15 59 15 57.5 15.6H54.5C51 15.6 48.5 17.5 46.5 20Z", STEEL)
-           + path("M54 10.5H58V17H54Z", INK))
+                   " 30 31 27.6 27 27.4 22 27 17 30 12 36 12Z", NIGHT))
+    axe = (path("M54.5 12H57.5V51H54.5Z", GOLD, stroke=INK)
+           + line("M54.5 27.5H57.5M54.5 30H57.5M54.5 32.5H57.5", INK)
+           + path("M54 8.6C57.5 8.6 59.5 9.4 61 8.2L63.4 15C61 13.6 59.4 13.4"
+                  " 57.8 13.6H54.4C51.6 14.6 50 17.4 48.2 23.2"
+                  " 47.2 16.4 48.6 9.4 54 8.6Z", SNOW, stroke=INK,
+                  stroke_linejoin="round")
+           + path("M48.6 20C48.6 15 51 11.6 56 11.4 58.6 11.4 60 12.2 62 12.4"
+                  "L62.6 14C60.6 13 59.4 13 57.8 13.1H54.2C51.4 14.2 50 16.6"
+                  " 48.6 20Z", STEEL)
+           + circle(56, 11, 1, INK))
     fringe = path("M28.8 20C29 15 32 13 36 13S43 15 43.2 20C40 19 38 17.5 37 15.5"
                   " 35.5 18 32.5 19.5 28.8 20Z", RAVEN)
-    return (body(NIGHT, RAVEN, jacket) + hood + head(TAWNY)
+    return (body(DUSK, SLATE, jacket) + hood + head(TAWNY)
             + features(TAWNY, -.6, RAVEN, "calm", WINE) + fringe
-            + line("M36 8C45 9 48 15 47.5 22M36 8C27 9 24 15 24.5 22", NIGHT, 1)
-            + axe + arm(NIGHT, RAVEN, SLATE, TAWNY))
+            + line("M36 8C45 9 48 15 47.5 22M36 8C27 9 24 15 24.5 22", SLATE, 1)
+            + axe + arm(DUSK, SLATE, STEEL, TAWNY))
 
 
 def king_of_clubs():
@@ -92,28 +99,36 @@ def king_of_clubs():
     robe = (path("M20 33.5 31 30 36 38 41 30 52 34 50 51 22 44Z", PINE)
             + path("M31 30 36 38 41 30 42 48.5 30 45.3Z", "#e9cfa0")
             + line("M30.5 33 29.5 45M41.5 33 42.5 48.5", GOLD, 1.6))
-    leaf = ("M0 0C-1.8-.6-2.6-1.8-2-3-3.2-3.6-3.2-5.2-2-5.6-2.4-7-1-8 0-9"
-            " 1-8 2.4-7 2-5.6 3.2-5.2 3.2-3.6 2-3 2.6-1.8 1.8-.6 0 0Z")
-    crown = "".join(path(leaf, colour, transform=f"translate({x} {y}) rotate({turn})")
+    crown = "".join(path(OAK, colour, transform=f"translate({x} {y}) rotate({turn})")
                     for x, y, turn, colour in (
                         (30, 16.8, -34, PINE), (42, 16.8, 34, PINE),
                         (36, 15.5, 0, PINE), (32, 16.5, -20, TEAL),
                         (40, 16.5, 20, TEAL)))
     crown += path("M27 15.5C33 13.5 39 13.5 45 15.5V18C39 16 33 16 27 18Z", GOLD)
     crown += circle(36, 15.6, 1.6, RED)
-    sceptre = (path("M55 22H57V51H55Z", OCHRE)
-               + path("M51 17H61C61 22 58.5 24 56 27 53.5 24 51 22 51 17Z", GOLD)
-               + path("M50 18C49.5 13 53 11 56 11S62.5 13 62 18Z", BROWN)
-               + path("M55.2 11.5V8H57V11.5Z", BROWN)
-               + line("M51 15.5H61M53.5 12.5 52.5 18M56 11.5V18M58.5 12.5 59.5 18",
-                      OCHRE, .7))
+    staff = path("M55 26H57V51H55Z", BROWN)
+    for turn, colour in ((-50, "#3f8f5c"), (50, "#62ad6b")):
+        place = f"translate(56 37.2) rotate({turn})"
+        staff += path(OAK, colour, transform=place)
+        staff += line("M0 0V-7M0-2.2 1.6-4M0-2.2-1.6-4", PINE, .6,
+                      transform=place)
+    staff += (path("M50.5 15H61.5C62 21 60 24.5 57 25.8L56 28.4 55 25.8"
+                   "C52 24.5 50 21 50.5 15Z", GOLD, stroke=BROWN)
+              + path("M52.4 17C52.4 20.5 53.4 22.5 54.8 23.6 54 21 53.8 19"
+                     " 53.9 17Z", "#fbe3a4")
+              + path("M48.8 16.5C48.4 11 52 8.8 56 8.8S63.6 11 63.2 16.5"
+                     "C59 17.8 53 17.8 48.8 16.5Z", BROWN)
+              + line("M56.3 9.5C56.2 8 56.6 7.2 57.6 6.4", BROWN, 1.8)
+              + line("M50 13.2 53.8 16.8M51.6 10.6 57.8 16.8M55.2 9.6 61.8 16"
+                     "M62 13.2 58.2 16.8M60.4 10.6 54.2 16.8M56.8 9.6 50.2 16",
+                     "#dba35c", .7))
     hair = path("M27 16H45C47.5 20 48 27 46 32L43 23V18H29V23L26 32"
                 "C24 27 24.5 20 27 16Z", BROWN)
     return (body(TEAL, PINE, robe) + head(RUDDY) + hair + beard(BROWN, 41, -1)
             + features(RUDDY, 0, BROWN, mouth=None)
             + line("M32 31C31.5 34 32 37 33.5 39M36 31V40M40 31C40.5 34 40 37 38.5 39",
                    "#53301a", .9) + moustache("#8f5a34")
-            + crown + sceptre + arm(TEAL, PINE, "#e9cfa0", RUDDY))
+            + crown + staff + arm(TEAL, PINE, "#e9cfa0", RUDDY))
 
 
 def queen_of_clubs():

@@ -1,27 +1,31 @@
 """Aces and number cards: corner indices and the pips between them."""
 
 from .ranks import rank
-from .style import (GOLD, INK, PAPER, SLATE, STEEL, SUIT_COLOUR, WINE, card,
-                    circle, line, path, two_way)
+from .style import (BROWN, GOLD, INK, OAK, PAPER, SLATE, STEEL, SUIT_COLOUR,
+                    TEAL, WINE, card, circle, line, path, two_way)
 from .suits import pip, small_pip
 
 LEFT, MIDDLE, RIGHT = 20.5, 35.5, 50.5
 CENTRE = 48
 
+# The size of the pips; the fewer there are, the larger.
+SCALE = {"2": 1.45, "3": 1.15, "4": 1.3, "5": 1.2, "6": 1.15, "7": 1.1, "8": 1.1,
+         "9": .86, "10": .86}
+
 # The pips of each rank: those above the middle, which are repeated upside
 # down below it, and those on the middle line, which stand upright. None
 # reaches into the top twenty units, which stay visible on a covered card.
 ABOVE = {
-    "2": [(MIDDLE, 27.5)],
-    "3": [(MIDDLE, 27.5)],
-    "4": [(LEFT, 27.5), (RIGHT, 27.5)],
-    "5": [(LEFT, 27.5), (RIGHT, 27.5)],
-    "6": [(LEFT, 27.5), (RIGHT, 27.5)],
+    "2": [(MIDDLE, 30)],
+    "3": [(MIDDLE, 27.9)],
+    "4": [(LEFT, 29), (RIGHT, 29)],
+    "5": [(LEFT, 28.3), (RIGHT, 28.3)],
+    "6": [(LEFT, 27.9), (RIGHT, 27.9)],
     "7": [(LEFT, 27.5), (RIGHT, 27.5)],
     "8": [(LEFT, 27.5), (RIGHT, 27.5), (MIDDLE, 37.7)],
-    "9": [(LEFT, 26.5), (RIGHT, 26.5), (LEFT, 40.8), (RIGHT, 40.8)],
-    "10": [(LEFT, 26.5), (RIGHT, 26.5), (LEFT, 40.8), (RIGHT, 40.8),
-           (MIDDLE, 33.6)],
+    "9": [(LEFT, 26), (RIGHT, 26), (LEFT, 40.7), (RIGHT, 40.7)],
+    "10": [(LEFT, 26), (RIGHT, 26), (LEFT, 40.7), (RIGHT, 40.7),
+           (MIDDLE, 33.3)],
 }
 ON_MIDDLE = {
     "3": [(MIDDLE, CENTRE)],
@@ -70,13 +74,26 @@ def diamond_scene():
 
 
 def club_scene():
-    """Return the veins that make a leaf of the great club."""
-    leaf = ("M0 1.5V-8M0-1 2.6-3.6M0-1-2.6-3.6M0-4 2.2-6.2M0-4-2.2-6.2")
-    veins = "".join(line(leaf, "#7fb8a4", .9, stroke_linecap="round",
-                         transform=f"translate({x} {y}) rotate({turn})")
-                    for x, y, turn in ((35.5, 43.5, 0), (32, 51.2, -86),
-                                       (39, 51.2, 86)))
-    return veins + circle(35.5, 48.6, 2.2, GOLD)
+    """Return the oak leaves and the acorn in the great club."""
+    half = "M0 0V-9C1-8 2.4-7 2-5.6 3.2-5.2 3.2-3.6 2-3 2.6-1.8 1.8-.6 0 0Z"
+    vein = "M0 0V-7.6M0-2 1.5-3.4M0-2-1.5-3.4M0-4.4 1.6-5.8M0-4.4-1.6-5.8"
+    leaves = ""
+    for turn, size in ((0, 1.95), (-107, 1.72), (107, 1.72)):
+        place = f"translate(35.5 47.5) rotate({turn}) scale({size})"
+        leaves += (path(OAK, "#63ad8e", transform=place)
+                   + path(half, TEAL, transform=place)
+                   + line(vein, PAPER, .45, transform=place,
+                          stroke_linecap="round"))
+    return (leaves
+            + path("M31 49.5H40C40.4 54.5 38.6 57 36.4 58L35.5 60 34.6 58"
+                   "C32.4 57 30.6 54.5 31 49.5Z", GOLD, stroke=INK)
+            + path("M32.6 51C32.6 54 33.4 55.6 34.6 56.4 34 54.4 33.8 52.6"
+                   " 33.9 51Z", PAPER)
+            + path("M29.6 50.5C29.4 46.4 32 44.6 35.5 44.6S41.6 46.4 41.4 50.5"
+                   "C38 51.6 33 51.6 29.6 50.5Z", BROWN, stroke=INK)
+            + line("M31 47.6 34 50.6M33 45.8 37.6 50.6M36 45.4 40.4 49.4"
+                   "M40 47.6 37 50.6M38 45.8 33.4 50.6M35 45.4 30.6 49.4",
+                   "#dba35c", .7))
 
 
 SCENES = {"hearts": heart_scene, "spades": spade_scene,
@@ -93,7 +110,7 @@ def ace(suit):
 
 def number_card(suit, name):
     """Return a card from two to ten."""
-    scale = .98 if name in ("9", "10") else 1.1
+    scale = SCALE[name]
     half = [index(suit, name)]
     half += [pip(suit, x, y, scale) for x, y in ABOVE[name]]
     middle = [pip(suit, x, y, scale) for x, y in ON_MIDDLE.get(name, [])]

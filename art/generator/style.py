@@ -25,6 +25,10 @@ STEEL = "#b9c6d2"
 SNOW = "#fbf8ef"
 BROWN = "#744527"
 
+# An oak leaf, its stalk at the origin.
+OAK = ("M0 0C-1.8-.6-2.6-1.8-2-3-3.2-3.6-3.2-5.2-2-5.6-2.4-7-1-8 0-9"
+       " 1-8 2.4-7 2-5.6 3.2-5.2 3.2-3.6 2-3 2.6-1.8 1.8-.6 0 0Z")
+
 SUITS = ("hearts", "spades", "diamonds", "clubs")
 RANKS = ("ace", "2", "3", "4", "5", "6", "7", "8", "9", "10",
          "jack", "queen", "king")
