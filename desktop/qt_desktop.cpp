@@ -115,7 +115,8 @@ void QtDesktop::settle_windows() {
 
 QWidget* QtDesktop::main_window() const {
     for (const WindowView* view : views_) {
-        if (view->window() && !view->form().menus().empty()) return view->window();
+        if (view->window() && !view->form().menus().empty() && !view->form().unloading())
+            return view->window();
     }
     return nullptr;
 }

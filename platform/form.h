@@ -60,6 +60,8 @@ class Form {
     void show();
     /// Runs on_unload, then forgets the window; nothing when it is not loaded.
     void unload();
+    /// Whether unload() is under way: on_unload runs, and the window is about to go.
+    bool unloading() const { return unloading_; }
     /// The close box: unloads the window unless it is disabled.
     void close();
 
