@@ -4,44 +4,46 @@
 #include "state/soundness.h"
 #include "state/variables.h"
 #include "tests/support/play.h"
-#include "windows/frmBestScore.h"
 #include "windows/frmcards.h"
 #include "windows/frmyouwin.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr const char* last_king =
-    "2: K♠'\nace 0: .. K♠\nace 1: .. K♥ K♥'\nace 2: .. K♦ K♦'\nace 3: .. K♣ K♣'\ntablet: -\n";
-constexpr const char* last_two_kings =
-    "2: K♠'\n3: K♥'\nace 0: .. K♠\nace 1: .. K♥\nace 2: .. K♦ K♦'\nace 3: .. K♣ K♣'\ntablet: -\n";
+const std::string complete = "ace 2: .. K♦ K♦'\nace 3: .. K♣ K♣'\n";
+const std::string last_king = "2: K♠'\nace 0: .. K♠\nace 1: .. K♥ K♥'\n" + complete;
+const std::string king_in_tablet = "tablet: (K♠')\nace 0: .. K♠\nace 1: .. K♥ K♥'\n" + complete;
+const std::string last_two_kings = "2: K♠'\n3: K♥'\nace 0: .. K♠\nace 1: .. K♥\n" + complete;
 
 TEST(Won, ByADropEndsTheGameAtOnce) {
-    Play play;
-    play.start(last_king);
-    play.drag(2, ace_pile(0));
-    EXPECT_TRUE(frmyouwin.visible());
-    EXPECT_TRUE(frmyouwin.lblYouWin.visible());
-    EXPECT_FALSE(frmyouwin.lblNewHighScore.visible());
-    EXPECT_FALSE(frmcards.enabled());
-    EXPECT_EQ(score, 200);
-    EXPECT_EQ(play.stored("games won"), "1");
-    EXPECT_EQ(play.stored("average score"), "200");
+    for (const auto& [position, played] : {std::pair{last_king, "drag 2 ace 0"},
+                                           {last_king, "drag 2 2"},
+                                           {king_in_tablet, "drag tablet tablet"}}) {
+        Play play;
+        play.start(position);
+        play.act(played);
+        EXPECT_TRUE(frmyouwin.visible() && frmyouwin.lblYouWin.visible()) << played;
+        EXPECT_FALSE(frmyouwin.lblNewHighScore.visible() || frmcards.enabled());
+        EXPECT_EQ(play.stored("games won"), "1");
+        EXPECT_EQ(play.stored("average score"), "200");
+    }
 }
 
-TEST(Won, FromTheTabletWithoutSliding) {
+// A card that slides to its ace pile, with what happens on its way.
+class WonBySlide : public testing::Test {
+  protected:
+    void slide(const std::string& position, int from) {
+        play.start(position);
+        play.save("anamate", "True");
+        play.click(from);
+        ASSERT_TRUE(frmcards.Timer3.enabled());
+        EXPECT_FALSE(frmyouwin.visible());
+    }
     Play play;
-    play.start("ace 0: .. K♠\nace 1: .. K♥ K♥'\nace 2: .. K♦ K♦'\nace 3: .. K♣ K♣'\ntablet: (K♠')");
-    play.click(tablet_pile);
-    EXPECT_TRUE(frmyouwin.lblYouWin.visible());
-    EXPECT_EQ(score, 200);
-}
+};
 
-TEST(Won, ByASlideEndsTheGameWhenTheCardHasArrived) {
-    Play play;
-    play.start(last_king);
-    play.save("anamate", "True");
-    play.click(2);
+TEST_F(WonBySlide, WhenTheCardHasArrived) {
+    slide(last_king, 2);
     while (frmcards.Timer3.enabled()) {
         EXPECT_FALSE(frmyouwin.visible());
         play.desktop.advance(30);
@@ -50,25 +52,17 @@ TEST(Won, ByASlideEndsTheGameWhenTheCardHasArrived) {
     EXPECT_EQ(display_faults(), "") << "the pile is laid out by then";
 }
 
-TEST(Won, ByASlideThatAnotherDropLandsEarly) {
-    Play play;
-    play.start(last_king);
-    play.save("anamate", "True");
-    play.click(2);
-    play.drag(ace_pile(1), ace_pile(2));
+TEST_F(WonBySlide, ThatAnotherDropLandsEarly) {
+    slide(last_king, 2);
+    play.act("drag ace 1 ace 2");
     EXPECT_TRUE(frmyouwin.visible());
-    EXPECT_EQ(play.stored("games played"), "1");
     play.desktop.advance(1000);
     EXPECT_EQ(play.stored("games played"), "1") << "counted once";
 }
 
-TEST(Won, NotWhenTheDropThatLandsTheSlideTakesAKingBack) {
-    Play play;
-    play.start(last_king);
-    play.save("anamate", "True");
-    play.click(2);
-    play.drag(ace_pile(1), 5);
-    EXPECT_FALSE(frmyouwin.visible());
+TEST_F(WonBySlide, NotWhenTheDropThatLandsItTakesAKingBack) {
+    slide(last_king, 2);
+    play.act("drag ace 1 5");
     EXPECT_TRUE(shows("5: K♥'\nace 0: A♠ .. K♠ K♠'"));
     play.desktop.advance(1000);
     EXPECT_FALSE(frmyouwin.visible());
@@ -77,45 +71,33 @@ TEST(Won, NotWhenTheDropThatLandsTheSlideTakesAKingBack) {
     EXPECT_TRUE(frmyouwin.visible());
 }
 
-TEST(Won, NotWhenTheWinningSlideIsUndone) {
-    Play play;
-    play.start(last_two_kings);
-    play.save("anamate", "True");
-    play.click(3);
+TEST_F(WonBySlide, NotWhenItIsUndone) {
+    slide(last_two_kings, 3);
     play.desktop.advance(1000);
-    play.click(2);
-    play.undo();
-    EXPECT_TRUE(shows("2: K♠'\n3: -"));
+    play.act("drag 2 2, undo");
     play.desktop.advance(5000);
-    EXPECT_FALSE(frmyouwin.visible());
-    EXPECT_EQ(score, 199);
     // Another card that slides by itself wins nothing.
-    play.undo();
-    play.click(3);
+    play.act("undo, drag 3 3");
     play.desktop.advance(1000);
     EXPECT_FALSE(frmyouwin.visible());
-    play.drag(2, ace_pile(0));
+    play.act("drag 2 ace 0");
     EXPECT_TRUE(frmyouwin.visible());
     EXPECT_EQ(score, 200);
 }
 
 TEST(Won, AndDealtAnewLeavesNoUndoRecord) {
     // With five better scores stored, which there cannot be, the next game is dealt at once.
-    for (const bool slides : {true, false}) {
+    for (const char* slides : {"True", "False"}) {
         Play play;
         for (int place = 1; place <= 5; ++place) play.save("high score " + std::to_string(place), "500");
         play.start(last_king);
-        play.save("anamate", slides ? "True" : "False");
+        play.save("anamate", slides);
         play.click(2);
         play.desktop.advance(1000);
-        EXPECT_FALSE(frmyouwin.visible());
         EXPECT_EQ(undo_records(), "");
-        EXPECT_FALSE(frmcards.mnuUndo.visible());
-        EXPECT_EQ(state_faults(), "");
-        EXPECT_EQ(display_faults(), "");
+        EXPECT_EQ(state_faults() + display_faults(), "");
         EXPECT_EQ(play.stored("games played"), "1");
-        EXPECT_EQ(play.stored("games won"), "-")
-            << "only a game that enters the table at place 1 counts as won";
+        EXPECT_EQ(play.stored("games won"), "-") << "only a game that enters at place 1 counts as won";
     }
 }
 

@@ -42,9 +42,12 @@ class MouseTest : public testing::Test {
     MouseTest() { window.show(); }
     ~MouseTest() override { window.unload(); }
 
-    void click(float x, float y) {
-        window.mouse().press(x, y);
-        window.mouse().release(x, y);
+    // What a press and a release do.
+    std::string drag(float from_x, float to_x, float to_y = 50, MouseButton button = MouseButton::left) {
+        window.log.clear();
+        window.mouse().press(from_x, 50, button);
+        window.mouse().release(to_x, to_y, button);
+        return window.log;
     }
     int image_at(float x, float y) {
         const Image* image = window.mouse().image_at(x, y);
@@ -63,98 +66,57 @@ TEST_F(MouseTest, HitsTheTopmostImageThatIsShown) {
     EXPECT_EQ(image_at(75, 50), 1);
     EXPECT_EQ(image_at(25, 50), -1);
     EXPECT_EQ(image_at(50, 250), 2) << "an image without a picture is there all the same";
-    EXPECT_EQ(image_at(150, 50), -1) << "the right edge lies outside";
     EXPECT_EQ(image_at(149.5F, 99.5F), 1);
+    EXPECT_EQ(image_at(150, 50), -1) << "the right edge lies outside";
     EXPECT_EQ(image_at(149.5F, 100), -1);
-}
-
-TEST_F(MouseTest, ClicksOnPressAndReleaseOverTheSameImage) {
-    click(25, 50);
-    EXPECT_EQ(window.log, "click 0. ");
-    window.log.clear();
-    desktop.advance(1000);
-    window.mouse().press(25, 50);
-    window.mouse().release(120, 50);
-    window.mouse().press(25, 50, MouseButton::other);
-    window.mouse().release(25, 50, MouseButton::other);
-    EXPECT_EQ(window.log, "");
 }
 
 TEST_F(MouseTest, RaisesTwoClicksForTheSecondPressOnly) {
     const struct {
         int pause;
-        float dx;
+        float second_x;
         const char* log;
     } cases[] = {
-        {100, 0, "click 0. two clicks 0. click 0. "},
-        {100, 4, "click 0. two clicks 0. click 0. "},
-        {500, 0, "click 0. two clicks 0. click 0. "},
-        {501, 0, "click 0. click 0. "},
-        {100, 5, "click 0. click 0. "},
-        {100, 100, "click 0. click 1. "},
+        {500, 25, "two clicks 0. click 0. "},
+        {100, 29, "two clicks 0. click 0. "},
+        {501, 25, "click 0. "},
+        {100, 30, "click 0. "},
+        {100, 125, "click 1. "},
     };
-    for (const auto& [pause, dx, log] : cases) {
+    for (const auto& [pause, second_x, log] : cases) {
         desktop.advance(10'000);
-        window.log.clear();
-        click(25, 50);
+        EXPECT_EQ(drag(25, 25), "click 0. ");
         desktop.advance(pause);
-        click(25 + dx, 50);
-        EXPECT_EQ(window.log, log) << pause << " ms, " << dx << " pixels";
+        EXPECT_EQ(drag(second_x, second_x), log) << pause << " ms";
     }
     desktop.advance(10'000);
-    window.log.clear();
-    for (int i = 0; i < 5; ++i) click(25, 50);
-    EXPECT_EQ(window.log, "click 0. two clicks 0. click 0. click 0. two clicks 0. click 0. click 0. ")
-        << "every fast click counts";
+    EXPECT_EQ(drag(25, 25) + drag(25, 25) + drag(25, 25), "click 0. two clicks 0. click 0. click 0. ");
+    EXPECT_EQ(drag(25, 125), "two clicks 0. ") << "let go over another image";
+    EXPECT_EQ(drag(25, 25, 50, MouseButton::other), "");
 }
 
 TEST_F(MouseTest, DropsADraggedImageWithTheOffsetInTwips) {
-    window.mouse().press(210, 10);
-    EXPECT_EQ(window.mouse().dragged(), &window.images(3));
-    window.mouse().move(60, 30);
-    EXPECT_EQ(window.mouse().drag_dx(), -150);
-    window.mouse().release(60, 30);
-    EXPECT_EQ(window.log, "drop 3 on 1 at 150,450. ");
+    EXPECT_EQ(drag(210, 60, 30), "drop 3 on 1 at 150,450. ");
     EXPECT_EQ(window.images(3).left(), 200) << "the image itself stays";
-    window.log.clear();
-    click(210, 10);
-    click(210, 10);
-    EXPECT_EQ(window.log, "drop 3 on 3 at 150,150. drop 3 on 3 at 150,150. ") << "never a click";
-    window.log.clear();
-    window.mouse().press(210, 10);
-    window.mouse().release(180, 180);
-    EXPECT_EQ(window.log, "") << "no image, no drop";
+    EXPECT_EQ(drag(210, 210), "drop 3 on 3 at 150,750. ");
+    EXPECT_EQ(drag(210, 210), "drop 3 on 3 at 150,750. ") << "never a click";
+    EXPECT_EQ(drag(210, 180, 180), "") << "no image, no drop";
 }
 
 TEST_F(MouseTest, EndsADragWithoutADropOnCancelAndWhenTheWindowIsDisabled) {
-    const auto expect_no_drop = [this](const char* what) {
-        EXPECT_EQ(window.mouse().dragged(), nullptr) << what;
+    for (const bool cancelled : {true, false}) {
+        window.mouse().press(210, 10);
+        ASSERT_EQ(window.mouse().dragged(), &window.images(3));
+        cancelled ? window.mouse().cancel() : window.set_enabled(false);
+        EXPECT_EQ(window.mouse().dragged(), nullptr);
         window.mouse().release(60, 30);
-        EXPECT_EQ(window.log, "") << what;
-    };
-    window.mouse().press(210, 10);
-    window.mouse().cancel();
-    expect_no_drop("cancelled");
-    window.mouse().press(210, 10);
-    window.set_enabled(false);
-    expect_no_drop("disabled");
-    click(25, 50);
-    EXPECT_EQ(window.log, "") << "a disabled window takes no input";
+        EXPECT_EQ(window.log, "");
+    }
+    EXPECT_EQ(drag(25, 25), "") << "a disabled window takes no input";
     window.close();
     EXPECT_TRUE(window.loaded()) << "not even its close box";
     window.set_enabled(true);
-    click(25, 50);
-    EXPECT_EQ(window.log, "click 0. ");
-}
-
-TEST_F(MouseTest, LiftsWhatItIsToldTo) {
-    window.mouse().on_lift = [this](Image& dragged) {
-        return std::vector<Image*>{&dragged, &window.images(0)};
-    };
-    window.mouse().press(210, 10);
-    EXPECT_EQ(window.mouse().lifted().size(), 2U);
-    window.mouse().release(210, 10);
-    EXPECT_TRUE(window.mouse().lifted().empty());
+    EXPECT_EQ(drag(25, 25), "click 0. ");
 }
 
 }  // namespace

@@ -1,47 +1,16 @@
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-#include <unistd.h>
 
-#include <csignal>
 #include <filesystem>
-#include <fstream>
 #include <stdexcept>
 
 #include "settings/sqlite_store.h"
+#include "tests/store/faulty_disk.h"
+#include "tests/store/scratch_folder.h"
 
 namespace tarnwick {
 namespace {
-namespace fs = std::filesystem;
-
-// While it lives, no file can grow: for every writer, the superuser included, as on a full disk.
-class FullDisk {
-  public:
-    FullDisk() {
-        getrlimit(RLIMIT_FSIZE, &before_);
-        signal_ = std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit nothing{0, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &nothing);
-    }
-    ~FullDisk() {
-        setrlimit(RLIMIT_FSIZE, &before_);
-        static_cast<void>(std::signal(SIGXFSZ, signal_));
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-  private:
-    rlimit before_{};
-    void (*signal_)(int) = nullptr;
-};
-
 class StoreTest : public testing::Test {
   protected:
-    StoreTest() {
-        fs::remove_all(folder);
-        fs::create_directories(folder);
-    }
-    ~StoreTest() override { fs::remove_all(folder); }
-
     static std::string read(Store& store, const std::string& key) {
         return store.read("Tarnwick", "setting", key).value_or("-");
     }
@@ -51,12 +20,8 @@ class StoreTest : public testing::Test {
     void listen(Store& store) {
         store.listen([this](const std::string& sentence) { told.push_back(sentence); });
     }
-    void write_file(const std::string& name, const std::string& contents) const {
-        std::ofstream(folder / name, std::ios::binary) << contents;
-    }
-
-    fs::path folder = fs::temp_directory_path() / ("tarnwick-store-" + std::to_string(getpid()));
-    std::string path = (folder / "new" / "settings.sqlite").string();
+    ScratchFolder folder{"store"};
+    std::string path = folder / "new" / "settings.sqlite";
     std::vector<std::string> told;
 };
 
@@ -112,26 +77,24 @@ TEST_F(StoreTest, LetsTwoProgramsCountInTheSameFile) {
 }
 
 TEST_F(StoreTest, SetsADamagedFileAsideAndTellsOnce) {
-    path = (folder / "settings.sqlite").string();
-    write_file("settings.sqlite", "this is not a database, but a player may have something dear in it");
-    write_file("settings.damaged-1.sqlite", "an earlier one");
+    path = folder / "settings.sqlite";
+    ScratchFolder::write(folder / "settings.sqlite",
+                         "this is not a database, but a player may have something dear in it");
+    ScratchFolder::write(folder / "settings.damaged-1.sqlite", "an earlier one");
     SqliteStore store(path);
     listen(store);
     save(store, "games played", "1");
     EXPECT_EQ(read(store, "games played"), "1");
     ASSERT_EQ(told.size(), 1U);
     EXPECT_NE(told[0].find("settings.damaged-2.sqlite"), std::string::npos);
-    std::ifstream aside(folder / "settings.damaged-2.sqlite");
-    std::string words;
-    std::getline(aside, words);
-    EXPECT_EQ(words.substr(0, 23), "this is not a database,") << "never overwritten";
+    EXPECT_EQ(ScratchFolder::contents(folder / "settings.damaged-2.sqlite").substr(0, 13), "this is not a");
     EXPECT_EQ(read(*std::make_unique<SqliteStore>(path), "games played"), "1");
 }
 
 TEST_F(StoreTest, BeginsANewFileWhenTheOldOneIsTakenAway) {
     SqliteStore store(path);
     save(store, "games played", "7");
-    fs::remove(path);
+    std::filesystem::remove(path);
     EXPECT_EQ(read(store, "games played"), "-");
     save(store, "games played", "1");
     SqliteStore next(path);
@@ -140,7 +103,7 @@ TEST_F(StoreTest, BeginsANewFileWhenTheOldOneIsTakenAway) {
 
 // A folder that cannot be made stands for every file that cannot be written: it works for the superuser too.
 TEST_F(StoreTest, PlaysOnInMemoryWhereNothingCanBeWritten) {
-    write_file("new", "a file where the folder should be");
+    ScratchFolder::write(folder / "new", "a file where the folder should be");
     SqliteStore store(path);
     listen(store);
     save(store, "games played", "3");
@@ -152,16 +115,15 @@ TEST_F(StoreTest, PlaysOnInMemoryWhereNothingCanBeWritten) {
 }
 
 TEST_F(StoreTest, WritesWhatCouldNotBeWrittenOnceTheDiskHasRoomAgain) {
+    FaultyDisk disk;
     SqliteStore store(path);
     listen(store);
     save(store, "games won", "1");
-    {
-        const FullDisk full;
-        save(store, "games played", "1");
-        EXPECT_EQ(read(store, "games played"), "1");
-        EXPECT_EQ(read(store, "games won"), "1");
-        EXPECT_EQ(told.size(), 1U);
-    }
+    disk.fail_at(1, true);
+    save(store, "games played", "1");
+    EXPECT_EQ(read(store, "games played") + read(store, "games won"), "11");
+    EXPECT_EQ(told.size(), 1U);
+    disk.repair();
     EXPECT_EQ(read(*std::make_unique<SqliteStore>(path), "games played"), "-");
     save(store, "average score", "50");
     SqliteStore next(path);

@@ -1,15 +1,23 @@
 #include "tests/support/play.h"
 
-#include <algorithm>
 #include <sstream>
 
 #include "notation/position_text.h"
+#include "notation/record.h"
 #include "platform/random.h"
 #include "state/variables.h"
 #include "ui/program.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {
+namespace {
+
+void click_image(const Image& image, float offset) {
+    frmcards.mouse().press(image.left() + offset, image.top() + 8);
+    frmcards.mouse().release(image.left() + offset, image.top() + 8);
+}
+
+}  // namespace
 
 Play::~Play() {
     end_program();
@@ -27,6 +35,19 @@ void Play::start(const std::string& position) {
     set_position(position);
 }
 
+void Play::act(const std::string& record) {
+    std::istringstream lines(record);
+    for (std::string line; std::getline(lines, line, ',');) {
+        Action action;
+        parse_action(line, action);
+        if (action.kind == ActionKind::turn) click_stock();
+        if (action.kind == ActionKind::undo) undo();
+        if (action.kind == ActionKind::drag) {
+            drag(action.source, action.target, static_cast<float>(action.offset));
+        }
+    }
+}
+
 void Play::drag_image(const Image& from, const Image& to, float offset) {
     // Near the upper edge: the part of a card that the next one in its column leaves free.
     Mouse& mouse = frmcards.mouse();
@@ -37,29 +58,19 @@ void Play::drag_image(const Image& from, const Image& to, float offset) {
 
 void Play::drag(int from, int to, float offset) { drag_image(top_image(from), top_image(to), offset); }
 
-void Play::drag_slot(int from, int slot, int to, float offset) {
-    drag_image(frmcards.Image1(layout(from, slot, column_picture_field)), top_image(to), offset);
+void Play::drag_slot(int from, int slot, int to) {
+    drag_image(frmcards.Image1(layout(from, slot, column_picture_field)), top_image(to));
 }
 
-void Play::click(int pile, float offset) {
-    const Image& card = top_image(pile);
-    frmcards.mouse().press(card.left() + offset, card.top() + 8);
-    frmcards.mouse().release(card.left() + offset, card.top() + 8);
-}
+void Play::click(int pile, float offset) { click_image(top_image(pile), offset); }
 
 void Play::click_stock(int times) {
-    const Image& stock = frmcards.Image1(stock_image);
-    for (int i = 0; i < times; ++i) {
-        frmcards.mouse().press(stock.left() + 9, 20);
-        frmcards.mouse().release(stock.left() + 9, 20);
-    }
+    for (int i = 0; i < times; ++i) click_image(frmcards.Image1(stock_image), 9);
 }
 
 void Play::double_click(const Image& image) {
-    for (int i = 0; i < 2; ++i) {
-        frmcards.mouse().press(image.left() + 9, image.top() + 5);
-        frmcards.mouse().release(image.left() + 9, image.top() + 5);
-    }
+    click_image(image, 9);
+    click_image(image, 9);
 }
 
 void Play::space(int times) {

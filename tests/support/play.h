@@ -2,8 +2,8 @@
 
 #include <cstdint>
 #include <string>
-#include <vector>
 
+#include "board/display_check.h"
 #include "platform/headless.h"
 #include "platform/image.h"
 #include "settings/store.h"
@@ -30,11 +30,14 @@ class Play {
     /// Starts, without sliding cards, in a position.
     void start(const std::string& position);
 
+    /// Plays lines of a record (see notation/record.h), with commas between them.
+    void act(const std::string& record);
+
     /// Presses the mouse on the card that a pile would move, and lets go over what lies on top of the target,
     /// `offset` pixels from its left edge.
     void drag(int from, int to, float offset = middle);
     /// A drag that takes hold of slot `slot` of column `from`.
-    void drag_slot(int from, int slot, int to, float offset = middle);
+    void drag_slot(int from, int slot, int to);
     void drag_image(const Image& from, const Image& to, float offset = middle);
     /// Press and release at one place of a pile's top card: the way to send it to its ace pile.
     void click(int pile, float offset = middle);
@@ -58,10 +61,6 @@ class Play {
 
 /// The image seen on top of a pile, or its drop zone (the stock for the tablet) when it is empty.
 Image& top_image(int pile);
-
-/// What is wrong with the images of the table compared with the state; empty when every card is seen exactly
-/// where it lies and nothing else is. Not while a card slides.
-std::string display_faults();
 
 /// The undo list, newest record first, as "(25 25 -1) (3 12 1)".
 std::string undo_records();

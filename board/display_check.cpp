@@ -1,10 +1,11 @@
+#include "board/display_check.h"
+
 #include <array>
 #include <cmath>
 #include <sstream>
 
 #include "settings/settings.h"
 #include "state/variables.h"
-#include "tests/support/play.h"
 #include "windows/frmcards.h"
 #include "windows/pictures.h"
 

@@ -1,0 +1,257 @@
+#!/usr/bin/env python3
+"""Do the tests notice when the game is wrong? Changes the program in one place at a time and runs the tests.
+
+    python3 scripts/mutate.py [FOLDER]
+
+Works on a copy of the tree in FOLDER (build/mutate unless named), builds it again after each change, and
+prints which changes the tests caught. Ends with 1 when one survived.
+"""
+
+import argparse
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+# What is not needed to build the core and its tests.
+LEFT_OUT = {".git", "build", "build-debug", "build-sanitizers", "desktop", "art", "help", "docs", "packaging"}
+# The store is not what is changed, and its tests take long.
+TESTS = ["./core_tests", "--gtest_brief=1", "--gtest_fail_fast", "--gtest_filter=-Killed.*:Damage.*:StoreTest.*"]
+EVENTS = "40000"
+SECONDS = 60
+
+# By file: the text, which stands there once, what takes its place, and what that means.
+MUTATIONS = {
+    "board/display.cpp": [
+        ("79 * c + 4;", "79 * c + 5;", "columns lie further right"),
+        ("column_top_edge = 120", "column_top_edge = 121", "columns begin lower"),
+        ("slot_offset = 20", "slot_offset = 21", "cards of a column lie further apart"),
+        ("115 * card_scale", "114 * card_scale", "drop zones of columns begin higher"),
+        ("470 * card_scale", "460 * card_scale", "drop zones of columns are shorter"),
+        ("158 * p + 216", "158 * p + 217", "drop zones of ace piles lie further right"),
+        ("    score += 1;", "    score += 0;", "a card that is turned up earns nothing"),
+        ("set_interval(30)", "set_interval(40)", "the first twinkle plays slower"),
+        ("aces(p, picture_field) == plain_ace_image", "false", "an ace of Spades that is alone again stays plain"),
+        ("aces(p, beneath_picture_field) == ace_of_spades_image", "false", "an ace of Spades beneath is not plain"),
+        ("aces(p, last_used_field) >= third_picture_field && ", "", "a pile of two hides the third card it once had"),
+        ("        frmcards.Image1(aces(p, third_picture_field)).hide();", "", "the third card of a pile stays seen"),
+        ("    frmcards.Image1(first_ace_zone + p).hide();", "", "the zone of an ace pile stays above its ace"),
+        ("peeked ? face_down_image(1, 0) : image", "image", "the back is taken from the card peeked at"),
+    ],
+    "board/display.h": [
+        ("158 * p + 241", "158 * p + 240", "ace piles lie further left"),
+        ("158 * p + 220", "158 * p + 221", "cards beneath on ace piles lie further right"),
+        ("turned_card_left = 83", "turned_card_left = 84", "the turned card lies further right"),
+    ],
+    "board/scaling.cpp": [
+        ("frmcards.width() < design_width", "frmcards.width() <= design_width", "cards are scaled at 800 as well"),
+        ("i = stock_image; i <= 4;", "i = stock_image; i <= 3;", "the last ace zone is not stretched"),
+        ("4 * x_scale", "5 * x_scale", "the stock lies further right"),
+        ("- 70;", "- 60;", "the score stands lower"),
+    ],
+    "board/timed_effects.cpp": [
+        ("set_interval(1000)", "set_interval(30)", "a twinkle that is ended leaves its fast clock"),
+        ("    if (frmcards.Timer2.enabled()) end_peek();", "", "a peek goes on into the next game"),
+        ("== no_card_beneath", "!= no_card_beneath", "a slide lands as the wrong kind of pile"),
+    ],
+    "game/ace_messages.cpp": [
+        ('return "Jack"', 'return "11"', "a Jack has a number"),
+        ("top_rank + 1) +", "top_rank) +", "the message asks for the rank that lies there"),
+        ("top_rank == king && beneath_rank == king", "false", "a complete pile asks for another card"),
+    ],
+    "game/ace_moves.cpp": [
+        ("return rank == ace;", "return rank <= two;", "a two opens an ace pile"),
+        ("if (suit != pile_suit) return false;", "", "an ace pile takes any suit"),
+        ("rank == top + 1", "rank >= top + 1", "an ace pile takes a card too high"),
+        ("top == ace && rank == two", "top == ace && rank <= three", "a three lies on an ace"),
+        ("175 * x_scale", "170 * x_scale", "slides take more steps"),
+        ("+ 3 +", "+ 2 +", "slides from columns take a step less"),
+        ("2 * p + 3", "2 * p + 4", "slides from the tablet take a step more"),
+        ("!suppress_help && ", "", "automatic moves explain themselves"),
+        ("animate && setting_is_on", "setting_is_on", "a drop slides"),
+        ("add_undo(tablet_pile, target, 1)", "add_undo(tablet_pile, target, 0)", "another third number is recorded"),
+        ("        score += 1;", "        score += 2;", "an ace pile earns two"),
+        ("animation(slide_wins_game) = 1;", "end_game();", "a game that a slide wins ends before it"),
+        ("aces(p, rank_field) == ace && ", "", "the bonus is paid for every card"),
+        ("empty_ace_piles() == 0", "empty_ace_piles() == 1", "the bonus is paid for the third ace"),
+    ],
+    "game/ace_moves.h": [("fourth_ace_bonus = 10", "fourth_ace_bonus = 11", "the bonus is eleven")],
+    "game/column_moves.cpp": [
+        ("card.rank == king :", "card.rank >= queen :", "a Queen goes on an empty column"),
+        ("!face_up || card.rank != king", "card.rank != king", "a face-down King moves"),
+        ("layout(c, 0, face_down_field) == 0 && ", "", "an exchange with a column that has face-down cards"),
+        ("column_card(c, 0), top_card(source)", "column_card(c, 0), card", "an exchange is told by the King"),
+        ("last - first)", "last - first + 1)", "a run is recorded longer"),
+        ("source, target_top)", "source, target_top + 1)", "the first half of an exchange is recorded longer"),
+        ("c, moved - 1)", "c, moved)", "the second half of an exchange is recorded longer"),
+        ("score -= 1", "score -= 2", "a card off an ace pile costs two"),
+        ("then([&] { frmcards.Image1(aces(p, beneath_picture_field)).hide(); });", "", "a plain ace stays seen"),
+    ],
+    "game/deal.cpp": [
+        ("shuffle_passes = 3", "shuffle_passes = 2", "the cards are shuffled twice"),
+        ("    animation(slide_wins_game) = 0;", "", "a win is carried into the next game"),
+        ("    undo_count() = 0;", "", "the undo list is carried into the next game"),
+        ("    frmcards.mouse().cancel();", "", "a drag is carried into the next game"),
+        ("    stop_effects();", "", "a slide is carried into a restarted game"),
+        ("    resume_after_error = flag_false;", "", "an answer to an error is carried into the next game"),
+    ],
+    "game/drop_dispatch.cpp": [
+        ("tablet_source_limit = 200", "tablet_source_limit = 80", "the turned card counts as an ace pile"),
+        ("tablet_source_limit = 200", "tablet_source_limit = 225", "the card beneath on an ace pile is the tablet"),
+        ("tablet_target_limit = 150", "tablet_target_limit = 80", "a click on the turned card is a drop elsewhere"),
+        ("tablet_target_limit = 150", "tablet_target_limit = 225", "the card beneath on an ace pile takes no card"),
+        ("left_neighbour_limit = 20", "left_neighbour_limit = 21", "the left neighbour is tried from further in"),
+        ("right_neighbour_limit = 41", "right_neighbour_limit = 40", "the right neighbour is tried from further in"),
+        ("c > 0)", "c > 1)", "column 0 is no neighbour"),
+        ("c < last_column)", "c < 8)", "column 9 is no neighbour"),
+        ("return frmcards.Timer3.enabled() && ", "return ", "a card that has slid is in flight for ever"),
+        ("78 * x_scale", "74 * x_scale", "columns are told by another width"),
+        ("int k = 0; k <= 3; ++k", "int k = 3; k >= 0; --k", "an ace goes to the last empty pile"),
+        ("suppress_help = flag_true;", "", "automatic moves explain themselves"),
+        (">= two", ">= ace", "an ace comes back from its pile"),
+    ],
+    "game/end_game.cpp": [
+        (" <= score", " < score", "an equal score enters the table below"),
+        ("if (score != 0) ", "", "a game without a point is counted"),
+        ("frmyouwin.visible() || ", "", "a game is counted again behind the win dialog"),
+        (" || (frmBestScore.visible() && frmBestScore.shpBestSquare.visible())", "", "or behind the best scores"),
+        ("if (all_ace_piles_complete()) end_game", "end_game", "a King taken back in time does not keep the game"),
+        ("if (frmcards.enabled()) new_game", "new_game", "the next game is dealt behind the win dialog"),
+    ],
+    "game/tablet.cpp": [
+        ("cards_per_turn = 5", "cards_per_turn = 4", "four cards are turned"),
+        ("turned_slot() > cards_per_turn", "turned_slot() >= cards_per_turn", "five left: the stock stays"),
+        ("last_tablet_slot() < cards_per_turn; })", "last_tablet_slot() <= cards_per_turn; })", "a pass of six"),
+        ("last_tablet_slot() < cards_per_turn &&", "last_tablet_slot() <= cards_per_turn &&", "six are turned for good"),
+        ("set_picture(current_back())", "set_picture({})", "a new pass shows no stock"),
+        ("add_undo(turn_record, turn_record, turned_slot())", "add_undo(turn_record, 0, turned_slot())", "another record"),
+    ],
+    "game/undo.cpp": [
+        ("if (frmcards.Timer3.enabled()) land_slide();", "", "a slide goes on when it is undone"),
+        ("    animation(slide_wins_game) = 0;", "", "a win that is undone stays asked for"),
+        ("undo_count() < 1", "undo_count() < 2", "the last record cannot be taken back"),
+    ],
+    "game/undo_moves.cpp": [
+        ("undo_count() < 2 || ", "", "an old turned-up record counts"),
+        ("empty_ace_piles() == 1", "empty_ace_piles() >= 1", "the bonus is taken back again"),
+        ("    frmcards.Image1(aces(p, beneath_picture_field)).hide();", "", "a plain ace stays seen"),
+        ("    add_to_score(1);", "    add_to_score(0);", "a card back on an ace pile earns nothing"),
+    ],
+    "game/undo_tablet.cpp": [
+        ("if (undo_count() == 1) return;", "", "the first turn is taken back"),
+        ("last_tablet_slot() > 4", "last_tablet_slot() > 5", "a stock of six does not come back"),
+        ("last_tablet_slot() > 4", "last_tablet_slot() > 3", "a stock of five comes back"),
+        ("add_to_score(-2)", "add_to_score(-1)", "undo from tablet to ace pile costs one"),
+    ],
+    "state/ace_piles.cpp": [
+        ("aces(p, rank_field) != aces(p, beneath_rank_field)", "true", "the rank beneath never falls"),
+        ("k <= aces(p, last_used_field); ++k", "k < aces(p, last_used_field); ++k", "the lowest card does not move up"),
+        ("    aces(p, suit_field) = none;", "", "an emptied pile keeps its suit"),
+    ],
+    "state/undo_list.cpp": [
+        ("(turned_up ? 2 : 1)", "1", "a full list keeps half a move"),
+        ("undo_count() == most_undo_records) drop", "undo_count() == 298) drop", "the list is full too early"),
+    ],
+    "ui/card_input.cpp": [
+        ("peek_time = 1500", "peek_time = 1600", "a peek lasts longer"),
+        ("    if (another_shows) cover_peeked_card();", "", "two cards are peeked at"),
+        (" && !tablet_is_turned_for_good()", "", "the space bar turns what is turned for good"),
+    ],
+    "ui/timers.cpp": [
+        ("frame_time = 30", "frame_time = 60", "an idle twinkle plays slower"),
+        ("idle_time = 1000", "idle_time = 900", "the idle clock is faster"),
+        ("twinkle_odds = 45", "twinkle_odds = 1000", "it hardly twinkles"),
+        ("ace_of_spades().left() > turned_card_limit * x_scale", "true", "the turned ace twinkles"),
+        ("ace_of_spades().top() == static_cast<float>(top_row) &&", "", "an ace in a column twinkles"),
+    ],
+}
+
+
+def copy_tree(tree):
+    """Brings the copy up to date; files that have not changed keep their time, so that little is built again."""
+    for folder, folders, files in os.walk(ROOT):
+        folders[:] = [name for name in folders if name not in LEFT_OUT and not name.startswith("build")]
+        target = tree / pathlib.Path(folder).relative_to(ROOT)
+        target.mkdir(parents=True, exist_ok=True)
+        wanted = set(folders) | set(files)
+        for old in target.iterdir():
+            if old.name not in wanted:
+                shutil.rmtree(old) if old.is_dir() else old.unlink()
+        for name in files:
+            source, copy = pathlib.Path(folder) / name, target / name
+            if not copy.exists() or source.read_bytes() != copy.read_bytes():
+                shutil.copy(source, copy)
+
+
+def build(folder):
+    return subprocess.run(
+        ["cmake", "--build", folder, "-j2", "--target", "core_tests"], capture_output=True, text=True
+    )
+
+
+def run_tests(folder):
+    """The name of the first test that fails, or None."""
+    environment = dict(os.environ, TARNWICK_EVENTS=EVENTS, TARNWICK_LONG="0")
+    try:
+        run = subprocess.run(
+            TESTS, cwd=folder, env=environment, capture_output=True, text=True, errors="replace", timeout=SECONDS
+        )
+    except subprocess.TimeoutExpired:
+        return "runs for ever"
+    if run.returncode == 0:
+        return None
+    failed = [line.split()[3] for line in run.stdout.splitlines() if line.startswith("[  FAILED  ] ")][:1]
+    return failed[0].rstrip(",") if failed else "breaks off"
+
+
+def check_table():
+    faults = []
+    for file, rows in MUTATIONS.items():
+        text = (ROOT / file).read_text(encoding="utf-8")
+        faults += [f"{file}: found {text.count(old)} times: {old}" for old, _, _ in rows if text.count(old) != 1]
+    if faults:
+        sys.exit("\n".join(faults))
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("folder", nargs="?", default=ROOT / "build" / "mutate", type=pathlib.Path)
+    folder = parser.parse_args().folder.resolve()
+    check_table()
+
+    tree, binaries = folder / "tree", folder / "build"
+    copy_tree(tree)
+    subprocess.run(
+        ["cmake", "-G", "Ninja", "-S", tree, "-B", binaries, "-DCMAKE_BUILD_TYPE=", "-DTARNWICK_DESKTOP=OFF"],
+        check=True,
+        stdout=subprocess.DEVNULL,
+    )
+    first = build(binaries)
+    if first.returncode != 0:
+        sys.exit(first.stdout)
+    failed = run_tests(binaries)
+    if failed:
+        sys.exit(f"nothing is changed yet, and {failed} fails")
+
+    survivors = 0
+    mutations = [(file, *row) for file, rows in MUTATIONS.items() for row in rows]
+    for file, old, new, note in mutations:
+        original = (tree / file).read_text(encoding="utf-8")
+        (tree / file).write_text(original.replace(old, new), encoding="utf-8")
+        try:
+            built = build(binaries)
+            if built.returncode != 0:
+                sys.exit(f"{file}: \"{note}\" does not build\n{built.stdout}")
+            failed = run_tests(binaries)
+        finally:
+            (tree / file).write_text(original, encoding="utf-8")
+        survivors += failed is None
+        print(f"{'caught  ' if failed else 'SURVIVED'}  {file}: {note}{f' ({failed})' if failed else ''}", flush=True)
+    print(f"{len(mutations) - survivors} of {len(mutations)} caught, {survivors} survived")
+    return 1 if survivors else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
