@@ -36,8 +36,8 @@ class QtDesktop : public Desktop {
     void remove(WindowView& view);
     /// Lets the dialogs of a window that is about to go stay on the screen without it.
     void detach_dialogs_of(const QWidget& window);
-    /// The window that new dialogs belong to (not one that is about to go), and the front one of all; null when
-    /// there is none.
+    /// The window that new dialogs belong to (not one that is about to go), and the front one of all; null
+    /// when there is none.
     QWidget* main_window() const;
     QWidget* front_window() const;
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "tests/desktop/board_picture.h"
-#include "tests/desktop/eventually.h"
+#include "tools/driver/board_picture.h"
+#include "tools/driver/eventually.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmError.h"
 #include "windows/frmFeatures.h"

@@ -3,8 +3,8 @@
 #include <functional>
 
 #include "state/variables.h"
-#include "tests/desktop/board_picture.h"
-#include "tests/desktop/eventually.h"
+#include "tools/driver/board_picture.h"
+#include "tools/driver/eventually.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {

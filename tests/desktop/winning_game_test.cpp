@@ -6,7 +6,7 @@
 #include <sstream>
 
 #include "state/variables.h"
-#include "tests/desktop/board_picture.h"
+#include "tools/driver/board_picture.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmyouwin.h"
 

@@ -12,7 +12,7 @@
 #include "state/soundness.h"
 #include "state/undo_list.h"
 #include "state/variables.h"
-#include "tests/support/play.h"
+#include "tools/driver/play.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmError.h"
 #include "windows/frmFeatures.h"

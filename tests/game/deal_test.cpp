@@ -6,7 +6,7 @@
 #include "platform/random.h"
 #include "state/soundness.h"
 #include "state/variables.h"
-#include "tests/support/play.h"
+#include "tools/driver/play.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {

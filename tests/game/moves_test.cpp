@@ -4,7 +4,7 @@
 #include "state/soundness.h"
 #include "state/undo_list.h"
 #include "state/variables.h"
-#include "tests/support/play.h"
+#include "tools/driver/play.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {

@@ -5,7 +5,7 @@
 #include "notation/position_text.h"
 #include "state/soundness.h"
 #include "state/variables.h"
-#include "tests/support/play.h"
+#include "tools/driver/play.h"
 
 namespace tarnwick {
 namespace {

@@ -15,7 +15,7 @@
 #include "state/variables.h"
 #include "tests/random_play/rules.h"
 #include "tests/store/scratch_folder.h"
-#include "tests/support/play.h"
+#include "tools/driver/play.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmError.h"
 #include "windows/frmcards.h"

@@ -3,7 +3,7 @@
 #include "notation/position_text.h"
 #include "state/soundness.h"
 #include "state/variables.h"
-#include "tests/support/play.h"
+#include "tools/driver/play.h"
 #include "windows/frmCommon.h"
 #include "windows/frmcards.h"
 

@@ -2,7 +2,7 @@
 
 #include "notation/position_text.h"
 #include "state/variables.h"
-#include "tests/support/play.h"
+#include "tools/driver/play.h"
 #include "windows/frmcards.h"
 #include "windows/pictures.h"
 

@@ -9,8 +9,8 @@
 #include <stdexcept>
 
 #include "state/variables.h"
-#include "tests/desktop/eventually.h"
-#include "tests/desktop/twin_game.h"
+#include "tools/driver/eventually.h"
+#include "tools/driver/twin_game.h"
 #include "windows/frmcards.h"
 
 namespace {

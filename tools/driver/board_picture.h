@@ -2,7 +2,7 @@
 
 #include <QImage>
 
-#include "tests/desktop/twin_game.h"
+#include "tools/driver/twin_game.h"
 
 namespace tarnwick {
 

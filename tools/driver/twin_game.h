@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "settings/store.h"
-#include "tests/desktop/child_process.h"
-#include "tests/desktop/x_driver.h"
-#include "tests/support/play.h"
+#include "tools/driver/child_process.h"
+#include "tools/driver/play.h"
+#include "tools/driver/x_driver.h"
 
 namespace tarnwick {
 

@@ -1,4 +1,4 @@
-#include "tests/support/play.h"
+#include "tools/driver/play.h"
 
 #include <sstream>
 

@@ -1,4 +1,4 @@
-#include "tests/desktop/x_driver.h"
+#include "tools/driver/x_driver.h"
 
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
@@ -10,7 +10,7 @@
 #include <map>
 #include <stdexcept>
 
-#include "tests/desktop/eventually.h"
+#include "tools/driver/eventually.h"
 
 namespace tarnwick {
 namespace {

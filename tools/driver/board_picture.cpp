@@ -1,11 +1,11 @@
-#include "tests/desktop/board_picture.h"
+#include "tools/driver/board_picture.h"
 
 #include <QPainter>
 #include <cstdlib>
 #include <sstream>
 
 #include "desktop/board_painter.h"
-#include "tests/desktop/eventually.h"
+#include "tools/driver/eventually.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {

@@ -1,4 +1,4 @@
-#include "tests/desktop/child_process.h"
+#include "tools/driver/child_process.h"
 
 #include <fcntl.h>
 #include <signal.h>
@@ -10,7 +10,7 @@
 #include <cstdlib>
 #include <system_error>
 
-#include "tests/desktop/eventually.h"
+#include "tools/driver/eventually.h"
 
 namespace tarnwick {
 namespace {

@@ -1,4 +1,4 @@
-#include "tests/desktop/twin_game.h"
+#include "tools/driver/twin_game.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,7 +9,7 @@
 
 #include "settings/sqlite_store.h"
 #include "state/variables.h"
-#include "tests/desktop/eventually.h"
+#include "tools/driver/eventually.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {
