@@ -5,7 +5,6 @@
 
 #include "platform/desktop.h"
 #include "settings/settings.h"
-#include "windows/pictures.h"
 
 namespace tarnwick {
 namespace {
@@ -31,15 +30,15 @@ Value converted(const char* key, Value default_value, Convert convert) {
     }
 }
 
-int to_card_back(const std::string& text) {
-    const int back = to_integer(text);
-    if (back < 0 || back >= back_count) throw ConversionError(text, "a card back");
-    return back;
-}
-
 }  // namespace
 
-int stored_card_back() { return converted(key_card_back, default_card_back, to_card_back); }
+int stored_card_back(int count) {
+    return converted(key_card_back, default_card_back, [count](const std::string& text) -> int {
+        const int back = to_integer(text);
+        if (back < 0 || back >= count) throw ConversionError(text, "a card back");
+        return back;
+    });
+}
 Color stored_back_color() { return converted(key_back_color, default_back_color, to_long); }
 Color stored_text_color() { return converted(key_text_color, default_text_color, to_long); }
 bool stored_flag(const char* key) { return converted(key, true, to_boolean); }

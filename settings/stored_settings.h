@@ -7,7 +7,8 @@ namespace tarnwick {
 // Stored settings as a window needs them when it is loaded or laid out. A text that does not convert must not
 // keep it from appearing: the default stands in for it, and the player is told once.
 
-int stored_card_back();
+/// @param count  how many card backs there are
+int stored_card_back(int count);
 Color stored_back_color();
 Color stored_text_color();
 /// A setting that is on unless it is stored as off.

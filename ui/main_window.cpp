@@ -11,6 +11,7 @@
 #include "ui/handlers.h"
 #include "ui/table_colors.h"
 #include "windows/frmcards.h"
+#include "windows/pictures.h"
 
 namespace tarnwick {
 namespace {
@@ -42,7 +43,7 @@ void size_to_screen() {
 
 void load() {
     place_stock();
-    change_back(stored_card_back());
+    change_back(stored_card_back(back_count));
     set_table_color(stored_back_color());
     set_text_color(stored_text_color());
     fill_second_pack();

@@ -41,7 +41,7 @@ void load() {
         frmFeatures.ImgCardBacks(i).set_picture(frmcards.ImgCardBacks(i).picture());
     }
     place_backs();
-    choose_back(stored_card_back());
+    choose_back(stored_card_back(back_count));
     frmFeatures.chkAnamate.move(320, 110, 200, 35);
     frmFeatures.chkAnamate.set_checked(stored_flag(key_anamate));
     frmFeatures.chkScaleCards.move(320, 170, 200, 35);
