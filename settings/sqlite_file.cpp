@@ -33,10 +33,24 @@ std::int64_t checksum_of(const SettingAddress& address, const std::string& text)
     return hash;
 }
 
+// A file of a few bytes would be taken for a new one; all that is whole begins with a header.
+void refuse_stump(const std::string& path) {
+    constexpr off_t header = 100;
+    struct stat file {};
+    if (stat(path.c_str(), &file) == 0 && S_ISREG(file.st_mode) && file.st_size > 0 &&
+        file.st_size < header) {
+        throw FileError("the file is cut off", true);
+    }
+}
+
 constexpr const char* select_all = "SELECT application, section, key, text, checksum FROM setting";
 
-// Reads the current row of select_all; false when its checksum is wrong.
+// Reads the current row of select_all; false when its checksum is wrong, or when a part of it is of a kind
+// under which nobody would find it.
 bool read_row(sqlite3_stmt* statement, SettingAddress& address, std::string& text) {
+    for (int column = 0; column <= 3; ++column) {
+        if (sqlite3_column_type(statement, column) != SQLITE_TEXT) return false;
+    }
     address = {column_text(statement, 0), column_text(statement, 1), column_text(statement, 2)};
     text = column_text(statement, 3);
     return sqlite3_column_int64(statement, 4) == checksum_of(address, text);
@@ -59,6 +73,7 @@ std::map<SettingAddress, std::string> readable_values(sqlite3* database) {
 }  // namespace
 
 SqliteFile::SqliteFile(const std::string& path) : path_(path) {
+    refuse_stump(path);
     const int opened =
         sqlite3_open_v2(path.c_str(), &database_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
     try {
