@@ -36,8 +36,8 @@ class FrameBox : public QGroupBox {
         QColor border = palette().color(QPalette::WindowText);
         border.setAlpha(border_alpha);
         painter.setPen(border);
-        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, text.height() / 2 + 0.5, -0.5, -0.5), radius,
-                                radius);
+        const int middle = text.height() / 2;
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, middle + 0.5, -0.5, -0.5), radius, radius);
     }
 };
 

@@ -189,7 +189,7 @@ class RandomPlayer {
             return;
         }
         if (slides()) count("resize during a slide");
-        const int* size = &sizes[static_cast<std::size_t>(2 * below(6))];
+        const int* size = &sizes[std::size_t{2} * static_cast<std::size_t>(below(6))];
         frmcards.user_resized({size[0], size[1]});
     }
 

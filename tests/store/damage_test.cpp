@@ -116,7 +116,7 @@ void use_store(const std::string& path, const Values& table, int& notices) {
 TEST_F(Damage, ByADiskThatFailsLosesNoAcknowledgedValueAndTearsNoTable) {
     const std::string file = whole();
     Values table = values_;
-    for (auto& [key, text] : table) text = "new " + text;
+    for (auto& [key, text] : table) text.insert(0, "new ");
     FaultyDisk disk;
     int failures = 0;
     for (const bool for_ever : {false, true}) {

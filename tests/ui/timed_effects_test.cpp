@@ -36,7 +36,7 @@ TEST(Slide, TakesAStraightLineInAsManyStepsAsTheDistanceAsksFor) {
         play.desktop.advance(30);
         EXPECT_NEAR(card.left(), first_left, 0.01) << position;
         EXPECT_NEAR(card.top(), first_top, 0.01) << position;
-        play.desktop.advance(30 * (steps - 2));
+        play.desktop.advance(std::int64_t{30} * (steps - 2));
         EXPECT_TRUE(frmcards.Timer3.enabled());
         play.desktop.advance(30);
         EXPECT_FALSE(frmcards.Timer3.enabled());

@@ -80,7 +80,7 @@ void Play::space(int times) {
 void Play::undo() { frmcards.mnuUndo.choose(); }
 
 std::string Play::message() {
-    const std::string text = desktop.messages().empty() ? "" : desktop.messages().back().text;
+    std::string text = desktop.messages().empty() ? "" : desktop.messages().back().text;
     desktop.forget_messages();
     return text;
 }
