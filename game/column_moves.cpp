@@ -3,21 +3,13 @@
 #include "board/display.h"
 #include "game/tablet.h"
 #include "state/ace_piles.h"
+#include "state/columns.h"
 #include "state/routine.h"
 #include "state/undo_list.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {
 namespace {
-
-void place_on_column(int c, const Card& card) {
-    column_top(c) += 1;
-    const int slot = column_top(c);
-    layout(c, slot, rank_field) = card.rank;
-    layout(c, slot, suit_field) = card.suit;
-    layout(c, slot, face_down_field) = 0;
-    layout(c, slot, column_picture_field) = card.picture;
-}
 
 bool card_builds_on(const Card& card, const Card& below) {
     return builds_on(card.rank, card.suit, below.rank, below.suit);
@@ -46,7 +38,7 @@ Found move_for_card(int source, int i, int c) {
 void move_run(Statements& then, int source, int first, int c) {
     const int last = column_top(source);
     for (int j = first; j <= last; ++j) {
-        then([=] { place_on_column(c, column_card(source, j)); });
+        then([=] { push_on_column(c, column_card(source, j)); });
         then([=] { column_top(source) -= 1; });
         then([=] { frmcards.Image1(layout(source, j, column_picture_field)).hide(); });
     }
@@ -55,13 +47,7 @@ void move_run(Statements& then, int source, int first, int c) {
     then([=] { add_undo(source, c, last - first); });
 }
 
-void copy_face_up(int source, int from, int c, int to) {
-    const Card card = column_card(source, from);
-    layout(c, to, rank_field) = card.rank;
-    layout(c, to, suit_field) = card.suit;
-    layout(c, to, face_down_field) = 0;
-    layout(c, to, column_picture_field) = card.picture;
-}
+void copy_face_up(int source, int from, int c, int to) { put_into_slot(c, to, column_card(source, from)); }
 
 // The whole target column goes onto the source column, and from the King on everything comes back.
 void exchange(Statements& then, int source, int first, int c) {
@@ -88,7 +74,7 @@ bool from_tablet_to_column(const Integer& c) {
     bool moved = false;
     resumable("from_tablet_to_column", [&](Statements& then) {
         if (!then.holds([&] { return fits_on_top(c, turned_card()); })) return;
-        then([&] { place_on_column(c, turned_card()); });
+        then([&] { push_on_column(c, turned_card()); });
         then([&] { frmcards.Image1(turned_card().picture).hide(); });
         then([&] { redisplay_column(c); });
         then([] { take_from_tablet(); });
@@ -120,7 +106,7 @@ bool from_ace_to_column(const Integer& c) {
     resumable("from_ace_to_column", [&](Statements& then) {
         const int p = drag_source - first_ace_pile;
         if (!then.holds([&] { return fits_on_top(c, ace_pile_card(p)); })) return;
-        then([&] { place_on_column(c, ace_pile_card(p)); });
+        then([&] { push_on_column(c, ace_pile_card(p)); });
         then([&] { frmcards.Image1(ace_pile_card(p).picture).hide(); });
         // An ace that will be alone is shown by another image than the plain ace beneath another card.
         then([&] { frmcards.Image1(aces(p, beneath_picture_field)).hide(); });

@@ -3,6 +3,7 @@
 #include "board/display.h"
 #include "game/ace_moves.h"
 #include "state/ace_piles.h"
+#include "state/columns.h"
 #include "state/routine.h"
 #include "state/undo_list.h"
 #include "windows/frmcards.h"
@@ -13,16 +14,6 @@ namespace {
 void add_to_score(int points) {
     score += points;
     show_score();
-}
-
-// Puts a card back on top of column c, face up.
-void put_back_on_column(int c, const Card& card) {
-    column_top(c) += 1;
-    const int top = column_top(c);
-    layout(c, top, rank_field) = card.rank;
-    layout(c, top, suit_field) = card.suit;
-    layout(c, top, face_down_field) = 0;
-    layout(c, top, column_picture_field) = card.picture;
 }
 
 // Where the move had turned up the card in slot `top` of column c, turns it down again; its record goes with
@@ -64,7 +55,7 @@ void undo_from_column_to_ace() {
         const int c = undo_list(0, 0);
         const int p = undo_list(0, 1) - first_ace_pile;
         const int uncovered = column_top(c);
-        put_back_on_column(c, ace_pile_card(p));
+        push_on_column(c, ace_pile_card(p));
         take_back_from_ace_pile(p);
         turn_down_again(c, uncovered);
         add_to_score(-1);
@@ -78,7 +69,7 @@ void undo_from_column_to_column() {
     const int uncovered = column_top(source);
     const int last = column_top(c);
     for (int i = last - undo_list(0, 2); i <= last; ++i) {
-        put_back_on_column(source, column_card(c, i));
+        push_on_column(source, column_card(c, i));
         frmcards.Image1(layout(c, column_top(c), column_picture_field)).hide();
         column_top(c) -= 1;
     }
