@@ -160,7 +160,13 @@ void BoardPainter::sort_images() {
     }
 }
 
-void BoardPainter::paint_images(QPainter& painter, const QRegion& area, qreal ratio) {
+void BoardPainter::prepare_pictures(qreal ratio) {
+    const PixelSize size = form_.client_size();
+    collect_sprites(QRect(0, 0, size.width, size.height), ratio);
+    for (const Sprite& sprite : sprites_) pictures_.pixmap(sprite.image->picture(), sprite.place.size());
+}
+
+void BoardPainter::collect_sprites(const QRegion& area, qreal ratio) {
     sort_images();
     sprites_.clear();
     // From the top one down, so that cards under another one at the same place are left out: piles stay crisp
@@ -174,6 +180,10 @@ void BoardPainter::paint_images(QPainter& painter, const QRegion& area, qreal ra
         if (std::any_of(sprites_.begin(), sprites_.end(), covers)) continue;
         sprites_.push_back({*image, device_place});
     }
+}
+
+void BoardPainter::paint_images(QPainter& painter, const QRegion& area, qreal ratio) {
+    collect_sprites(area, ratio);
     for (auto sprite = sprites_.rbegin(); sprite != sprites_.rend(); ++sprite) paint_sprite(painter, *sprite);
 }
 

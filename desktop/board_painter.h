@@ -23,6 +23,9 @@ class BoardPainter {
     /// clipping is up to the painter.
     void paint(QPainter& painter, const QRegion& area);
 
+    /// Draws the pictures that a painting at the device's pixel ratio will want.
+    void prepare_pictures(qreal ratio);
+
     /// Where a widget that lies at `place` can be seen, in whole pixels.
     QRect area_of(const Widget& widget, const Rect& place) const;
     /// Where the lifted images are seen now, with their shadow; empty when none are lifted.
@@ -42,6 +45,7 @@ class BoardPainter {
 
     void paint_outlines(QPainter& painter, const QRegion& area, qreal ratio) const;
     void paint_labels(QPainter& painter, const QRegion& area) const;
+    void collect_sprites(const QRegion& area, qreal ratio);
     void paint_images(QPainter& painter, const QRegion& area, qreal ratio);
     void paint_lifted(QPainter& painter, const QRegion& area, qreal ratio);
     void paint_sprite(QPainter& painter, const Sprite& sprite);
@@ -51,7 +55,7 @@ class BoardPainter {
     PictureCache pictures_;
     DragShadow shadow_;
     std::vector<const Image*> images_;  ///< from the lowest one up
-    std::vector<Sprite> sprites_;
+    std::vector<Sprite> sprites_;       ///< what a painting shows, from the top one down
 };
 
 }  // namespace tarnwick

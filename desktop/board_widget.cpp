@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QTimer>
 
 #include "desktop/key_codes.h"
 
@@ -89,6 +90,12 @@ void BoardWidget::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.translate(0, -offset_);
     painter_.paint(painter, event->region().translated(0, offset_));
+}
+
+void BoardWidget::showEvent(QShowEvent* event) {
+    // The desktop takes a while to give a new window its place on the screen: time to draw pictures.
+    QTimer::singleShot(0, this, [this] { painter_.prepare_pictures(devicePixelRatioF()); });
+    QWidget::showEvent(event);
 }
 
 void BoardWidget::resizeEvent(QResizeEvent*) {

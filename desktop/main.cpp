@@ -30,9 +30,10 @@ void report_missing_display(QtMsgType type, const QMessageLogContext&, const QSt
     std::_Exit(EXIT_FAILURE);
 }
 
-// The icon is for the desktop around the window, which can wait until the window is there.
+// The icon is for the desktop around the window, which can wait until the board is painted.
 void set_icon_later() {
-    QTimer::singleShot(0, qApp, [] {
+    constexpr std::chrono::milliseconds a_moment{200};
+    QTimer::singleShot(a_moment, qApp, [] {
         QIcon icon;
         for (const int size : {16, 24}) {
             icon.addPixmap(QPixmap::fromImage(render_drawing("icon-small", {size, size})));
