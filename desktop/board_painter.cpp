@@ -30,16 +30,6 @@ QRectF picture_place(const Image& image, const Rect& place) {
 
 bool is_seen(const Image& image) { return image.visible() && !image.picture().none(); }
 
-bool is_lifted(const Form& form, const Image& image) {
-    const std::vector<Image*>& lifted = form.mouse().lifted();
-    return std::find(lifted.begin(), lifted.end(), &image) != lifted.end();
-}
-
-QRectF lifted_place(const Form& form, const Image& image) {
-    return picture_place(image, image.place())
-        .translated(static_cast<qreal>(form.mouse().drag_dx()), static_cast<qreal>(form.mouse().drag_dy()));
-}
-
 // A row of labels at the lower left corner grows to the right and upwards, and keeps its order.
 QRectF label_place(const Rect& place, qreal scale) {
     const QRectF given = to_qt(place);
@@ -78,9 +68,24 @@ QRect BoardPainter::area_of(const Widget& widget, const Rect& place) const {
     return touched(to_qt(place));
 }
 
+const std::vector<Image*>& BoardPainter::lifted() const {
+    const std::vector<Image*>& dragged = form_.mouse().lifted();
+    return dragged.empty() && glide_ ? glide_->images() : dragged;
+}
+
+QPointF BoardPainter::lifted_offset() const {
+    const Mouse& mouse = form_.mouse();
+    if (mouse.lifted().empty()) return glide_ ? glide_->offset() : QPointF();
+    return {static_cast<qreal>(mouse.drag_dx()), static_cast<qreal>(mouse.drag_dy())};
+}
+
+QRectF BoardPainter::lifted_place(const Image& image) const {
+    return picture_place(image, image.place()).translated(lifted_offset());
+}
+
 QRect BoardPainter::lifted_area() const {
     QRectF bounds;
-    for (const Image* image : form_.mouse().lifted()) bounds |= lifted_place(form_, *image);
+    for (const Image* image : lifted()) bounds |= lifted_place(*image);
     if (bounds.isEmpty()) return {};
     return touched(bounds.adjusted(-shadow_reach, -shadow_reach, shadow_reach, shadow_reach));
 }
@@ -169,10 +174,12 @@ void BoardPainter::prepare_pictures(qreal ratio) {
 void BoardPainter::collect_sprites(const QRegion& area, qreal ratio) {
     sort_images();
     sprites_.clear();
+    const std::vector<Image*>& floating = lifted();
     // From the top one down, so that cards under another one at the same place are left out: piles stay crisp
     // at their rounded corners, and no drawing is rendered before it is seen.
     for (auto image = images_.rbegin(); image != images_.rend(); ++image) {
-        if (!is_seen(**image) || is_lifted(form_, **image)) continue;
+        if (!is_seen(**image) || std::find(floating.begin(), floating.end(), *image) != floating.end())
+            continue;
         const QRectF place = picture_place(**image, (*image)->place());
         if (!area.intersects(touched(place))) continue;
         const QRect device_place = snapped(place, ratio);
@@ -188,14 +195,18 @@ void BoardPainter::paint_images(QPainter& painter, const QRegion& area, qreal ra
 }
 
 void BoardPainter::paint_lifted(QPainter& painter, const QRegion& area, qreal ratio) {
-    if (form_.mouse().lifted().empty() || !area.intersects(lifted_area())) return;
+    const std::vector<Image*>& images = lifted();
+    if (images.empty() || !area.intersects(lifted_area())) return;
     QRect pile;
-    for (const Image* image : form_.mouse().lifted()) pile |= snapped(lifted_place(form_, *image), ratio);
+    for (const Image* image : images) pile |= snapped(lifted_place(*image), ratio);
     const int reach = qRound(shadow_reach * ratio);
     painter.drawImage(pile.topLeft() - QPoint(reach, reach), shadow_.image(pile.size(), reach));
-    for (const Image* image : form_.mouse().lifted()) {
-        if (is_seen(*image)) paint_sprite(painter, {image, snapped(lifted_place(form_, *image), ratio)});
-    }
+    const auto paint = [&](const Image* image) {
+        if (image && is_seen(*image)) paint_sprite(painter, {image, snapped(lifted_place(*image), ratio)});
+    };
+    for (const Image* image : images) paint(image);
+    // Held where it lies, a card shows its whole face.
+    if (lifted_offset().isNull()) paint(form_.mouse().dragged());
 }
 
 void BoardPainter::paint_sprite(QPainter& painter, const Sprite& sprite) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "desktop/drag_shadow.h"
+#include "desktop/glide_back.h"
 #include "desktop/picture_cache.h"
 #include "platform/controls.h"
 #include "platform/form.h"
@@ -17,7 +18,8 @@ namespace tarnwick {
 /// paints depends on nothing but the window's widgets, the font, and the device's pixel ratio.
 class BoardPainter {
   public:
-    explicit BoardPainter(const Form& form) : form_(form) {}
+    /// @param glide  what glides back to its place, if that is to be painted
+    explicit BoardPainter(const Form& form, const GlideBack* glide = nullptr) : form_(form), glide_(glide) {}
 
     /// Paints what lies in `area` (pixels of the window's client area). Pictures may reach beyond it:
     /// clipping is up to the painter.
@@ -28,7 +30,8 @@ class BoardPainter {
 
     /// Where a widget that lies at `place` can be seen, in whole pixels.
     QRect area_of(const Widget& widget, const Rect& place) const;
-    /// Where the lifted images are seen now, with their shadow; empty when none are lifted.
+    /// Where the images of a drag, or on their way back from one, are seen now, with their shadow; empty when
+    /// there are none.
     QRect lifted_area() const;
     /// The lower edge of the lowest picture, in pixels.
     int lower_edge() const;
@@ -48,10 +51,14 @@ class BoardPainter {
     void collect_sprites(const QRegion& area, qreal ratio);
     void paint_images(QPainter& painter, const QRegion& area, qreal ratio);
     void paint_lifted(QPainter& painter, const QRegion& area, qreal ratio);
+    const std::vector<Image*>& lifted() const;
+    QPointF lifted_offset() const;
+    QRectF lifted_place(const Image& image) const;
     void paint_sprite(QPainter& painter, const Sprite& sprite);
     void sort_images();
 
     const Form& form_;
+    const GlideBack* glide_;
     PictureCache pictures_;
     DragShadow shadow_;
     std::vector<const Image*> images_;  ///< from the lowest one up

@@ -14,6 +14,10 @@ namespace {
 constexpr int most_repaints = 24;
 
 constexpr int scroll_step = 48;
+// So near an edge, in pixels, a drag scrolls the board by so many pixels every so many milliseconds.
+constexpr int edge_reach = 24;
+constexpr int edge_scroll_step = 12;
+constexpr int edge_scroll_time = 25;
 // The board is scrolled by whole device pixels at every scale in quarters.
 constexpr int scroll_grain = 4;
 
@@ -23,7 +27,11 @@ MouseButton button_of(const QMouseEvent& event) {
 
 }  // namespace
 
-BoardWidget::BoardWidget(Form& form) : form_(form), painter_(form), label_scale_(painter_.label_scale()) {
+BoardWidget::BoardWidget(Form& form)
+    : form_(form),
+      glide_([this] { repaint_lifted(); }),
+      painter_(form, &glide_),
+      label_scale_(painter_.label_scale()) {
     setObjectName("board");
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
@@ -38,7 +46,10 @@ BoardWidget::BoardWidget(Form& form) : form_(form), painter_(form), label_scale_
 
 void BoardWidget::widget_changed(const Widget& widget, const Rect& before) {
     if (widget.kind() == WidgetKind::label) update_label_scale();
-    if (widget.kind() == WidgetKind::image) update_scrolling_later();
+    if (widget.kind() == WidgetKind::image) {
+        glide_.end();
+        update_scrolling_later();
+    }
     repaint_area(painter_.area_of(widget, before));
     if (widget.place() != before) repaint_area(painter_.area_of(widget, widget.place()));
 }
@@ -51,17 +62,38 @@ void BoardWidget::update_label_scale() {
 }
 
 void BoardWidget::drag_changed() {
+    take_up_or_put_down();
+    repaint_lifted();
+    if (edge_ahead() == 0) {
+        edge_scroll_.stop();
+    } else if (!edge_scroll_.isActive()) {
+        edge_scroll_.start(edge_scroll_time, this);
+    }
+    setMouseTracking(form_.mouse().dragged() != nullptr);
+}
+
+void BoardWidget::take_up_or_put_down() {
+    const Mouse& mouse = form_.mouse();
+    if (mouse.lifted().empty() == lifted_.empty()) {
+        drag_offset_ = {static_cast<qreal>(mouse.drag_dx()), static_cast<qreal>(mouse.drag_dy())};
+        return;
+    }
+    glide_.end();
+    // What lies at the images' own places changes as well.
+    for (const Image* image : lifted_.empty() ? mouse.lifted() : lifted_) {
+        repaint_area(painter_.area_of(*image, image->place()));
+    }
+    const bool glides =
+        !lifted_.empty() && !drag_offset_.isNull() && mouse.on_put_back && mouse.on_put_back();
+    // Should somebody receive the images after all, they are seen to change, and that ends their glide.
+    if (glides) glide_.start(lifted_, drag_offset_);
+    lifted_ = mouse.lifted();
+    drag_offset_ = {};
+}
+
+void BoardWidget::repaint_lifted() {
     const QRect before = lifted_area_;
     lifted_area_ = painter_.lifted_area();
-    if (before.isEmpty() || lifted_area_.isEmpty()) {
-        // Taken up or put down: what lies at the images' own places changes as well.
-        for (const Image* image : form_.mouse().lifted()) {
-            lifted_from_.push_back(painter_.area_of(*image, image->place()));
-        }
-        for (const QRect& area : lifted_from_) repaint_area(area);
-        if (lifted_area_.isEmpty()) lifted_from_.clear();
-    }
-    setMouseTracking(!lifted_area_.isEmpty());
     // One rectangle paints faster than the several that two overlapping ones are made of.
     if (before.intersects(lifted_area_)) {
         repaint_area(before | lifted_area_);
@@ -69,6 +101,25 @@ void BoardWidget::drag_changed() {
         repaint_area(before);
         repaint_area(lifted_area_);
     }
+}
+
+int BoardWidget::edge_ahead() const {
+    if (!form_.mouse().dragged() || drag_offset_.manhattanLength() < edge_reach) return 0;
+    if (pointer_.y() < edge_reach) return scroll_bar_.value() > 0 ? -1 : 0;
+    if (pointer_.y() < height() - edge_reach) return 0;
+    return scroll_bar_.value() < scroll_bar_.maximum() ? 1 : 0;
+}
+
+void BoardWidget::timerEvent(QTimerEvent* event) {
+    if (event->timerId() != edge_scroll_.timerId()) return QWidget::timerEvent(event);
+    scroll_bar_.setValue(scroll_bar_.value() + edge_ahead() * edge_scroll_step);
+    move_pointer(pointer_);
+    if (edge_ahead() == 0) edge_scroll_.stop();
+}
+
+void BoardWidget::move_pointer(QPointF place) {
+    pointer_ = place;
+    form_.mouse().move(static_cast<float>(place.x()), static_cast<float>(place.y() + offset_));
 }
 
 void BoardWidget::repaint_all() {
@@ -100,6 +151,7 @@ void BoardWidget::showEvent(QShowEvent* event) {
 
 void BoardWidget::resizeEvent(QResizeEvent*) {
     painter_.pictures().drop_unused_sizes();
+    glide_.end();
     repaint_all();
     const int bar_width = scroll_bar_.sizeHint().width();
     scroll_bar_.setGeometry(width() - bar_width, 0, bar_width, height());
@@ -133,6 +185,8 @@ bool BoardWidget::event(QEvent* event) {
 }
 
 void BoardWidget::mousePressEvent(QMouseEvent* event) {
+    glide_.end();
+    pointer_ = event->position();
     const QPointF at = on_board(*event);
     form_.mouse().press(static_cast<float>(at.x()), static_cast<float>(at.y()), button_of(*event));
 }
@@ -146,8 +200,7 @@ void BoardWidget::mouseMoveEvent(QMouseEvent* event) {
         form_.mouse().cancel();
         return;
     }
-    const QPointF at = on_board(*event);
-    form_.mouse().move(static_cast<float>(at.x()), static_cast<float>(at.y()));
+    move_pointer(event->position());
 }
 
 void BoardWidget::mouseReleaseEvent(QMouseEvent* event) {
@@ -163,11 +216,11 @@ void BoardWidget::wheelEvent(QWheelEvent* event) {
     if (!form_.accepts_input() || scroll_bar_.maximum() == 0) return;
     scroll_bar_.setValue(scroll_bar_.value() -
                          event->angleDelta().y() * scroll_step / QWheelEvent::DefaultDeltasPerStep);
-    const QPointF at = event->position() + QPointF(0, offset_);
-    form_.mouse().move(static_cast<float>(at.x()), static_cast<float>(at.y()));
+    move_pointer(event->position());
 }
 
 void BoardWidget::keyPressEvent(QKeyEvent* event) {
+    glide_.end();
     if (event->key() == Qt::Key_Escape && form_.mouse().dragged()) {
         form_.mouse().cancel();
         return;

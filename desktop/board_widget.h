@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QBasicTimer>
 #include <QScrollBar>
 #include <QWidget>
 
 #include "desktop/board_painter.h"
+#include "desktop/glide_back.h"
 
 namespace tarnwick {
 
@@ -30,21 +32,31 @@ class BoardWidget : public QWidget {
     void mouseReleaseEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
     void repaint_area(const QRect& area);
+    void repaint_lifted();
+    void take_up_or_put_down();
+    void move_pointer(QPointF place);
+    /// Which way a drag scrolls the board now: -1 up, 1 down, 0 not at all.
+    int edge_ahead() const;
     void update_label_scale();
     void update_scrolling_later();
     void update_scrolling();
     QPointF on_board(const QMouseEvent& event) const;
 
     Form& form_;
+    GlideBack glide_;
     BoardPainter painter_;
     QScrollBar scroll_bar_{Qt::Vertical, this};
     QRect lifted_area_;
-    std::vector<QRect> lifted_from_;  ///< where the lifted images were taken up
+    std::vector<Image*> lifted_;  ///< the images of the drag
+    QPointF drag_offset_;         ///< how far the pointer has moved since the drag's press
+    QPointF pointer_;             ///< where the pointer was last seen, in the widget
+    QBasicTimer edge_scroll_;     ///< runs while a drag is held at an edge beyond which there is more
     qreal label_scale_ = 1;
     int offset_ = 0;    ///< how far the board is scrolled down, in pixels
     int repaints_ = 0;  ///< rectangles since the board was last painted

@@ -57,8 +57,9 @@ int run(const CommandLine& command, int argc, char** argv) {
     QApplication::setApplicationVersion(TARNWICK_VERSION);
     QGuiApplication::setDesktopFileName("tarnwick");
 
-    QtDesktop desktop;
+    // Outlives the windows, which may ask for settings until they are gone.
     SqliteStore store(command.store.empty() ? default_store_path() : command.store);
+    QtDesktop desktop;
     if (command.deal) random_generator().replay(*command.deal);
     start_program(store);
     set_icon_later();

@@ -39,6 +39,8 @@ class Mouse {
 
     /// Tells which images a drag of this one lifts, from the bottom one up; without it, the image alone.
     std::function<std::vector<Image*>(Image& dragged)> on_lift;
+    /// Tells whether images that nobody received are seen to glide back to where they came from.
+    std::function<bool()> on_put_back;
 
   private:
     bool is_second_click(const Image& image, float x, float y) const;

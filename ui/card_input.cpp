@@ -3,6 +3,8 @@
 #include "board/timed_effects.h"
 #include "game/drop_dispatch.h"
 #include "game/tablet.h"
+#include "settings/conversions.h"
+#include "settings/settings.h"
 #include "state/variables.h"
 #include "ui/handlers.h"
 #include "windows/frmcards.h"
@@ -59,6 +61,15 @@ std::vector<Image*> lift(Image& dragged) {
     return {&dragged};
 }
 
+// A text that does not convert must not come in the way of a drop; the moves tell about it.
+bool glides_back() {
+    try {
+        return setting_is_on(key_anamate);
+    } catch (const ConversionError&) {
+        return false;
+    }
+}
+
 }  // namespace
 
 void attach_card_input() {
@@ -69,6 +80,7 @@ void attach_card_input() {
     };
     frmcards.on_key_down = key_down;
     frmcards.mouse().on_lift = lift;
+    frmcards.mouse().on_put_back = glides_back;
 }
 
 }  // namespace tarnwick
