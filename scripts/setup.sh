@@ -75,9 +75,21 @@ start_virtual_display() {
     done
     DISPLAY=:$(cat "$number_file")
     export DISPLAY
-    rm -f "$number_file"
-    openbox --sm-disable >/dev/null 2>&1 &
+    # A window that comes before the window manager gets neither a place nor the keyboard; the first start of one
+    # on a fresh machine takes seconds.
+    openbox --sm-disable --startup "rm -f '$number_file'" >/dev/null 2>&1 &
     OPENBOX_PID=$!
+    tries=0
+    while [ -e "$number_file" ]; do
+        tries=$((tries + 1))
+        if [ "$tries" -gt 600 ] || ! kill -0 "$OPENBOX_PID" 2>/dev/null; then
+            say "The window manager of the virtual display did not start."
+            rm -f "$number_file"
+            stop_virtual_display
+            return 1
+        fi
+        sleep 0.1
+    done
 }
 
 stop_virtual_display() {
