@@ -121,6 +121,18 @@ int ace_pile_mode(int p) {
     return ace_pile_holds_one_card(p) ? single_card_mode : stacked_mode;
 }
 
+Image& top_image(int pile) {
+    if (pile == tablet_pile) {
+        return frmcards.Image1(turned_slot() == -1 ? stock_image : int{shown_tablet_image()});
+    }
+    if (pile >= first_ace_pile) {
+        const int p = pile - first_ace_pile;
+        return frmcards.Image1(ace_pile_is_empty(p) ? first_ace_zone + p : int{aces(p, picture_field)});
+    }
+    if (column_is_empty(pile)) return frmcards.Image1(first_column_zone + pile);
+    return frmcards.Image1(layout(pile, column_top(pile), column_picture_field));
+}
+
 void change_back(const Integer& n) {
     reporting("change_back", [&] {
         const Picture back = frmcards.ImgCardBacks(n).picture();

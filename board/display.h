@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/image.h"
 #include "platform/picture.h"
 #include "state/integer.h"
 
@@ -37,6 +38,9 @@ void redisplay_aces(const Integer& p, const Integer& mode);
 
 /// The mode that fits what ace pile p holds.
 int ace_pile_mode(int p);
+
+/// The image seen on top of a pile, or its drop zone (the stock for the tablet) when it is empty.
+Image& top_image(int pile);
 
 /// Puts card back n, 0 to 5, on the stock and on all face-down cards.
 void change_back(const Integer& n);

@@ -13,6 +13,9 @@ namespace {
 
 constexpr qreal corner_radius = 4;
 
+constexpr QColor mark_line(250, 200, 60, 200);
+constexpr QColor mark_fill(250, 200, 60, 50);
+
 // The rectangle in whole device pixels. Position and size are rounded apart: widgets of one size stay so.
 QRect snapped(const QRectF& rect, qreal ratio) {
     return QRect(qRound(rect.left() * ratio), qRound(rect.top() * ratio),
@@ -109,6 +112,7 @@ void BoardPainter::paint(QPainter& painter, const QRegion& area) {
     painter.save();
     painter.scale(1 / ratio, 1 / ratio);
     paint_images(painter, area, ratio);
+    paint_mark(painter, area, ratio);
     paint_lifted(painter, area, ratio);
     painter.restore();
 }
@@ -192,6 +196,22 @@ void BoardPainter::collect_sprites(const QRegion& area, qreal ratio) {
 void BoardPainter::paint_images(QPainter& painter, const QRegion& area, qreal ratio) {
     collect_sprites(area, ratio);
     for (auto sprite = sprites_.rbegin(); sprite != sprites_.rend(); ++sprite) paint_sprite(painter, *sprite);
+}
+
+// The image that would receive the lifted ones is marked: faintly, as a drop changes nothing that must be
+// seen.
+void BoardPainter::paint_mark(QPainter& painter, const QRegion& area, qreal ratio) const {
+    const Image* image = form_.mouse().receiver();
+    if (!image || !image->visible()) return;
+    const QRectF place = picture_place(*image, image->place());
+    if (!area.intersects(touched(place))) return;
+    const qreal line = std::max(2.0, std::floor(2 * ratio));
+    const qreal radius = corner_radius * ratio * place.width() / card_width;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(mark_line, line));
+    painter.setBrush(mark_fill);
+    const qreal half = line / 2;
+    painter.drawRoundedRect(QRectF(snapped(place, ratio)).adjusted(half, half, -half, -half), radius, radius);
 }
 
 void BoardPainter::paint_lifted(QPainter& painter, const QRegion& area, qreal ratio) {

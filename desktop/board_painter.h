@@ -50,6 +50,7 @@ class BoardPainter {
     void paint_labels(QPainter& painter, const QRegion& area) const;
     void collect_sprites(const QRegion& area, qreal ratio);
     void paint_images(QPainter& painter, const QRegion& area, qreal ratio);
+    void paint_mark(QPainter& painter, const QRegion& area, qreal ratio) const;
     void paint_lifted(QPainter& painter, const QRegion& area, qreal ratio);
     const std::vector<Image*>& lifted() const;
     QPointF lifted_offset() const;

@@ -64,6 +64,7 @@ void BoardWidget::update_label_scale() {
 void BoardWidget::drag_changed() {
     take_up_or_put_down();
     repaint_lifted();
+    repaint_mark();
     if (edge_ahead() == 0) {
         edge_scroll_.stop();
     } else if (!edge_scroll_.isActive()) {
@@ -101,6 +102,15 @@ void BoardWidget::repaint_lifted() {
         repaint_area(before);
         repaint_area(lifted_area_);
     }
+}
+
+void BoardWidget::repaint_mark() {
+    const Image* now = form_.mouse().receiver();
+    if (now == marked_) return;
+    for (const Image* image : {marked_, now}) {
+        if (image) repaint_area(painter_.area_of(*image, image->place()));
+    }
+    marked_ = now;
 }
 
 int BoardWidget::edge_ahead() const {

@@ -39,6 +39,7 @@ class BoardWidget : public QWidget {
   private:
     void repaint_area(const QRect& area);
     void repaint_lifted();
+    void repaint_mark();
     void take_up_or_put_down();
     void move_pointer(QPointF place);
     /// Which way a drag scrolls the board now: -1 up, 1 down, 0 not at all.
@@ -54,9 +55,10 @@ class BoardWidget : public QWidget {
     QScrollBar scroll_bar_{Qt::Vertical, this};
     QRect lifted_area_;
     std::vector<Image*> lifted_;  ///< the images of the drag
-    QPointF drag_offset_;         ///< how far the pointer has moved since the drag's press
-    QPointF pointer_;             ///< where the pointer was last seen, in the widget
-    QBasicTimer edge_scroll_;     ///< runs while a drag is held at an edge beyond which there is more
+    const Image* marked_ = nullptr;
+    QPointF drag_offset_;      ///< how far the pointer has moved since the drag's press
+    QPointF pointer_;          ///< where the pointer was last seen, in the widget
+    QBasicTimer edge_scroll_;  ///< runs while a drag is held at an edge beyond which there is more
     qreal label_scale_ = 1;
     int offset_ = 0;    ///< how far the board is scrolled down, in pixels
     int repaints_ = 0;  ///< rectangles since the board was last painted

@@ -50,6 +50,11 @@ bool slides(bool animate) { return animate && setting_is_on(key_anamate); }
 
 }  // namespace
 
+bool ace_pile_takes(int p, const Card& card) {
+    return fits_on_ace_pile(aces(p, rank_field), aces(p, beneath_rank_field), card.rank, aces(p, suit_field),
+                            card.suit);
+}
+
 bool to_ace(const Integer& target, const Integer& top_rank, const Integer& beneath_rank,
             const Integer& card_rank, const Integer& pile_suit, const Integer& card_suit, bool animate) {
     bool placed = false;

@@ -1,11 +1,15 @@
 #pragma once
 
 #include "state/integer.h"
+#include "state/variables.h"
 
 namespace tarnwick {
 
 /// Points for the ace that fills the last empty ace pile, on top of the point for the card.
 inline constexpr int fourth_ace_bonus = 10;
+
+/// Whether the rule lets a card onto ace pile p, 0 to 3.
+bool ace_pile_takes(int p, const Card& card);
 
 /// Puts the card of `drag_source` on ace pile `target` (12 to 15) when the rule allows it, else shows a help
 /// message about the pile (unless `suppress_help` or the settings forbid it). True when the card was placed.

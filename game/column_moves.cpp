@@ -15,10 +15,6 @@ bool card_builds_on(const Card& card, const Card& below) {
     return builds_on(card.rank, card.suit, below.rank, below.suit);
 }
 
-bool fits_on_top(int c, const Card& card) {
-    return column_is_empty(c) ? card.rank == king : card_builds_on(card, top_card(c));
-}
-
 // What the search for the card to move finds for one card of the source column.
 enum class Found { nothing, run, exchange };
 
@@ -70,10 +66,21 @@ void exchange(Statements& then, int source, int first, int c) {
 
 }  // namespace
 
+bool column_takes_card(int c, const Card& card) {
+    return column_is_empty(c) ? card.rank == king : card_builds_on(card, top_card(c));
+}
+
+bool column_takes_run_of(int c, int source) {
+    for (int i = column_top(source); i >= 0; --i) {
+        if (move_for_card(source, i, c) != Found::nothing) return true;
+    }
+    return false;
+}
+
 bool from_tablet_to_column(const Integer& c) {
     bool moved = false;
     resumable("from_tablet_to_column", [&](Statements& then) {
-        if (!then.holds([&] { return fits_on_top(c, turned_card()); })) return;
+        if (!then.holds([&] { return column_takes_card(c, turned_card()); })) return;
         then([&] { push_on_column(c, turned_card()); });
         then([&] { frmcards.Image1(turned_card().picture).hide(); });
         then([&] { redisplay_column(c); });
@@ -105,7 +112,7 @@ bool from_ace_to_column(const Integer& c) {
     bool moved = false;
     resumable("from_ace_to_column", [&](Statements& then) {
         const int p = drag_source - first_ace_pile;
-        if (!then.holds([&] { return fits_on_top(c, ace_pile_card(p)); })) return;
+        if (!then.holds([&] { return column_takes_card(c, ace_pile_card(p)); })) return;
         then([&] { push_on_column(c, ace_pile_card(p)); });
         then([&] { frmcards.Image1(ace_pile_card(p).picture).hide(); });
         // An ace that will be alone is shown by another image than the plain ace beneath another card.

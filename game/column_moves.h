@@ -1,8 +1,15 @@
 #pragma once
 
 #include "state/integer.h"
+#include "state/variables.h"
 
 namespace tarnwick {
+
+/// Whether the rule lets a single card onto column c.
+bool column_takes_card(int c, const Card& card);
+
+/// Whether a move from column `source` to column c would be made.
+bool column_takes_run_of(int c, int source);
 
 // Moves that end on column c, 0 to 9. Each checks the rule for columns, moves, scores, draws and records the
 // move; the result is false when the move is refused, and nothing has changed then.

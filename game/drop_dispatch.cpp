@@ -30,27 +30,10 @@ bool is_sliding(const Image& image) {
     return frmcards.Timer3.enabled() && image.index() == animation(sliding_picture);
 }
 
-int source_pile(const Image& source) {
-    if (is_sliding(source)) return first_ace_pile + animation(slide_pile);
-    if (source.top() != static_cast<float>(top_row)) return column_at(source.left());
-    if (source.left() < tablet_source_limit * x_scale) return tablet_pile;
-    return ace_pile_at(source.left());
-}
-
-void drop_on_column(int c, float x_pixels) {
-    if (column_to_column(c)) return;
-    if (x_pixels < left_neighbour_limit && c > 0) {
-        column_to_column(c - 1);
-    } else if (x_pixels > right_neighbour_limit && c < last_column) {
-        column_to_column(c + 1);
-    }
-}
-
-// The first ace pile, from the left, that an automatic move may try; none when there is no such pile.
-int pile_for(const Card& card) {
-    for (int k = 0; k <= 3; ++k) {
-        if (card.rank == ace ? ace_pile_is_empty(k) : aces(k, suit_field) == card.suit) return k;
-    }
+// The column that is tried when column c refuses a drop.
+int neighbour_in_reach(int c, float x_pixels) {
+    if (x_pixels < left_neighbour_limit && c > 0) return c - 1;
+    if (x_pixels > right_neighbour_limit && c < last_column) return c + 1;
     return none;
 }
 
@@ -61,30 +44,46 @@ bool offer_to_ace_pile(int p, const Card& card, bool animate) {
 
 bool move_automatically(const Card& card) {
     suppress_help = flag_true;
-    const int p = pile_for(card);
+    const int p = ace_pile_for(card);
     return p != none && offer_to_ace_pile(p, card, true);
 }
 
 }  // namespace
 
-void drop_on_image(int index, const Image& source, float x) {
-    const Image& target = frmcards.Image1(index);
-    drag_source = source_pile(source);
+int pile_of(const Image& source) {
+    if (is_sliding(source)) return first_ace_pile + animation(slide_pile);
+    if (source.top() != static_cast<float>(top_row)) return column_at(source.left());
+    if (source.left() < tablet_source_limit * x_scale) return tablet_pile;
+    return ace_pile_at(source.left());
+}
+
+int ace_pile_for(const Card& card) {
+    for (int k = 0; k <= 3; ++k) {
+        if (card.rank == ace ? ace_pile_is_empty(k) : aces(k, suit_field) == card.suit) return k;
+    }
+    return none;
+}
+
+DropTargets targets_of_drop(const Image& target, const Image& source, float x) {
+    const int from = pile_of(source);
     if (target.top() >= column_area_top) {
         // A click on a card in flight is no move to the column that it happens to pass.
-        const bool in_flight = &target == &source && is_sliding(source);
-        if (in_flight) {
-            column_to_column(drag_source);
-        } else {
-            drop_on_column(column_at(target.left()), x / twips_per_pixel);
-        }
-    } else if (target.left() > tablet_target_limit * x_scale) {
-        // A card in flight passes places that belong to no pile.
-        column_to_column(is_sliding(target) ? first_ace_pile + animation(slide_pile)
-                                            : ace_pile_at(target.left()));
-    } else if (drag_source == tablet_pile) {
-        column_to_column(tablet_pile);
+        if (&target == &source && is_sliding(source)) return {from};
+        const int c = column_at(target.left());
+        return {c, neighbour_in_reach(c, x / twips_per_pixel)};
     }
+    if (target.left() > tablet_target_limit * x_scale) {
+        // A card in flight passes places that belong to no pile.
+        return {is_sliding(target) ? first_ace_pile + animation(slide_pile) : ace_pile_at(target.left())};
+    }
+    return {from == tablet_pile ? tablet_pile : none};
+}
+
+void drop_on_image(int index, const Image& source, float x) {
+    const DropTargets targets = targets_of_drop(frmcards.Image1(index), source, x);
+    drag_source = pile_of(source);
+    const bool moved = targets.first != none && column_to_column(targets.first);
+    if (!moved && targets.second != none) column_to_column(targets.second);
     settle_landed_win();
 }
 

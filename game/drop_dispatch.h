@@ -2,8 +2,23 @@
 
 #include "platform/image.h"
 #include "state/integer.h"
+#include "state/variables.h"
 
 namespace tarnwick {
+
+/// The pile that image `source`, being dragged or dropped, belongs to.
+int pile_of(const Image& source);
+
+/// The piles that a drop offers its card to, one after the other until one takes it; `none` for no pile.
+struct DropTargets {
+    int first = none;
+    int second = none;
+};
+/// @param x  the pointer's distance from the left edge of the image dropped on, in twips
+DropTargets targets_of_drop(const Image& target, const Image& source, float x);
+
+/// The ace pile, 0 to 3, that an automatic move tries; none when there is no such pile.
+int ace_pile_for(const Card& card);
 
 /// Deals with a drop of image `source` on image `index` of Image1: finds out the two piles and makes the
 /// move, if there is one; a move refused by a column is tried once more with its neighbour nearest to the

@@ -65,6 +65,8 @@ void Mouse::move(float x, float y) {
     if (!dragged_ || (x == x_ && y == y_)) return;
     x_ = x;
     y_ = y;
+    const Image* target = on_hover ? image_at(x, y) : nullptr;
+    receiver_ = target ? on_hover(*dragged_, *target, (x - target->left()) * twips_per_pixel) : nullptr;
     drag_changed();
 }
 
@@ -86,9 +88,7 @@ void Mouse::release(float x, float y, MouseButton button) {
 void Mouse::drop(float x, float y) {
     Image& source = *dragged_;
     // Put down first: a message that the drop raises must not show the cards still lifted.
-    dragged_ = nullptr;
-    lifted_.clear();
-    drag_changed();
+    put_down();
     Image* target = image_at(x, y);
     if (target && target->events().drop) {
         const float offset_x = (x - target->left()) * twips_per_pixel;
@@ -104,8 +104,12 @@ void Mouse::click(Image& image) {
 void Mouse::cancel() {
     pressed_ = nullptr;
     last_clicked_ = nullptr;
-    if (!dragged_) return;
+    if (dragged_) put_down();
+}
+
+void Mouse::put_down() {
     dragged_ = nullptr;
+    receiver_ = nullptr;
     lifted_.clear();
     drag_changed();
 }

@@ -37,8 +37,14 @@ class Mouse {
     float drag_dx() const { return x_ - press_x_; }
     float drag_dy() const { return y_ - press_y_; }
 
+    /// The image that a drop would be received by where the pointer is now, or null.
+    const Image* receiver() const { return receiver_; }
+
     /// Tells which images a drag of this one lifts, from the bottom one up; without it, the image alone.
     std::function<std::vector<Image*>(Image& dragged)> on_lift;
+    /// Tells which image would receive the dragged one if it were dropped on `target` now, `offset_x` twips
+    /// from its left edge; null for none. Without it, none is known.
+    std::function<const Image*(const Image& dragged, const Image& target, float offset_x)> on_hover;
     /// Tells whether images that nobody received are seen to glide back to where they came from.
     std::function<bool()> on_put_back;
 
@@ -47,12 +53,14 @@ class Mouse {
     void start_drag(Image& image);
     void drop(float x, float y);
     void click(Image& image);
+    void put_down();
     void drag_changed() const;
 
     Form& form_;
     Image* pressed_ = nullptr;
     Image* dragged_ = nullptr;
     std::vector<Image*> lifted_;
+    const Image* receiver_ = nullptr;
     float press_x_ = 0;
     float press_y_ = 0;
     float x_ = 0;

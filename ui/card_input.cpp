@@ -1,7 +1,9 @@
 #include <vector>
 
+#include "board/display.h"
 #include "board/timed_effects.h"
 #include "game/drop_dispatch.h"
+#include "game/drop_preview.h"
 #include "game/tablet.h"
 #include "settings/conversions.h"
 #include "settings/settings.h"
@@ -61,6 +63,11 @@ std::vector<Image*> lift(Image& dragged) {
     return {&dragged};
 }
 
+const Image* receiver(const Image& dragged, const Image& target, float x) {
+    const int pile = receiver_of_drop(target, dragged, x);
+    return pile == none ? nullptr : &top_image(pile);
+}
+
 // A text that does not convert must not come in the way of a drop; the moves tell about it.
 bool glides_back() {
     try {
@@ -80,6 +87,7 @@ void attach_card_input() {
     };
     frmcards.on_key_down = key_down;
     frmcards.mouse().on_lift = lift;
+    frmcards.mouse().on_hover = receiver;
     frmcards.mouse().on_put_back = glides_back;
 }
 

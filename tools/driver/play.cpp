@@ -89,18 +89,6 @@ std::string Play::stored(const std::string& key) {
     return store.read("Tarnwick", "setting", key).value_or("-");
 }
 
-Image& top_image(int pile) {
-    if (pile == tablet_pile)
-        return frmcards.Image1(turned_slot() == -1 ? stock_image : int{shown_tablet_image()});
-    if (pile >= first_ace_pile) {
-        const int p = pile - first_ace_pile;
-        return frmcards.Image1(ace_pile_is_empty(p) ? first_ace_zone + p : int{aces(p, picture_field)});
-    }
-    const int top = column_top(pile);
-    return frmcards.Image1(top == -1 ? first_column_zone + pile
-                                     : int{layout(pile, top, column_picture_field)});
-}
-
 std::string undo_records() {
     std::ostringstream text;
     for (int i = 0; i < undo_count(); ++i) {

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "board/display.h"
 #include "board/display_check.h"
 #include "platform/headless.h"
 #include "platform/image.h"
@@ -58,9 +59,6 @@ class Play {
     HeadlessDesktop desktop;
     MemoryStore store;
 };
-
-/// The image seen on top of a pile, or its drop zone (the stock for the tablet) when it is empty.
-Image& top_image(int pile);
 
 /// The undo list, newest record first, as "(25 25 -1) (3 12 1)".
 std::string undo_records();
