@@ -13,18 +13,12 @@ constexpr const char* program = TARNWICK_PROGRAM;
 // The columns of this deal end in Q♦ 10♥ K♦ 6♠ A♣ 2♥ J♦ 9♣ 6♦ Q♣. The ace of Spades, which glints at times of
 // its own, is never played.
 constexpr std::uint32_t deal = 26;
-constexpr int column_of_king = 2;
 constexpr int column_of_ace = 4;
-constexpr int column_of_jack = 6;
-constexpr int column_of_queen = 9;
 
 Image& back(int c, int k) { return frmcards.Image1(face_down_image(c, k)); }
 
 // How long every slide to an ace pile has ended after.
 constexpr int slide_time = 1000;
-
-// The bare table under the shortest column.
-constexpr Spot bare{60, 820};
 
 TEST(Board, IsThereFromTheStart) {
     TwinGame game({program, deal});
@@ -50,66 +44,6 @@ TEST(Board, TurnsTheTabletOnceForEveryClick) {
     EXPECT_EQ(board_faults(game), "");
     game.space();
     EXPECT_EQ(turned_slot(), 29);
-    EXPECT_EQ(board_faults(game), "");
-}
-
-TEST(Board, LiftedCardsFollowThePointerToAColumn) {
-    TwinGame game({program, deal});
-    game.drag(column_of_jack, column_of_queen);
-    EXPECT_EQ(board_faults(game), "");
-    const Image& queen = frmcards.Image1(layout(column_of_queen, column_of_queen, column_picture_field));
-    game.press(TwinGame::spot_on(queen));
-    EXPECT_EQ(frmcards.mouse().lifted().size(), 2U);
-    EXPECT_EQ(board_faults(game), "") << "taken up";
-    game.move(bare);
-    EXPECT_EQ(board_faults(game), "") << "on the way";
-    game.release(TwinGame::spot_on(top_image(column_of_king)));
-    EXPECT_EQ(column_top(column_of_king), column_of_king + 2);
-    EXPECT_EQ(board_faults(game), "") << "put down";
-}
-
-TEST(Board, ARefusedCardIsBackAtOnce) {
-    TwinGame game({program, deal});
-    const QImage before = expected_board();
-    game.drag(column_of_king, column_of_ace);
-    game.drag(TwinGame::spot_on(top_image(column_of_jack)), bare);
-    EXPECT_EQ(expected_board(), before);
-    EXPECT_EQ(board_faults(game), "");
-    // What comes after is not disturbed, and shows that all of it has been dealt with.
-    game.space();
-    EXPECT_EQ(board_faults(game), "");
-}
-
-TEST(Board, EscapeEndsADrag) {
-    TwinGame game({program, deal});
-    game.press(TwinGame::spot_on(top_image(column_of_jack)));
-    game.move(bare);
-    ASSERT_EQ(board_faults(game), "");
-    game.screen().key("Escape");
-    frmcards.mouse().cancel();
-    EXPECT_EQ(board_faults(game), "") << "at Escape";
-    game.release(TwinGame::spot_on(top_image(column_of_queen)));
-    game.space();
-    EXPECT_EQ(column_top(column_of_queen), column_of_queen);
-    EXPECT_EQ(board_faults(game), "") << "at the release after it";
-}
-
-TEST(Board, OtherButtonsDoNotDisturbADrag) {
-    TwinGame game({program, deal});
-    game.press(TwinGame::spot_on(top_image(column_of_jack)));
-    game.move(bare);
-    const Spot target = TwinGame::spot_on(top_image(column_of_queen));
-    game.press(target, XButton::right);
-    game.release(target, XButton::right);
-    EXPECT_NE(frmcards.mouse().dragged(), nullptr);
-    EXPECT_EQ(board_faults(game), "") << "while it is held";
-    game.release(target);
-    EXPECT_EQ(column_top(column_of_queen), column_of_queen + 1);
-    EXPECT_EQ(board_faults(game), "");
-    game.press(TwinGame::spot_on(frmcards.Image1(stock_image)), XButton::right);
-    game.release(TwinGame::spot_on(frmcards.Image1(stock_image)), XButton::right);
-    game.space();
-    EXPECT_EQ(turned_slot(), 4) << "the right button has turned the tablet";
     EXPECT_EQ(board_faults(game), "");
 }
 

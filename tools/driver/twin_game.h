@@ -68,6 +68,9 @@ class TwinGame {
     XPixels board_pixels() const;
     int scale() const { return start_.scale; }
 
+    /// Where a spot is on the screen, in its pixels.
+    Spot on_screen(Spot spot) const;
+
     /// Gives the window this size without its frame, in device pixels, as a user who draws at its edges.
     void resize(int width, int height);
 
@@ -103,7 +106,6 @@ class TwinGame {
   private:
     void begin();
     bool is_painted() const;
-    Spot on_screen(Spot spot) const;
 
     Start start_;
     TemporaryFolder folder_;

@@ -1,0 +1,166 @@
+#include <gtest/gtest.h>
+
+#include "desktop/board_painter.h"
+#include "state/variables.h"
+#include "tools/driver/board_picture.h"
+#include "tools/driver/eventually.h"
+#include "windows/frmcards.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr const char* program = TARNWICK_PROGRAM;
+
+// The columns of this deal end in Q♦ 10♥ K♦ 6♠ A♣ 2♥ J♦ 9♣ 6♦ Q♣.
+constexpr std::uint32_t deal = 26;
+constexpr int column_of_king = 2;
+constexpr int column_of_ace = 4;
+constexpr int column_of_jack = 6;
+constexpr int column_of_queen = 9;
+
+// The bare table under the shortest column.
+constexpr Spot bare{60, 820};
+
+TEST(Drag, LiftedCardsFollowThePointerToAColumn) {
+    TwinGame game({program, deal});
+    game.drag(column_of_jack, column_of_queen);
+    EXPECT_EQ(board_faults(game), "");
+    const Image& queen = frmcards.Image1(layout(column_of_queen, column_of_queen, column_picture_field));
+    game.press(TwinGame::spot_on(queen));
+    EXPECT_EQ(frmcards.mouse().lifted().size(), 2U);
+    EXPECT_EQ(board_faults(game), "") << "taken up";
+    game.move(bare);
+    EXPECT_EQ(board_faults(game), "") << "on the way";
+    game.release(TwinGame::spot_on(top_image(column_of_king)));
+    EXPECT_EQ(column_top(column_of_king), column_of_king + 2);
+    EXPECT_EQ(board_faults(game), "") << "put down";
+}
+
+TEST(Drag, ARefusedCardIsBackAtOnce) {
+    TwinGame game({program, deal});
+    const QImage before = expected_board();
+    game.drag(column_of_king, column_of_ace);
+    game.drag(TwinGame::spot_on(top_image(column_of_jack)), bare);
+    EXPECT_EQ(expected_board(), before);
+    EXPECT_EQ(board_faults(game), "");
+    // What comes after is not disturbed, and shows that all of it has been dealt with.
+    game.space();
+    EXPECT_EQ(board_faults(game), "");
+}
+
+TEST(Drag, EscapeEndsADrag) {
+    TwinGame game({program, deal});
+    game.press(TwinGame::spot_on(top_image(column_of_jack)));
+    game.move(bare);
+    ASSERT_EQ(board_faults(game), "");
+    game.screen().key("Escape");
+    frmcards.mouse().cancel();
+    EXPECT_EQ(board_faults(game), "") << "at Escape";
+    game.release(TwinGame::spot_on(top_image(column_of_queen)));
+    game.space();
+    EXPECT_EQ(column_top(column_of_queen), column_of_queen);
+    EXPECT_EQ(board_faults(game), "") << "at the release after it";
+}
+
+TEST(Drag, OtherButtonsDoNotDisturbADrag) {
+    TwinGame game({program, deal});
+    game.press(TwinGame::spot_on(top_image(column_of_jack)));
+    game.move(bare);
+    const Spot target = TwinGame::spot_on(top_image(column_of_queen));
+    game.press(target, XButton::right);
+    game.release(target, XButton::right);
+    EXPECT_NE(frmcards.mouse().dragged(), nullptr);
+    EXPECT_EQ(board_faults(game), "") << "while it is held";
+    game.release(target);
+    EXPECT_EQ(column_top(column_of_queen), column_of_queen + 1);
+    EXPECT_EQ(board_faults(game), "");
+    game.press(TwinGame::spot_on(frmcards.Image1(stock_image)), XButton::right);
+    game.release(TwinGame::spot_on(frmcards.Image1(stock_image)), XButton::right);
+    game.space();
+    EXPECT_EQ(turned_slot(), 4) << "the right button has turned the tablet";
+    EXPECT_EQ(board_faults(game), "");
+}
+
+TEST(Drag, TheReceiverIsMarkedWhileThePointerIsOverIt) {
+    TwinGame game({program, deal});
+    game.press(TwinGame::spot_on(top_image(column_of_jack)));
+    game.move(bare);
+    const QImage unmarked = expected_board();
+    const Spot queen = TwinGame::spot_on(top_image(column_of_queen));
+    game.move(queen);
+    ASSERT_EQ(frmcards.mouse().receiver(), &top_image(column_of_queen));
+    EXPECT_EQ(board_faults(game), "") << "over the Queen";
+    game.move(TwinGame::spot_on(top_image(column_of_king)));
+    EXPECT_EQ(board_faults(game), "") << "over the King, who takes no Jack";
+    game.move(bare);
+    EXPECT_EQ(expected_board(), unmarked);
+    EXPECT_EQ(board_faults(game), "") << "over the bare table";
+    game.move(queen);
+    game.release(queen);
+    EXPECT_EQ(board_faults(game), "") << "put down";
+}
+
+TEST(Drag, ARefusedCardIsSeenToGlideBack) {
+    TwinGame game({program, deal});
+    const QImage home = expected_board();
+    bool seen_between = false;
+    // A busy machine may miss the tenth of a second that it takes.
+    for (int attempt = 0; attempt < 5 && !seen_between; ++attempt) {
+        game.press(TwinGame::spot_on(top_image(column_of_jack)));
+        game.move(bare);
+        ASSERT_EQ(board_faults(game), "");
+        const QImage held = image_of(game.board_pixels());
+        game.release(bare);
+        const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(300);
+        // The bare table's own corner shows whether the card has left it; where it belongs it lies again only
+        // later.
+        const QRect left_behind(bare.x, bare.y, 30, 30);
+        const QRect belongs = QRect(QPoint(static_cast<int>(top_image(column_of_jack).left()) + 10,
+                                           static_cast<int>(top_image(column_of_jack).top()) + 40),
+                                    QSize(30, 30));
+        while (!seen_between && std::chrono::steady_clock::now() < end) {
+            const QImage now = image_of(game.board_pixels());
+            seen_between =
+                now.copy(left_behind) != held.copy(left_behind) && now.copy(belongs) != home.copy(belongs);
+        }
+        EXPECT_EQ(board_faults(game), "") << "home again";
+    }
+    EXPECT_TRUE(seen_between);
+}
+
+TEST(Drag, HeldAtTheLowerEdgeItReachesTheCardsBelow) {
+    TwinGame game({program, deal});
+    const Image& jack = top_image(column_of_jack);
+    const Image& queen = top_image(column_of_queen);
+    const int height = static_cast<int>(jack.top()) + 40;
+    ASSERT_GT(queen.top() + queen.height(), static_cast<float>(height)) << "all of the Queen can be seen";
+    game.resize(game.board().width, height + game.board().y);
+    ASSERT_EQ(game.board().height, height);
+    const Spot lower_edge{TwinGame::spot_on(queen).x, height - 20};
+    game.screen().move_pointer(game.on_screen(TwinGame::spot_on(jack)).x,
+                               game.on_screen(TwinGame::spot_on(jack)).y);
+    game.screen().press();
+    game.screen().move_pointer(game.on_screen(lower_edge).x, game.on_screen(lower_edge).y);
+    // The card beside the Queen is seen whole only when the board has been scrolled.
+    frmcards.user_resized({game.board().width, 900});
+    const QRect beside(static_cast<int>(top_image(8).left()), static_cast<int>(top_image(8).top()) + 20, 40,
+                       60);
+    const QImage face = expected_board().copy(beside);
+    frmcards.user_resized({game.board().width, height});
+    const auto scrolled = [&] {
+        const QImage seen = image_of(game.board_pixels());
+        for (int offset = beside.bottom() - height; offset <= beside.top(); ++offset) {
+            if (seen.copy(beside.translated(0, -offset)) == face) return true;
+        }
+        return false;
+    };
+    EXPECT_TRUE(eventually(scrolled));
+    game.screen().release();
+    game.headless().drag(column_of_jack, column_of_queen);
+    ASSERT_EQ(column_top(column_of_queen), column_of_queen + 1);
+    game.resize(game.board().width, 900);
+    EXPECT_EQ(board_faults(game), "");
+}
+
+}  // namespace
+}  // namespace tarnwick
