@@ -32,6 +32,8 @@ CommandLine parse_command_line(const std::vector<std::string>& arguments) {
             result.deal = deal_number(value("--deal", "the number of a deal"));
         } else if (*argument == "--store") {
             result.store = value("--store", "the name of a file");
+        } else if (*argument == "--record") {
+            result.record = value("--record", "the name of a file");
         } else if (*argument == "--help") {
             result.help = true;
         } else if (*argument == "--version") {
@@ -44,13 +46,14 @@ CommandLine parse_command_line(const std::vector<std::string>& arguments) {
 }
 
 std::string command_line_help() {
-    return "Usage: tarnwick [--deal N] [--store FILE]\n"
+    return "Usage: tarnwick [--deal N] [--store FILE] [--record FILE]\n"
            "A patience card game with two packs.\n"
            "\n"
-           "  --deal N      play deal number N (0 to 4294967295), then the deals after it\n"
-           "  --store FILE  keep settings and scores in FILE\n"
-           "  --help        show this text and exit\n"
-           "  --version     show the version and exit\n";
+           "  --deal N       play deal number N (0 to 4294967295), then the deals after it\n"
+           "  --store FILE   keep settings and scores in FILE\n"
+           "  --record FILE  write down at the end of FILE what is played, for a report of a fault\n"
+           "  --help         show this text and exit\n"
+           "  --version      show the version and exit\n";
 }
 
 }  // namespace tarnwick

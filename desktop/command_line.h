@@ -11,7 +11,8 @@ namespace tarnwick {
 /// What the program was asked for when it was started.
 struct CommandLine {
     std::optional<std::uint32_t> deal;
-    std::string store;  ///< the settings' file; empty for the usual one
+    std::string store;   ///< the settings' file; empty for the usual one
+    std::string record;  ///< the file that the game is recorded in; empty for none
     bool help = false;
     bool version = false;
 };

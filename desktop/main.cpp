@@ -4,10 +4,12 @@
 #include <cstdlib>
 #include <exception>
 #include <iostream>
+#include <optional>
 
 #include "desktop/command_line.h"
 #include "desktop/picture_cache.h"
 #include "desktop/qt_desktop.h"
+#include "notation/game_recorder.h"
 #include "platform/random.h"
 #include "settings/sqlite_store.h"
 #include "ui/program.h"
@@ -57,11 +59,14 @@ int run(const CommandLine& command, int argc, char** argv) {
     QApplication::setApplicationVersion(TARNWICK_VERSION);
     QGuiApplication::setDesktopFileName("tarnwick");
 
+    std::optional<GameRecorder> recorder;
+    if (!command.record.empty()) recorder.emplace(command.record);
     // Outlives the windows, which may ask for settings until they are gone.
     SqliteStore store(command.store.empty() ? default_store_path() : command.store);
     QtDesktop desktop;
     if (command.deal) random_generator().replay(*command.deal);
     start_program(store);
+    if (recorder) recorder->begin();
     set_icon_later();
     return QApplication::exec();
 }

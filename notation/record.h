@@ -35,6 +35,8 @@ struct Action {
 
     /// Right between the edges near which a refused drop is tried on the neighbour.
     static constexpr int default_drop_offset = 30;
+    static constexpr int near_left_edge = 10;
+    static constexpr int near_right_edge = 60;
 };
 
 /// Reads one line; false when there is nothing on it. Throws std::invalid_argument, saying in a few words

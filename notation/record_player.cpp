@@ -4,6 +4,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "board/display.h"
 #include "platform/random.h"
 #include "settings/settings.h"
 #include "state/variables.h"
@@ -16,34 +17,16 @@ namespace {
 // The window becomes 800 pixels wide: every card has its natural size.
 constexpr PixelSize screen{810, 660};
 
-Image& image_of_source(int pile) {
-    int picture = none;
-    if (pile == tablet_pile) {
-        if (turned_slot() >= 0) picture = shown_tablet_image();
-    } else if (pile >= first_ace_pile) {
-        if (!ace_pile_is_empty(pile - first_ace_pile)) picture = aces(pile - first_ace_pile, picture_field);
-    } else if (!column_is_empty(pile)) {
-        picture = layout(pile, column_top(pile), column_picture_field);
-    }
-    if (picture == none) throw std::invalid_argument("there is no card to drag");
-    return frmcards.Image1(picture);
-}
-
-Image& image_of_target(int pile) {
-    if (pile == tablet_pile) {
-        return frmcards.Image1(turned_slot() >= 0 ? int{shown_tablet_image()} : stock_image);
-    }
-    if (pile >= first_ace_pile) {
-        const int p = pile - first_ace_pile;
-        return frmcards.Image1(ace_pile_is_empty(p) ? first_ace_zone + p : int{aces(p, picture_field)});
-    }
-    if (column_is_empty(pile)) return frmcards.Image1(first_column_zone + pile);
-    return frmcards.Image1(layout(pile, column_top(pile), column_picture_field));
+const Image& image_of_source(int pile) {
+    const Image& image = top_image(pile);
+    const bool is_card = image.index() >= first_face_image && image.index() <= last_face_image;
+    if (!is_card) throw std::invalid_argument("there is no card to drag");
+    return image;
 }
 
 void drag(const Action& action) {
     const Image& source = image_of_source(action.source);
-    const Image& target = image_of_target(action.target);
+    const Image& target = top_image(action.target);
     Mouse& mouse = frmcards.mouse();
     constexpr float halfway_down = 48;
     mouse.press(source.left() + 1, source.top() + halfway_down);

@@ -3,12 +3,9 @@
 namespace tarnwick {
 
 void Random::randomize() {
-    if (next_seed_) {
-        engine_.seed(*next_seed_);
-        ++*next_seed_;
-    } else {
-        engine_.seed(std::random_device{}());
-    }
+    seed_ = next_seed_ ? (*next_seed_)++ : std::random_device{}();
+    ++seedings_;
+    engine_.seed(seed_);
 }
 
 float Random::next() {

@@ -14,7 +14,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr int space_key = 32;
 constexpr int peek_time = 1500;
 
 bool is_face_down_image(int index) { return index >= first_face_down_image && index < first_face_image; }

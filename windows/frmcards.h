@@ -24,6 +24,9 @@ inline constexpr int ace_of_spades_image = 225;
 /// The image that shows the face-down card in slot k of column c.
 constexpr int face_down_image(int c, int k) { return first_face_down_image + 10 * c + k; }
 
+/// The key that turns the tablet.
+inline constexpr int space_key = 32;
+
 /// The outlines in Shape1: ace piles from 0, columns from 4, then the stock.
 inline constexpr int first_column_outline = 4;
 inline constexpr int stock_outline = 14;

@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <fstream>
+#include <iterator>
 
+#include "tools/driver/eventually.h"
 #include "tools/driver/twin_game.h"
 
 namespace tarnwick {
@@ -14,7 +17,7 @@ std::ptrdiff_t lines_of(const std::string& text) { return std::count(text.begin(
 TEST(CommandLine, TellsWhatItTakes) {
     ChildProcess help(program, {"--help"});
     EXPECT_EQ(help.exit_code(), 0);
-    for (const char* word : {"Usage: tarnwick", "--deal", "--store", "--help", "--version"}) {
+    for (const char* word : {"Usage: tarnwick", "--deal", "--store", "--record", "--help", "--version"}) {
         EXPECT_NE(help.output().find(word), std::string::npos) << word;
     }
     EXPECT_EQ(help.errors(), "");
@@ -32,6 +35,7 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
                                                       {"--deal", "1x"},
                                                       {"--deal"},
                                                       {"--store"},
+                                                      {"--record"},
                                                       {"7"}}) {
         ChildProcess refused(program, arguments);
         EXPECT_EQ(refused.exit_code(), 2) << arguments[0];
@@ -50,6 +54,26 @@ TEST(CommandLine, SaysThatThereIsNoDisplay) {
         EXPECT_EQ(lines_of(blind.errors()), 1) << blind.errors();
         EXPECT_NE(blind.errors().find("display"), std::string::npos) << blind.errors();
     }
+}
+
+TEST(CommandLine, RecordsTheGame) {
+    const TemporaryFolder folder;
+    const std::string record = folder.path() + "/game.txt";
+    TwinGame game({.program = program, .deal = 26, .arguments = {"--record", record}});
+    game.space();
+    game.drag(6, 9);
+    game.screen().key("ctrl+u");
+    game.screen().key("F3");
+    const auto recorded = [&] {
+        std::ifstream file(record);
+        return std::string(std::istreambuf_iterator<char>(file), {});
+    };
+    EXPECT_TRUE(eventually([&] { return recorded() == "deal 26\nturn\ndrag 6 9\nundo\nrestart\n"; }))
+        << recorded();
+    ChildProcess refused(program, {"--record", folder.path()});
+    EXPECT_EQ(refused.exit_code(), 1);
+    EXPECT_EQ(refused.errors(),
+              "tarnwick: the record of the game cannot be written to " + folder.path() + "\n");
 }
 
 }  // namespace

@@ -42,9 +42,9 @@ void TwinGame::begin() {
     Environment environment = start_.environment;
     environment.insert(environment.end(), {{"QT_QPA_PLATFORM", "xcb"}, {"WAYLAND_DISPLAY", ""}});
     if (start_.scale != 1) environment.emplace_back("QT_SCALE_FACTOR", std::to_string(start_.scale));
-    program_ = std::make_unique<ChildProcess>(
-        start_.program,
-        std::vector<std::string>{"--deal", std::to_string(start_.deal), "--store", store_file_}, environment);
+    std::vector<std::string> arguments{"--deal", std::to_string(start_.deal), "--store", store_file_};
+    arguments.insert(arguments.end(), start_.arguments.begin(), start_.arguments.end());
+    program_ = std::make_unique<ChildProcess>(start_.program, arguments, environment);
     window_ = wait_for(main_title);
     if (!gets_keyboard(window_)) throw std::runtime_error("the window does not get the keyboard");
     if (!eventually([this] { return is_painted(); })) throw std::runtime_error("the window stays empty");

@@ -41,6 +41,8 @@ struct Start {
     Environment environment = {};
     /// Device pixels for a pixel of the board.
     int scale = 1;
+    /// Arguments besides those for the deal and the store.
+    std::vector<std::string> arguments = {};
 };
 
 /// A place on the board, in its pixels.

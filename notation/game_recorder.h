@@ -1,0 +1,32 @@
+#pragma once
+
+#include <fstream>
+#include <string>
+
+#include "notation/record.h"
+
+namespace tarnwick {
+
+/// Writes what the player does into a file as it happens, as a record that can be played again (see
+/// record.h). Each line is in the file before its action begins, so that the last one tells what went wrong.
+class GameRecorder {
+  public:
+    /// Goes on behind what the file holds. Throws std::runtime_error, in one clear sentence, when it cannot
+    /// be written.
+    explicit GameRecorder(const std::string& file);
+    GameRecorder(const GameRecorder&) = delete;
+    GameRecorder& operator=(const GameRecorder&) = delete;
+
+    /// Begins with the game in hand: the program has been started, and is ended before this object goes.
+    void begin();
+
+  private:
+    void write(const Action& action);
+    void write_new_deal();
+
+    std::string name_;
+    std::ofstream file_;
+    std::uint64_t deals_ = 0;  ///< how many have been written, or had begun before
+};
+
+}  // namespace tarnwick
