@@ -1,3 +1,4 @@
+#include <QFontInfo>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -16,6 +17,12 @@ constexpr qreal pixels_per_point = 96.0 / 72.0;
 
 // Room between a label's text and what comes after it, in pixels.
 constexpr qreal air = 2;
+
+// How small a text in the desktop's font may become.
+constexpr qreal least_of_desktop_font = 0.75;
+
+// The size of a font in pixels, whichever way it was given.
+int size_of(const QFont& font) { return QFontInfo(font).pixelSize(); }
 
 Qt::Alignment alignment_of(const Label& label) {
     switch (label.alignment()) {
@@ -54,10 +61,10 @@ class LabelControl : public DialogControl {
         const QSizeF place = native_.size();
         QFont font = font_at(scale);
         const QString text = to_qt(label_.caption());
-        // A font with a size of its own belongs to the layout, and gives way where it is too wide.
-        while (has_own_size() && !text_fits(text, font, place) && font.pixelSize() > 1) {
-            font.setPixelSize(font.pixelSize() - 1);
-        }
+        // A font with a size of its own belongs to the layout, and gives way where it is too wide. So does
+        // the desktop's where the screen has no room for a larger dialog, but only as far as it can be read.
+        const int least = has_own_size() ? 1 : qRound(least_of_desktop_font * size_of(font));
+        while (!text_fits(text, font, place) && size_of(font) > least) font.setPixelSize(size_of(font) - 1);
         const bool wraps = takes_two_lines(font, place);
         native_.setFont(font);
         native_.setWordWrap(wraps);

@@ -8,6 +8,12 @@ namespace tarnwick {
 /// its three menus would show. It would cost the loading of all image plugins at the start.
 class LeanStyle : public QProxyStyle {
   public:
+    /// The buttons of messages look like those of the other dialogs, which have no icons.
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+        return QProxyStyle::styleHint(hint, option, widget, data);
+    }
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
                        const QWidget* widget) const override {
         if (icon == SP_ToolBarHorizontalExtensionButton) return {};

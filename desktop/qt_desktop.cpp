@@ -27,6 +27,8 @@ QtDesktop::QtDesktop() {
     // as long as all else at the start.
     QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QApplication::setStyle(new LeanStyle);
+    // The windows are laid out by hand for their English texts, whatever way the desktop's language runs.
+    QApplication::setLayoutDirection(Qt::LeftToRight);
     timer_.setSingleShot(true);
     timer_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { tick(); });
