@@ -1,6 +1,7 @@
 #include <QGroupBox>
 #include <QMouseEvent>
 #include <QPainter>
+#include <cmath>
 
 #include "desktop/dialog_control.h"
 #include "desktop/picture_cache.h"
@@ -72,18 +73,19 @@ class PictureBox : public QWidget {
     void paintEvent(QPaintEvent*) override {
         if (image_.picture().none()) return;
         const qreal ratio = devicePixelRatioF();
-        const QSizeF place = image_.stretch() ? QSizeF(size()) : QSizeF(card_width, card_height) * scale_;
-        const QSize device_size = (place * ratio).toSize();
+        const QRectF place = whole_device_pixels(ratio);
+        const QSize device_size = (place.size() * ratio).toSize();
         if (shown_ != image_.picture() || pixmap_.size() != device_size) {
             shown_ = image_.picture();
             pixmap_ = render_picture(shown_, device_size);
         }
         pixmap_.setDevicePixelRatio(ratio);
         QPainter painter(this);
-        painter.drawPixmap(0, 0, pixmap_);
+        painter.drawPixmap(place.topLeft(), pixmap_);
         if (!image_.bordered()) return;
-        painter.setPen(palette().color(QPalette::WindowText));
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        const qreal half = 0.5 / ratio;
+        painter.setPen(QPen(palette().color(QPalette::WindowText), 1 / ratio));
+        painter.drawRect(place.adjusted(half, half, -half, -half));
     }
 
     // The press is taken, so that the release comes here too.
@@ -96,6 +98,17 @@ class PictureBox : public QWidget {
     }
 
   private:
+    // Where the picture is drawn: nothing of it may lie on a device pixel that belongs to the box in part
+    // only.
+    QRectF whole_device_pixels(qreal ratio) const {
+        const QSizeF size =
+            image_.stretch() ? QSizeF(this->size()) : QSizeF(card_width, card_height) * scale_;
+        const QRectF place(mapTo(window(), QPoint(0, 0)), size);
+        const QPointF first(std::ceil(place.left() * ratio), std::ceil(place.top() * ratio));
+        const QPointF last(std::floor(place.right() * ratio), std::floor(place.bottom() * ratio));
+        return QRectF(first / ratio, last / ratio).translated(-place.topLeft());
+    }
+
     const Image& image_;
     Picture shown_;
     QPixmap pixmap_;
