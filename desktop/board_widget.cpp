@@ -45,6 +45,7 @@ BoardWidget::BoardWidget(Form& form)
 }
 
 void BoardWidget::widget_changed(const Widget& widget, const Rect& before) {
+    news_.board_changed();
     if (widget.kind() == WidgetKind::label) update_label_scale();
     if (widget.kind() == WidgetKind::image) {
         glide_.end();

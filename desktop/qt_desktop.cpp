@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <chrono>
 
+#include "desktop/board_accessible.h"
 #include "desktop/board_window.h"
 #include "desktop/dialog_window.h"
 #include "desktop/help_window.h"
@@ -27,6 +28,7 @@ QtDesktop::QtDesktop() {
     // as long as all else at the start.
     QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QApplication::setStyle(new LeanStyle);
+    install_board_accessibility();
     timer_.setSingleShot(true);
     timer_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { tick(); });
