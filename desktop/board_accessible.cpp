@@ -29,9 +29,14 @@ bool same_widgets(const std::vector<BoardItem>& a, const std::vector<BoardItem>&
         [](const BoardItem& one, const BoardItem& other) { return one.widget == other.widget; });
 }
 
-void send(QAccessible::Event type, QAccessibleInterface& subject) {
-    QAccessibleEvent event(&subject, type);
-    QAccessible::updateAccessibility(&event);
+void send(const BoardAccessible::Change& change) {
+    if (change.event == QAccessible::ValueChanged) {
+        QAccessibleValueChangeEvent event(change.subject, change.subject->valueInterface()->currentValue());
+        QAccessible::updateAccessibility(&event);
+    } else {
+        QAccessibleEvent event(change.subject, change.event);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 }  // namespace
@@ -106,20 +111,18 @@ QAccessibleInterface* BoardAccessible::childAt(int x, int y) const {
     return nullptr;
 }
 
-void BoardAccessible::tell_changes() {
+std::vector<BoardAccessible::Change> BoardAccessible::take_changes() {
     const std::vector<BoardItem> before = std::exchange(told_, items());
-    const std::vector<BoardItem> after = told_;
-    if (!same_widgets(before, after)) send(QAccessible::ObjectReorder, *this);
-    for (const BoardItem& item : after) {
+    std::vector<Change> changes;
+    if (!same_widgets(before, told_)) changes.push_back({QAccessible::ObjectReorder, this});
+    for (const BoardItem& item : told_) {
         const BoardItem* told = find(before, item.widget);
         if (!told) continue;
         QAccessibleInterface* child = interface_of(*item.widget);
-        if (told->name != item.name) send(QAccessible::NameChanged, *child);
-        if (item.value && told->value != item.value) {
-            QAccessibleValueChangeEvent event(child, *item.value);
-            QAccessible::updateAccessibility(&event);
-        }
+        if (told->name != item.name) changes.push_back({QAccessible::NameChanged, child});
+        if (told->value != item.value) changes.push_back({QAccessible::ValueChanged, child});
     }
+    return changes;
 }
 
 BoardNews::BoardNews(BoardWidget& board) : wanted_(QAccessible::isActive()) {
@@ -128,7 +131,8 @@ BoardNews::BoardNews(BoardWidget& board) : wanted_(QAccessible::isActive()) {
     timer_.setInterval(news_delay);
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [&board] {
         auto* accessible = dynamic_cast<BoardAccessible*>(QAccessible::queryAccessibleInterface(&board));
-        if (accessible) accessible->tell_changes();
+        if (!accessible) return;
+        for (const BoardAccessible::Change& change : accessible->take_changes()) send(change);
     });
 }
 

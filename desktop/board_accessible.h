@@ -29,8 +29,13 @@ class BoardAccessible : public QAccessibleWidget {
     BoardWidget& board() const;
     /// What the board shows now; nothing when its window is not loaded.
     std::vector<BoardItem> items() const;
-    /// Sends out what has changed since the last time.
-    void tell_changes();
+
+    struct Change {
+        QAccessible::Event event;
+        QAccessibleInterface* subject;
+    };
+    /// What has changed since the last call, or since the board was first looked at.
+    std::vector<Change> take_changes();
 
   protected:
     ~BoardAccessible() override;

@@ -13,6 +13,7 @@
 
 #include "desktop/board_accessible.h"
 #include "desktop/board_window.h"
+#include "desktop/dialog_accessible.h"
 #include "desktop/dialog_window.h"
 #include "desktop/help_window.h"
 #include "desktop/lean_style.h"
@@ -29,6 +30,7 @@ QtDesktop::QtDesktop() {
     QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QApplication::setStyle(new LeanStyle);
     install_board_accessibility();
+    install_dialog_accessibility();
     timer_.setSingleShot(true);
     timer_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { tick(); });

@@ -3,10 +3,12 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QScrollBar>
+#include <QTimer>
+#include <QWidget>
 #include <QWindow>
-#include <algorithm>
+#include <chrono>
 
-#include "desktop/board_widget.h"
+#include "desktop/board_accessible.h"
 #include "desktop/qt_convert.h"
 #include "desktop/qt_desktop.h"
 #include "platform/random.h"
@@ -14,8 +16,11 @@
 #include "state/variables.h"
 #include "tools/driver/eventually.h"
 #include "ui/program.h"
+#include "windows/frmBestScore.h"
+#include "windows/frmError.h"
 #include "windows/frmFeatures.h"
 #include "windows/frmcards.h"
+#include "windows/frmyouwin.h"
 
 namespace tarnwick {
 namespace {
@@ -24,18 +29,8 @@ namespace {
 constexpr std::uint32_t deal = 26;
 constexpr int column_of_ace = 4;
 
-struct Told {
-    QAccessible::Event event;
-    QAccessibleInterface* subject;
-};
-std::vector<Told> told;
-
-void note_event(QAccessibleEvent* event) { told.push_back({event->type(), event->accessibleInterface()}); }
-
-bool was_told(QAccessible::Event event, const QAccessibleInterface* subject) {
-    return std::any_of(told.begin(), told.end(),
-                       [&](const Told& one) { return one.event == event && one.subject == subject; });
-}
+// Longer than changes are collected before they are told.
+constexpr std::chrono::milliseconds news_time{400};
 
 // Lets the program go on until the condition holds.
 template <class Condition>
@@ -44,6 +39,11 @@ bool comes_true(Condition condition) {
         QApplication::processEvents();
         return condition();
     });
+}
+
+void wait(std::chrono::milliseconds time) {
+    const auto end = std::chrono::steady_clock::now() + time;
+    comes_true([end] { return std::chrono::steady_clock::now() > end; });
 }
 
 void let_everything_happen() {
@@ -63,19 +63,14 @@ class AccessibleBoard : public testing::Test {
     AccessibleBoard() {
         random_generator().replay(deal);
         start_program(store_);
-        QAccessible::setActive(true);
         widget_ = find_widget("board");
         comes_true([this] { return widget_->window()->windowHandle()->isExposed(); });
-        told.clear();
-        QAccessible::installUpdateHandler(note_event);
     }
 
     ~AccessibleBoard() override {
-        QAccessible::installUpdateHandler(nullptr);
         end_program();
         random_generator().stop_replay();
         let_everything_happen();
-        QAccessible::setActive(false);
     }
 
     QAccessibleInterface& board() const { return *QAccessible::queryAccessibleInterface(widget_); }
@@ -95,6 +90,18 @@ class AccessibleBoard : public testing::Test {
         child.actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     }
 
+    // What the board has to tell, in words.
+    std::string changes() const {
+        std::string text;
+        for (const auto& [event, subject] : dynamic_cast<BoardAccessible&>(board()).take_changes()) {
+            if (event == QAccessible::ObjectReorder) text += "reorder";
+            if (event == QAccessible::NameChanged) text += "name";
+            if (event == QAccessible::ValueChanged) text += "value";
+            text += " of " + subject->text(QAccessible::Name).toStdString() + "; ";
+        }
+        return text;
+    }
+
     // Where a widget that the board shows whole lies on the screen.
     QRect seen_at(const Widget& widget, int scrolled = 0) const {
         const QRect place = to_qt(widget.place()).toAlignedRect();
@@ -102,6 +109,10 @@ class AccessibleBoard : public testing::Test {
     }
 
     QWidget& widget() const { return *widget_; }
+
+    void save(const std::string& key, const std::string& text) {
+        store_.save("Tarnwick", "setting", key, text);
+    }
 
   private:
     QtDesktop desktop_;
@@ -226,31 +237,37 @@ TEST_F(AccessibleBoard, TellsWhatChanges) {
     ASSERT_TRUE(score.valueInterface());
     EXPECT_EQ(score.valueInterface()->currentValue(), 0);
     EXPECT_EQ(score.valueInterface()->maximumValue(), 200);
-    QAccessibleInterface& stock = image(stock_image);
-    const int count = board().childCount();
-
-    press(stock);
-    ASSERT_TRUE(comes_true([&] { return was_told(QAccessible::NameChanged, &stock); }));
-    EXPECT_EQ(stock.text(QAccessible::Name), "stock, 40 cards face down");
-    EXPECT_TRUE(was_told(QAccessible::ObjectReorder, &board())) << "there is a turned card now";
-    EXPECT_EQ(board().childCount(), count + 1);
-    EXPECT_FALSE(was_told(QAccessible::ValueChanged, &score));
-
-    // The ace itself, and the card that it lay on.
-    press(top_of(column_of_ace));
-    ASSERT_TRUE(comes_true([&] { return was_told(QAccessible::ValueChanged, &score); }));
-    EXPECT_EQ(score.valueInterface()->currentValue(), 2);
-    EXPECT_EQ(score.text(QAccessible::Value), "2");
-    EXPECT_EQ(score.text(QAccessible::Name), "Score: 2 of 200");
-}
-
-TEST_F(AccessibleBoard, TellsNothingToNobody) {
-    QAccessible::setActive(false);
     press(image(stock_image));
     ASSERT_TRUE(comes_true([] { return turned_slot() == 4; }));
-    const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(400);
-    comes_true([end] { return std::chrono::steady_clock::now() > end; });
-    EXPECT_FALSE(was_told(QAccessible::ObjectReorder, &board()));
+    EXPECT_EQ(changes(), "reorder of Card table; name of stock, 40 cards face down; ");
+    press(image(stock_image));
+    ASSERT_TRUE(comes_true([] { return turned_slot() == 9; }));
+    EXPECT_EQ(changes(), "reorder of Card table; name of stock, 35 cards face down; ");
+
+    // A point for the ace, and one for the card that it lay on.
+    press(top_of(column_of_ace));
+    ASSERT_TRUE(comes_true([] { return !ace_pile_is_empty(0); }));
+    EXPECT_EQ(changes(),
+              "reorder of Card table; name of Ace of Clubs, ace pile 1, on top; "
+              "name of Score: 2 of 200; value of Score: 2 of 200; ");
+    EXPECT_EQ(score.valueInterface()->currentValue(), 2);
+    EXPECT_EQ(score.text(QAccessible::Value), "2");
+    EXPECT_EQ(changes(), "") << "they are told once";
+}
+
+// What was told meanwhile is not told again.
+TEST_F(AccessibleBoard, TellsChangesOnlyWhileSomebodyListens) {
+    board();
+    press(image(stock_image));
+    ASSERT_TRUE(comes_true([] { return turned_slot() == 4; }));
+    wait(news_time);
+    EXPECT_NE(changes(), "") << "nobody listens";
+    QAccessible::setActive(true);
+    press(image(stock_image));
+    ASSERT_TRUE(comes_true([] { return turned_slot() == 9; }));
+    wait(news_time);
+    EXPECT_EQ(changes(), "") << "told already";
+    QAccessible::setActive(false);
 }
 
 TEST_F(AccessibleBoard, IsGoneWithItsWindow) {
@@ -272,6 +289,100 @@ TEST_F(AccessibleBoard, IsGoneWithItsWindow) {
     EXPECT_EQ(whole.childAt(100, 100), nullptr);
     let_everything_happen();
     EXPECT_EQ(find_widget("board"), nullptr);
+}
+
+// Everything in a dialog that takes the keyboard, by its name.
+QStringList keyboard_names(const Form& form) {
+    QStringList names;
+    for (const QWidget* control : find_widget(to_qt(form.name()))->findChildren<QWidget*>()) {
+        if (control->focusPolicy() == Qt::NoFocus || !control->isVisible()) continue;
+        names +=
+            QAccessible::queryAccessibleInterface(const_cast<QWidget*>(control))->text(QAccessible::Name);
+    }
+    names.sort();
+    return names;
+}
+
+// What can be read out in a dialog, in its order.
+QString read_out(QAccessibleInterface& part) {
+    QString text = part.role() == QAccessible::StaticText ? part.text(QAccessible::Name) + "; " : QString();
+    for (int i = 0; i < part.childCount(); ++i) {
+        if (!part.child(i)->state().invisible) text += read_out(*part.child(i));
+    }
+    return text;
+}
+
+QAccessibleInterface* find_child(QAccessibleInterface& part, const QString& name) {
+    if (part.text(QAccessible::Name) == name) return &part;
+    for (int i = 0; i < part.childCount(); ++i) {
+        if (QAccessibleInterface* found = find_child(*part.child(i), name)) return found;
+    }
+    return nullptr;
+}
+
+class AccessibleDialog : public AccessibleBoard {
+  protected:
+    QAccessibleInterface& dialog(const Form& form) const {
+        return *QAccessible::queryAccessibleInterface(find_widget(to_qt(form.name())));
+    }
+};
+
+TEST_F(AccessibleDialog, NamesWhatTakesTheKeyboard) {
+    high_score_place = none;
+    for (Form* form : {static_cast<Form*>(&frmFeatures), static_cast<Form*>(&frmBestScore),
+                       static_cast<Form*>(&frmyouwin), static_cast<Form*>(&frmError)}) {
+        form->show();
+    }
+    EXPECT_EQ(
+        keyboard_names(frmFeatures).join(", "),
+        "Animate cards, Background Color, Cancel, Display Messages, Mid-Earth, Misty, OK, Pedal, Roman, "
+        "Rose, Scale Cards To Fit Window, Stained, Text Color");
+    EXPECT_EQ(keyboard_names(frmBestScore).join(", "), "Clear Score, OK");
+    EXPECT_EQ(keyboard_names(frmyouwin).join(", "), "Your Name");
+    EXPECT_EQ(keyboard_names(frmError).join(", "), "Close Game, Resume Next");
+    for (const char* name : {"Congratulations", "Logo of Tarnwick"}) {
+        EXPECT_TRUE(find_child(dialog(frmyouwin), name)) << name;
+    }
+    // The label beside a field is known for one.
+    const QAccessibleInterface* name_box = find_child(dialog(frmyouwin), "Your Name");
+    ASSERT_EQ(name_box->role(), QAccessible::StaticText);
+    const auto tied = name_box->relations(QAccessible::Labelled);
+    ASSERT_EQ(tied.size(), 1);
+    EXPECT_EQ(tied.front().first->role(), QAccessible::EditableText);
+}
+
+TEST_F(AccessibleDialog, ReadsStatisticsInFull) {
+    const std::string name = "Wilhelmina Featherstonehaugh-Cholmondeley of Upper Tarnwick by the Water";
+    save("high score 1", "150");
+    save("high score name 1", name);
+    save("games played", "3");
+    frmBestScore.show();
+    const QString text = read_out(dialog(frmBestScore));
+    const QString row = "1.; Score: 150; Name: " + to_qt(name) + "; Date: ; 2.; Score: 0; ";
+    EXPECT_TRUE(text.contains(row)) << text.toStdString();
+    EXPECT_TRUE(text.contains("Games Played: 3; ")) << text.toStdString();
+    frmBestScore.lblGamesPlayed.set_caption("4");
+    EXPECT_TRUE(read_out(dialog(frmBestScore)).contains("Games Played: 4; "));
+}
+
+TEST_F(AccessibleDialog, PressesPicturesAndSwatches) {
+    frmFeatures.show();
+    press(*find_child(dialog(frmFeatures), "Card back Roman"));
+    EXPECT_TRUE(comes_true([] { return frmFeatures.optCardBack(3).on(); }));
+
+    QAccessibleInterface& swatch = *find_child(dialog(frmFeatures), "Background Color");
+    EXPECT_EQ(swatch.text(QAccessible::Description), "#008000");
+    bool opened = false;
+    QTimer closer;
+    QObject::connect(&closer, &QTimer::timeout, &closer, [&opened] {
+        QWidget* picker = QApplication::activeModalWidget();
+        if (!picker) return;
+        opened = true;
+        picker->close();
+    });
+    closer.start(10);
+    press(swatch);
+    EXPECT_TRUE(comes_true([&opened] { return opened; })) << "the colour picker";
 }
 
 }  // namespace
