@@ -1,26 +1,13 @@
 #include <gtest/gtest.h>
 
-#include <QAccessible>
-#include <QApplication>
 #include <QScrollBar>
-#include <QTimer>
-#include <QWidget>
-#include <QWindow>
 #include <chrono>
 
 #include "desktop/board_accessible.h"
-#include "desktop/qt_convert.h"
-#include "desktop/qt_desktop.h"
-#include "platform/random.h"
-#include "settings/store.h"
 #include "state/variables.h"
-#include "tools/driver/eventually.h"
-#include "ui/program.h"
-#include "windows/frmBestScore.h"
-#include "windows/frmError.h"
+#include "tests/desktop/inner_game.h"
 #include "windows/frmFeatures.h"
 #include "windows/frmcards.h"
-#include "windows/frmyouwin.h"
 
 namespace tarnwick {
 namespace {
@@ -32,47 +19,13 @@ constexpr int column_of_ace = 4;
 // Longer than changes are collected before they are told.
 constexpr std::chrono::milliseconds news_time{400};
 
-// Lets the program go on until the condition holds.
-template <class Condition>
-bool comes_true(Condition condition) {
-    return eventually([&] {
-        QApplication::processEvents();
-        return condition();
-    });
-}
-
 void wait(std::chrono::milliseconds time) {
     const auto end = std::chrono::steady_clock::now() + time;
     comes_true([end] { return std::chrono::steady_clock::now() > end; });
 }
 
-void let_everything_happen() {
-    for (int i = 0; i < 20; ++i) QApplication::processEvents();
-}
-
-QWidget* find_widget(const QString& name) {
-    for (QWidget* widget : QApplication::allWidgets()) {
-        if (widget->objectName() == name && widget->isVisible()) return widget;
-    }
-    return nullptr;
-}
-
-// The program in this process, while somebody listens who cannot see it.
-class AccessibleBoard : public testing::Test {
+class BoardAccessibility : public testing::Test {
   protected:
-    AccessibleBoard() {
-        random_generator().replay(deal);
-        start_program(store_);
-        widget_ = find_widget("board");
-        comes_true([this] { return widget_->window()->windowHandle()->isExposed(); });
-    }
-
-    ~AccessibleBoard() override {
-        end_program();
-        random_generator().stop_replay();
-        let_everything_happen();
-    }
-
     QAccessibleInterface& board() const { return *QAccessible::queryAccessibleInterface(widget_); }
 
     // The child that stands for a widget; null when there is none.
@@ -85,10 +38,6 @@ class AccessibleBoard : public testing::Test {
     }
     QAccessibleInterface& image(int index) const { return *child_of(frmcards.Image1(index)); }
     QAccessibleInterface& top_of(int column) const { return image(top_card(column).picture); }
-
-    void press(QAccessibleInterface& child) const {
-        child.actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    }
 
     // What the board has to tell, in words.
     std::string changes() const {
@@ -110,17 +59,12 @@ class AccessibleBoard : public testing::Test {
 
     QWidget& widget() const { return *widget_; }
 
-    void save(const std::string& key, const std::string& text) {
-        store_.save("Tarnwick", "setting", key, text);
-    }
-
   private:
-    QtDesktop desktop_;
-    MemoryStore store_;
-    QWidget* widget_ = nullptr;
+    InnerGame game_{deal};
+    QWidget* widget_ = shown_widget("board");
 };
 
-TEST_F(AccessibleBoard, HasAChildForEverythingThatIsSeen) {
+TEST_F(BoardAccessibility, HasAChildForEverythingThatIsSeen) {
     const std::vector<BoardItem> items = frmcards.on_describe();
     ASSERT_EQ(static_cast<std::size_t>(board().childCount()), items.size() + 1) << "and the scroll bar";
     for (int i = 0; i < board().childCount(); ++i) {
@@ -146,7 +90,7 @@ TEST_F(AccessibleBoard, HasAChildForEverythingThatIsSeen) {
     EXPECT_EQ(top_of(9).text(QAccessible::Name), "Queen of Clubs, column 10, on top");
 }
 
-TEST_F(AccessibleBoard, KnowsWhereItsChildrenLie) {
+TEST_F(BoardAccessibility, KnowsWhereItsChildrenLie) {
     for (const BoardItem& item : frmcards.on_describe()) {
         QAccessibleInterface& child = *child_of(*item.widget);
         const std::string& name = item.name;
@@ -167,7 +111,7 @@ TEST_F(AccessibleBoard, KnowsWhereItsChildrenLie) {
     EXPECT_EQ(board().childAt(zone.left() - 1000, zone.top()), nullptr);
 }
 
-TEST_F(AccessibleBoard, ScrollsItsChildren) {
+TEST_F(BoardAccessibility, ScrollsItsChildren) {
     widget().window()->resize(900, 340);
     auto* bar = widget().findChild<QScrollBar*>();
     ASSERT_TRUE(comes_true([&] { return widget().height() < 340 && bar->maximum() > 0; }));
@@ -187,7 +131,7 @@ TEST_F(AccessibleBoard, ScrollsItsChildren) {
     EXPECT_TRUE(comes_true([] { return turned_slot() == 4; })) << "pressed where it cannot be seen";
 }
 
-TEST_F(AccessibleBoard, PlaysByPresses) {
+TEST_F(BoardAccessibility, PlaysByPresses) {
     press(image(stock_image));
     EXPECT_TRUE(comes_true([] { return turned_slot() == 4; }));
     press(image(stock_image));
@@ -204,25 +148,25 @@ TEST_F(AccessibleBoard, PlaysByPresses) {
     EXPECT_EQ(ace_of_clubs.actionInterface(), nullptr);
 }
 
-TEST_F(AccessibleBoard, RefusesPressesThatTheMouseCouldNotMake) {
+TEST_F(BoardAccessibility, RefusesPressesThatTheMouseCouldNotMake) {
     QAccessibleInterface& stock = image(stock_image);
     press(stock);
     frmcards.mnuSetings.choose();
     ASSERT_TRUE(frmFeatures.visible());
     EXPECT_TRUE(stock.state().disabled);
-    let_everything_happen();
+    settle();
     EXPECT_EQ(turned_slot(), -1) << "asked for before the dialog opened";
     press(stock);
-    let_everything_happen();
+    settle();
     EXPECT_EQ(turned_slot(), -1) << "and while it is open";
     frmFeatures.cmdCancel.click();
-    let_everything_happen();
+    settle();
 
     const Image& ace = frmcards.Image1(top_card(column_of_ace).picture);
     frmcards.mouse().press(ace.left() + 30, ace.top() + 40);
     ASSERT_TRUE(frmcards.mouse().dragged());
     press(stock);
-    let_everything_happen();
+    settle();
     EXPECT_EQ(turned_slot(), -1) << "during a drag";
     EXPECT_EQ(frmcards.mouse().dragged(), &ace);
     frmcards.mouse().cancel();
@@ -231,7 +175,7 @@ TEST_F(AccessibleBoard, RefusesPressesThatTheMouseCouldNotMake) {
     EXPECT_TRUE(comes_true([] { return turned_slot() == 4; })) << "free again";
 }
 
-TEST_F(AccessibleBoard, TellsWhatChanges) {
+TEST_F(BoardAccessibility, TellsWhatChanges) {
     QAccessibleInterface& score = *child_of(frmcards.LblScore);
     EXPECT_EQ(score.text(QAccessible::Name), "Score: 0 of 200");
     ASSERT_TRUE(score.valueInterface());
@@ -256,7 +200,7 @@ TEST_F(AccessibleBoard, TellsWhatChanges) {
 }
 
 // What was told meanwhile is not told again.
-TEST_F(AccessibleBoard, TellsChangesOnlyWhileSomebodyListens) {
+TEST_F(BoardAccessibility, TellsChangesOnlyWhileSomebodyListens) {
     board();
     press(image(stock_image));
     ASSERT_TRUE(comes_true([] { return turned_slot() == 4; }));
@@ -270,7 +214,7 @@ TEST_F(AccessibleBoard, TellsChangesOnlyWhileSomebodyListens) {
     QAccessible::setActive(false);
 }
 
-TEST_F(AccessibleBoard, IsGoneWithItsWindow) {
+TEST_F(BoardAccessibility, IsGoneWithItsWindow) {
     QAccessibleInterface& whole = board();
     QAccessibleInterface& stock = image(stock_image);
     QAccessibleInterface& back = image(face_down_image(4, 3));
@@ -287,102 +231,8 @@ TEST_F(AccessibleBoard, IsGoneWithItsWindow) {
     EXPECT_EQ(stock.text(QAccessible::Name), "");
     EXPECT_EQ(stock.rect(), QRect());
     EXPECT_EQ(whole.childAt(100, 100), nullptr);
-    let_everything_happen();
-    EXPECT_EQ(find_widget("board"), nullptr);
-}
-
-// Everything in a dialog that takes the keyboard, by its name.
-QStringList keyboard_names(const Form& form) {
-    QStringList names;
-    for (const QWidget* control : find_widget(to_qt(form.name()))->findChildren<QWidget*>()) {
-        if (control->focusPolicy() == Qt::NoFocus || !control->isVisible()) continue;
-        names +=
-            QAccessible::queryAccessibleInterface(const_cast<QWidget*>(control))->text(QAccessible::Name);
-    }
-    names.sort();
-    return names;
-}
-
-// What can be read out in a dialog, in its order.
-QString read_out(QAccessibleInterface& part) {
-    QString text = part.role() == QAccessible::StaticText ? part.text(QAccessible::Name) + "; " : QString();
-    for (int i = 0; i < part.childCount(); ++i) {
-        if (!part.child(i)->state().invisible) text += read_out(*part.child(i));
-    }
-    return text;
-}
-
-QAccessibleInterface* find_child(QAccessibleInterface& part, const QString& name) {
-    if (part.text(QAccessible::Name) == name) return &part;
-    for (int i = 0; i < part.childCount(); ++i) {
-        if (QAccessibleInterface* found = find_child(*part.child(i), name)) return found;
-    }
-    return nullptr;
-}
-
-class AccessibleDialog : public AccessibleBoard {
-  protected:
-    QAccessibleInterface& dialog(const Form& form) const {
-        return *QAccessible::queryAccessibleInterface(find_widget(to_qt(form.name())));
-    }
-};
-
-TEST_F(AccessibleDialog, NamesWhatTakesTheKeyboard) {
-    high_score_place = none;
-    for (Form* form : {static_cast<Form*>(&frmFeatures), static_cast<Form*>(&frmBestScore),
-                       static_cast<Form*>(&frmyouwin), static_cast<Form*>(&frmError)}) {
-        form->show();
-    }
-    EXPECT_EQ(
-        keyboard_names(frmFeatures).join(", "),
-        "Animate cards, Background Color, Cancel, Display Messages, Mid-Earth, Misty, OK, Pedal, Roman, "
-        "Rose, Scale Cards To Fit Window, Stained, Text Color");
-    EXPECT_EQ(keyboard_names(frmBestScore).join(", "), "Clear Score, OK");
-    EXPECT_EQ(keyboard_names(frmyouwin).join(", "), "Your Name");
-    EXPECT_EQ(keyboard_names(frmError).join(", "), "Close Game, Resume Next");
-    for (const char* name : {"Congratulations", "Logo of Tarnwick"}) {
-        EXPECT_TRUE(find_child(dialog(frmyouwin), name)) << name;
-    }
-    // The label beside a field is known for one.
-    const QAccessibleInterface* name_box = find_child(dialog(frmyouwin), "Your Name");
-    ASSERT_EQ(name_box->role(), QAccessible::StaticText);
-    const auto tied = name_box->relations(QAccessible::Labelled);
-    ASSERT_EQ(tied.size(), 1);
-    EXPECT_EQ(tied.front().first->role(), QAccessible::EditableText);
-}
-
-TEST_F(AccessibleDialog, ReadsStatisticsInFull) {
-    const std::string name = "Wilhelmina Featherstonehaugh-Cholmondeley of Upper Tarnwick by the Water";
-    save("high score 1", "150");
-    save("high score name 1", name);
-    save("games played", "3");
-    frmBestScore.show();
-    const QString text = read_out(dialog(frmBestScore));
-    const QString row = "1.; Score: 150; Name: " + to_qt(name) + "; Date: ; 2.; Score: 0; ";
-    EXPECT_TRUE(text.contains(row)) << text.toStdString();
-    EXPECT_TRUE(text.contains("Games Played: 3; ")) << text.toStdString();
-    frmBestScore.lblGamesPlayed.set_caption("4");
-    EXPECT_TRUE(read_out(dialog(frmBestScore)).contains("Games Played: 4; "));
-}
-
-TEST_F(AccessibleDialog, PressesPicturesAndSwatches) {
-    frmFeatures.show();
-    press(*find_child(dialog(frmFeatures), "Card back Roman"));
-    EXPECT_TRUE(comes_true([] { return frmFeatures.optCardBack(3).on(); }));
-
-    QAccessibleInterface& swatch = *find_child(dialog(frmFeatures), "Background Color");
-    EXPECT_EQ(swatch.text(QAccessible::Description), "#008000");
-    bool opened = false;
-    QTimer closer;
-    QObject::connect(&closer, &QTimer::timeout, &closer, [&opened] {
-        QWidget* picker = QApplication::activeModalWidget();
-        if (!picker) return;
-        opened = true;
-        picker->close();
-    });
-    closer.start(10);
-    press(swatch);
-    EXPECT_TRUE(comes_true([&opened] { return opened; })) << "the colour picker";
+    settle();
+    EXPECT_EQ(shown_widget("board"), nullptr);
 }
 
 }  // namespace
