@@ -23,10 +23,14 @@ const BoardItem* find(const std::vector<BoardItem>& items, const Widget* widget)
     return item == items.end() ? nullptr : &*item;
 }
 
-bool same_widgets(const std::vector<BoardItem>& a, const std::vector<BoardItem>& b) {
-    return std::equal(
-        a.begin(), a.end(), b.begin(), b.end(),
-        [](const BoardItem& one, const BoardItem& other) { return one.widget == other.widget; });
+// The widgets of `items` that are among `others` as well.
+std::vector<const Widget*> shared_widgets(const std::vector<BoardItem>& items,
+                                          const std::vector<BoardItem>& others) {
+    std::vector<const Widget*> widgets;
+    for (const BoardItem& item : items) {
+        if (find(others, item.widget)) widgets.push_back(item.widget);
+    }
+    return widgets;
 }
 
 void send(const BoardAccessible::Change& change) {
@@ -114,13 +118,23 @@ QAccessibleInterface* BoardAccessible::childAt(int x, int y) const {
 std::vector<BoardAccessible::Change> BoardAccessible::take_changes() {
     const std::vector<BoardItem> before = std::exchange(told_, items());
     std::vector<Change> changes;
-    if (!same_widgets(before, told_)) changes.push_back({QAccessible::ObjectReorder, this});
+    for (const BoardItem& item : before) {
+        if (!find(told_, item.widget)) {
+            changes.push_back({QAccessible::ObjectDestroyed, interface_of(*item.widget)});
+        }
+    }
     for (const BoardItem& item : told_) {
         const BoardItem* told = find(before, item.widget);
-        if (!told) continue;
         QAccessibleInterface* child = interface_of(*item.widget);
+        if (!told) {
+            changes.push_back({QAccessible::ObjectCreated, child});
+            continue;
+        }
         if (told->name != item.name) changes.push_back({QAccessible::NameChanged, child});
         if (told->value != item.value) changes.push_back({QAccessible::ValueChanged, child});
+    }
+    if (shared_widgets(before, told_) != shared_widgets(told_, before)) {
+        changes.push_back({QAccessible::ObjectReorder, this});
     }
     return changes;
 }

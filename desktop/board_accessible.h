@@ -34,7 +34,8 @@ class BoardAccessible : public QAccessibleWidget {
         QAccessible::Event event;
         QAccessibleInterface* subject;
     };
-    /// What has changed since the last call, or since the board was first looked at.
+    /// What has changed since the last call, or since the board was first looked at. What comes into sight is
+    /// told as created, what goes as destroyed.
     std::vector<Change> take_changes();
 
   protected:

@@ -43,10 +43,12 @@ class BoardAccessibility : public testing::Test {
     std::string changes() const {
         std::string text;
         for (const auto& [event, subject] : dynamic_cast<BoardAccessible&>(board()).take_changes()) {
-            if (event == QAccessible::ObjectReorder) text += "reorder";
-            if (event == QAccessible::NameChanged) text += "name";
-            if (event == QAccessible::ValueChanged) text += "value";
-            text += " of " + subject->text(QAccessible::Name).toStdString() + "; ";
+            if (event == QAccessible::ObjectCreated) text += "new: ";
+            if (event == QAccessible::ObjectDestroyed) text += "gone: ";
+            if (event == QAccessible::ObjectReorder) text += "order: ";
+            if (event == QAccessible::NameChanged) text += "name: ";
+            if (event == QAccessible::ValueChanged) text += "value: ";
+            text += subject->text(QAccessible::Name).toStdString() + "; ";
         }
         return text;
     }
@@ -183,17 +185,18 @@ TEST_F(BoardAccessibility, TellsWhatChanges) {
     EXPECT_EQ(score.valueInterface()->maximumValue(), 200);
     press(image(stock_image));
     ASSERT_TRUE(comes_true([] { return turned_slot() == 4; }));
-    EXPECT_EQ(changes(), "reorder of Card table; name of stock, 40 cards face down; ");
+    EXPECT_EQ(changes(), "name: stock, 40 cards face down; new: 10 of Spades, turned card; ");
     press(image(stock_image));
     ASSERT_TRUE(comes_true([] { return turned_slot() == 9; }));
-    EXPECT_EQ(changes(), "reorder of Card table; name of stock, 35 cards face down; ");
+    EXPECT_EQ(changes(), "gone: ; name: stock, 35 cards face down; new: 4 of Spades, turned card; ");
 
-    // A point for the ace, and one for the card that it lay on.
+    // A point for the ace, and one for the card that it lay on. Its back and the empty pile are gone.
     press(top_of(column_of_ace));
     ASSERT_TRUE(comes_true([] { return !ace_pile_is_empty(0); }));
-    EXPECT_EQ(changes(),
-              "reorder of Card table; name of Ace of Clubs, ace pile 1, on top; "
-              "name of Score: 2 of 200; value of Score: 2 of 200; ");
+    EXPECT_EQ(
+        changes(),
+        "gone: ; gone: ; name: Ace of Clubs, ace pile 1, on top; new: Queen of Spades, column 5, on top; "
+        "name: Score: 2 of 200; value: Score: 2 of 200; order: Card table; ");
     EXPECT_EQ(score.valueInterface()->currentValue(), 2);
     EXPECT_EQ(score.text(QAccessible::Value), "2");
     EXPECT_EQ(changes(), "") << "they are told once";
