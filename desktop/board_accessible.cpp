@@ -100,10 +100,10 @@ int BoardAccessible::indexOfChild(const QAccessibleInterface* child) const {
 
 QAccessibleInterface* BoardAccessible::childAt(int x, int y) const {
     if (!isValid() || !rect().contains(x, y)) return nullptr;
-    QAccessibleInterface* other = QAccessibleWidget::childAt(x, y);
-    if (other) return other;
+    const QPoint seen = board().mapFromGlobal(QPoint(x, y));
+    if (QWidget* native = board().childAt(seen)) return QAccessible::queryAccessibleInterface(native);
     const std::vector<BoardItem> shown = items();
-    const QPoint place = board().mapFromGlobal(QPoint(x, y)) + QPoint(0, board().scroll_offset());
+    const QPoint place = seen + QPoint(0, board().scroll_offset());
     const Image* image =
         board().form().mouse().image_at(static_cast<float>(place.x()), static_cast<float>(place.y()));
     if (image) return find(shown, image) ? interface_of(*image) : nullptr;
@@ -145,7 +145,7 @@ BoardNews::BoardNews(BoardWidget& board) : wanted_(QAccessible::isActive()) {
     timer_.setInterval(news_delay);
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [&board] {
         auto* accessible = dynamic_cast<BoardAccessible*>(QAccessible::queryAccessibleInterface(&board));
-        if (!accessible) return;
+        if (!accessible || !accessible->isValid()) return;
         for (const BoardAccessible::Change& change : accessible->take_changes()) send(change);
     });
 }

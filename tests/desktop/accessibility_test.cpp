@@ -127,8 +127,11 @@ TEST_F(BoardAccessibility, ScrollsItsChildren) {
     EXPECT_EQ(stock.rect(), seen_at(frmcards.Image1(stock_image), scrolled));
     EXPECT_FALSE(lowest.state().offscreen);
     EXPECT_LE(lowest.rect().bottom(), board().rect().bottom());
-    const QPoint spot = lowest.rect().center();
-    EXPECT_EQ(board().childAt(spot.x(), spot.y()), &lowest);
+    QAccessibleInterface& covered = image(face_down_image(9, 8));
+    const QPoint strip(covered.rect().center().x(), covered.rect().top() + 6);
+    EXPECT_EQ(board().childAt(strip.x(), strip.y()), &covered);
+    const QPoint at_bar = bar->mapToGlobal(bar->rect().center());
+    EXPECT_EQ(board().childAt(at_bar.x(), at_bar.y()), QAccessible::queryAccessibleInterface(bar));
     press(image(stock_image));
     EXPECT_TRUE(comes_true([] { return turned_slot() == 4; })) << "pressed where it cannot be seen";
 }
