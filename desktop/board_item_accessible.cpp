@@ -20,21 +20,25 @@ bool takes_clicks(const Form& form) {
 
 // A place where a click reaches the widget, that is, where no other one lies over it. A click nearer to its
 // left or right edge might be meant for the neighbour.
-std::optional<QPointF> free_spot(const Form& form, const Rect& place, const Widget& widget) {
-    constexpr float from_edge = 30;
-    constexpr float step = 4;
-    const float x = place.left + std::min(from_edge, place.width - 2);
-    for (float y = place.top + step; y < place.bottom(); y += step) {
-        if (form.mouse().image_at(x, y) == &widget)
-            return QPointF(static_cast<qreal>(x), static_cast<qreal>(y));
+std::optional<QPointF> free_spot(const Widget& widget) {
+    constexpr qreal from_edge = 30;
+    constexpr int step = 4;
+    const QRectF place = to_qt(widget.place());
+    const qreal x = place.left() + std::min(from_edge, place.width() - 2);
+    for (int down = step; down < place.height(); down += step) {
+        const QPointF spot(x, place.top() + down);
+        const Mouse& mouse = widget.form().mouse();
+        if (mouse.image_at(static_cast<float>(spot.x()), static_cast<float>(spot.y())) == &widget)
+            return spot;
     }
     return std::nullopt;
 }
 
-void click(Form& form, const Widget& widget, int times) {
+void click(const Widget& widget, int times) {
+    Form& form = widget.form();
     for (int i = 0; i < times; ++i) {
         if (!takes_clicks(form)) return;
-        const std::optional<QPointF> spot = free_spot(form, widget.place(), widget);
+        const std::optional<QPointF> spot = free_spot(widget);
         if (!spot) return;
         form.mouse().press(static_cast<float>(spot->x()), static_cast<float>(spot->y()));
         form.mouse().release(static_cast<float>(spot->x()), static_cast<float>(spot->y()));
@@ -105,10 +109,8 @@ void BoardItemAccessible::doAction(const QString& action) {
     const int clicks = item().clicks;
     if (action != pressAction() || clicks == 0) return;
     // Later: a move may bring up a message, and whoever asks for it does not wait for the answer.
-    BoardWidget& board = board_.board();
     QMetaObject::invokeMethod(
-        &board, [&board, &widget = widget_, clicks] { click(board.form(), widget, clicks); },
-        Qt::QueuedConnection);
+        &board_.board(), [&widget = widget_, clicks] { click(widget, clicks); }, Qt::QueuedConnection);
 }
 
 QVariant BoardItemAccessible::currentValue() const { return item().value.value_or(0); }

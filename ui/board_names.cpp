@@ -69,10 +69,10 @@ void describe_ace_pile(Description& board, int p) {
 
 // While it is peeked at, a face-down card tells what it is.
 std::string face_down_name(int c, int slot) {
-    const std::string name = "face-down card " + std::to_string(slot + 1) + " of " + column_name(c);
-    if (animation(peeked_image) != peek_mark + face_down_image(c, slot)) return name;
+    const bool is_peeked_at = animation(peeked_image) == peek_mark + face_down_image(c, slot);
     const Card card = column_card(c, slot);
-    return name_of(card.rank, card.suit) + ", " + name;
+    return (is_peeked_at ? name_of(card.rank, card.suit) + ", " : "") + "face-down card " +
+           std::to_string(slot + 1) + " of " + column_name(c);
 }
 
 // From the top card down: what can be played comes first.
