@@ -45,6 +45,7 @@ BoardWidget::BoardWidget(Form& form)
 }
 
 void BoardWidget::widget_changed(const Widget& widget, const Rect& before) {
+    news_.board_changed();
     if (widget.kind() == WidgetKind::label) update_label_scale();
     if (widget.kind() == WidgetKind::image) {
         glide_.end();
@@ -65,11 +66,7 @@ void BoardWidget::drag_changed() {
     take_up_or_put_down();
     repaint_lifted();
     repaint_mark();
-    if (edge_ahead() == 0) {
-        edge_scroll_.stop();
-    } else if (!edge_scroll_.isActive()) {
-        edge_scroll_.start(edge_scroll_time, this);
-    }
+    scroll_at_edge();
     setMouseTracking(form_.mouse().dragged() != nullptr);
 }
 
@@ -113,6 +110,14 @@ void BoardWidget::repaint_mark() {
     marked_ = now;
 }
 
+void BoardWidget::scroll_at_edge() {
+    if (edge_ahead() == 0) {
+        edge_scroll_.stop();
+    } else if (!edge_scroll_.isActive()) {
+        edge_scroll_.start(edge_scroll_time, this);
+    }
+}
+
 int BoardWidget::edge_ahead() const {
     if (!form_.mouse().dragged() || drag_offset_.manhattanLength() < edge_reach) return 0;
     if (pointer_.y() < edge_reach) return scroll_bar_.value() > 0 ? -1 : 0;
@@ -124,7 +129,7 @@ void BoardWidget::timerEvent(QTimerEvent* event) {
     if (event->timerId() != edge_scroll_.timerId()) return QWidget::timerEvent(event);
     scroll_bar_.setValue(scroll_bar_.value() + edge_ahead() * edge_scroll_step);
     move_pointer(pointer_);
-    if (edge_ahead() == 0) edge_scroll_.stop();
+    scroll_at_edge();
 }
 
 void BoardWidget::move_pointer(QPointF place) {
@@ -186,6 +191,7 @@ void BoardWidget::update_scrolling() {
     scroll_bar_.setPageStep(height());
     scroll_bar_.setRange(0, range);
     scroll_bar_.setVisible(range > 0);
+    scroll_at_edge();
 }
 
 bool BoardWidget::event(QEvent* event) {

@@ -4,6 +4,7 @@
 #include <QScrollBar>
 #include <QWidget>
 
+#include "desktop/board_accessible.h"
 #include "desktop/board_painter.h"
 #include "desktop/glide_back.h"
 
@@ -21,6 +22,10 @@ class BoardWidget : public QWidget {
     void drag_changed();
     /// Repaints all of the board.
     void repaint_all();
+
+    Form& form() const { return form_; }
+    /// How far the board is scrolled down, in pixels.
+    int scroll_offset() const { return offset_; }
 
   protected:
     bool event(QEvent* event) override;
@@ -42,6 +47,7 @@ class BoardWidget : public QWidget {
     void repaint_mark();
     void take_up_or_put_down();
     void move_pointer(QPointF place);
+    void scroll_at_edge();
     /// Which way a drag scrolls the board now: -1 up, 1 down, 0 not at all.
     int edge_ahead() const;
     void update_label_scale();
@@ -56,8 +62,9 @@ class BoardWidget : public QWidget {
     QRect lifted_area_;
     std::vector<Image*> lifted_;  ///< the images of the drag
     const Image* marked_ = nullptr;
-    QPointF drag_offset_;      ///< how far the pointer has moved since the drag's press
-    QPointF pointer_;          ///< where the pointer was last seen, in the widget
+    QPointF drag_offset_;  ///< how far the pointer has moved since the drag's press
+    QPointF pointer_;      ///< where the pointer was last seen, in the widget
+    BoardNews news_{*this};
     QBasicTimer edge_scroll_;  ///< runs while a drag is held at an edge beyond which there is more
     qreal label_scale_ = 1;
     int offset_ = 0;    ///< how far the board is scrolled down, in pixels

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <cmath>
 
+#include "desktop/dialog_accessible.h"
 #include "desktop/dialog_control.h"
 #include "desktop/picture_cache.h"
 #include "desktop/qt_convert.h"
@@ -60,13 +61,20 @@ class FrameControl : public DialogControl {
     QGroupBox& native_;
 };
 
-class PictureBox : public QWidget {
+class PictureBox : public QWidget, public Pressable {
   public:
     PictureBox(const Image& image, QWidget* parent) : QWidget(parent), image_(image) {}
 
     void set_scale(qreal scale) {
         scale_ = scale;
         update();
+    }
+
+    bool takes_presses() const override { return image_.events().click != nullptr; }
+
+    void press() override {
+        const auto& click = image_.events().click;
+        if (click && image_.form().accepts_input()) desktop().event([&] { click(image_.index()); });
     }
 
   protected:
@@ -93,8 +101,7 @@ class PictureBox : public QWidget {
 
     void mouseReleaseEvent(QMouseEvent* event) override {
         const bool inside = rect().contains(event->position().toPoint());
-        if (event->button() != Qt::LeftButton || !inside || !image_.form().accepts_input()) return;
-        if (const auto& click = image_.events().click) desktop().event([&] { click(image_.index()); });
+        if (event->button() == Qt::LeftButton && inside) press();
     }
 
   private:

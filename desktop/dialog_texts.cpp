@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <algorithm>
 
+#include "desktop/dialog_accessible.h"
 #include "desktop/dialog_control.h"
 #include "desktop/key_codes.h"
 #include "desktop/qt_convert.h"
@@ -95,6 +96,9 @@ class LabelControl : public DialogControl {
         native_.setText(elided ? QFontMetricsF(font).elidedText(text, Qt::ElideRight, place.width() - air)
                                : text);
         native_.setToolTip(elided ? text.toHtmlEscaped() : QString());
+        const Label* title = label_.label();
+        // Read out, a value comes after what it is, and nothing is left out.
+        native_.setAccessibleName(title ? to_qt(title->caption()) + ' ' + text : text);
     }
 
     void show_colors() {
@@ -110,7 +114,7 @@ class LabelControl : public DialogControl {
     QLabel& native_;
 };
 
-class LineEdit : public QLineEdit {
+class LineEdit : public QLineEdit, public Pressable {
   public:
     LineEdit(TextBox& box, QWidget* parent) : QLineEdit(parent), box_(box) {
         connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
@@ -127,7 +131,11 @@ class LineEdit : public QLineEdit {
         palette.setColor(QPalette::Base, to_qt(box_.back_color()));
         palette.setColor(QPalette::Text, to_qt(box_.text_color()));
         setPalette(palette);
+        if (is_swatch()) setAccessibleDescription(to_qt(box_.back_color()).name());
     }
+
+    bool takes_presses() const override { return is_swatch(); }
+    void press() override { box_.click(); }
 
     bool is_swatch() const { return box_.has_colors() && box_.back_color() == box_.text_color(); }
 

@@ -1,6 +1,8 @@
 #include "desktop/dialog_window.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QScreen>
 #include <algorithm>
@@ -37,6 +39,7 @@ DialogWindow::DialogWindow(Form& form, QWidget* parent)
     choose_scale();
     sync();
     for (const auto& [widget, control] : controls_) widget_changed(*widget);
+    name_controls();
     set_tab_order();
     if (form.centered()) move(screen()->availableGeometry().center() - rect().center());
 }
@@ -53,6 +56,18 @@ void DialogWindow::make_controls() {
         QWidget* parent = widget->container() ? native_of(*widget->container()) : this;
         controls_[widget] = make_control(*widget, parent);
         native_of(*widget)->setFocusPolicy(Qt::NoFocus);
+    }
+}
+
+void DialogWindow::name_controls() {
+    for (const auto& [widget, control] : controls_) {
+        if (!widget->spoken_name().empty())
+            control->native()->setAccessibleName(to_qt(widget->spoken_name()));
+        const Label* label = widget->label();
+        // Labels name themselves.
+        if (!label || widget->kind() == WidgetKind::label) continue;
+        static_cast<QLabel*>(native_of(*label))->setBuddy(control->native());
+        control->native()->setAccessibleName(to_qt(label->caption()));
     }
 }
 
@@ -95,6 +110,7 @@ void DialogWindow::set_tab_order() {
 void DialogWindow::sync() {
     // Without any title the toolkit would put the program's name there.
     setWindowTitle(form_.caption().empty() ? QStringLiteral(" ") : to_qt(form_.caption()));
+    if (form_.caption().empty()) setAccessibleName(QGuiApplication::applicationDisplayName());
     const PixelSize client = form_.client_size();
     setFixedSize(qRound(client.width * scale_), qRound(client.height * scale_));
     if (form_.has_back_color()) {

@@ -30,6 +30,8 @@ class DialogWindow : public QDialog {
 
   private:
     void make_controls();
+    /// Ties labels to what they stand beside, for players who cannot see it.
+    void name_controls();
     void choose_scale();
     bool all_fit(qreal scale, qreal most) const;
     void set_tab_order();

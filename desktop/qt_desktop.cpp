@@ -11,7 +11,9 @@
 #include <algorithm>
 #include <chrono>
 
+#include "desktop/board_accessible.h"
 #include "desktop/board_window.h"
+#include "desktop/dialog_accessible.h"
 #include "desktop/dialog_window.h"
 #include "desktop/help_window.h"
 #include "desktop/lean_style.h"
@@ -29,6 +31,8 @@ QtDesktop::QtDesktop() {
     QApplication::setStyle(new LeanStyle);
     // The windows are laid out by hand for their English texts, whatever way the desktop's language runs.
     QApplication::setLayoutDirection(Qt::LeftToRight);
+    install_board_accessibility();
+    install_dialog_accessibility();
     timer_.setSingleShot(true);
     timer_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { tick(); });

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/board_item.h"
 #include "platform/color.h"
 #include "platform/geometry.h"
 #include "platform/menu.h"
@@ -51,6 +52,8 @@ class Form {
     /// The user clicked the window's own background.
     std::function<void()> on_click;
     std::function<void(int key_code)> on_key_down;
+    /// Tells what the widgets of a board mean, in the order in which they are read out.
+    std::function<std::vector<BoardItem>()> on_describe;
 
     bool loaded() const { return loaded_; }
     bool visible() const { return visible_; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "platform/geometry.h"
 
@@ -8,6 +9,7 @@ namespace tarnwick {
 
 class Form;
 class Frame;
+class Label;
 
 enum class WidgetKind { image, outline, label, frame, button, check_box, option_button, text_box };
 
@@ -25,6 +27,14 @@ class Widget {
     /// The frame that holds the widget (its place is then relative to it), or null.
     const Frame* container() const { return container_; }
     void put_into(const Frame& frame) { container_ = &frame; }
+
+    /// The label beside the widget that says what it is for, or null.
+    const Label* label() const { return label_; }
+    void label_with(const Label& label) { label_ = &label; }
+
+    /// A name, for players who cannot see the widget, where neither its own text nor a label tells it.
+    const std::string& spoken_name() const { return spoken_name_; }
+    void set_spoken_name(const std::string& name) { spoken_name_ = name; }
 
     const Rect& place() const { return place_; }
     float left() const { return place_.left; }
@@ -59,6 +69,8 @@ class Widget {
   private:
     Form& form_;
     const Frame* container_ = nullptr;
+    const Label* label_ = nullptr;
+    std::string spoken_name_;
     Rect place_;
     std::uint64_t stacking_ = 0;
     WidgetKind kind_;

@@ -6,6 +6,7 @@ namespace tarnwick {
 
 void attach_main_window();
 void attach_card_input();
+void attach_board_names();
 void attach_timers();
 void attach_menus();
 void attach_error_dialog();

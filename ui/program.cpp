@@ -19,6 +19,7 @@ void start_program(Store& store) {
     forget_told_settings();
     attach_main_window();
     attach_card_input();
+    attach_board_names();
     attach_timers();
     attach_menus();
     attach_error_dialog();

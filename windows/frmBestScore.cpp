@@ -25,6 +25,14 @@ FrmBestScore::FrmBestScore() : Form("frmBestScore") {
           static_cast<Widget*>(&lblNameText), static_cast<Widget*>(&lblHighScoreDateText1)}) {
         widget->put_into(Frame1);
     }
+    for (int i = 1; i <= 5; ++i) {
+        lblHighScore(i).label_with(lblScoreText);
+        lblHighScoreName(i).label_with(lblNameText);
+        lblHighScoreDate(i).label_with(lblHighScoreDateText1);
+    }
+    lblGamesPlayed.label_with(lblGamesPlayedText);
+    lblAverageScore.label_with(lblAverageScoreText);
+    lblGamesWon.label_with(lblGamesWonText);
     // Begins with the button that does no harm.
     set_tab_order({&cmdOk, &cmdClearScore});
 }

@@ -1,5 +1,7 @@
 #include "windows/frmFeatures.h"
 
+#include <string>
+
 #include "windows/pictures.h"
 
 namespace tarnwick {
@@ -10,7 +12,10 @@ FrmFeatures::FrmFeatures() : Form("frmFeatures") {
     for (int i = 0; i < back_count; ++i) {
         ImgCardBacks.add(i, *this, i, back_events).put_into(Frame1);
         optCardBack.add(i, *this).put_into(Frame1);
+        ImgCardBacks(i).set_spoken_name(std::string("Card back ") + back_name(i));
     }
+    txtBackColor.label_with(lblBackColor);
+    txtTextColor.label_with(lblTextColor);
     std::vector<Widget*> order{&txtBackColor,  &txtTextColor, &chkAnamate, &chkScaleCards,
                                &chkDisplayMes, &cmdOk,        &cmdCancel};
     optCardBack.for_each([&order](OptionButton& option) { order.push_back(&option); });

@@ -10,6 +10,9 @@ Frmyouwin::Frmyouwin() : Form("frmyouwin") {
     for (Widget* widget : widgets()) {
         if (widget != &Frame1) widget->put_into(Frame1);
     }
+    Frame1.set_spoken_name("Congratulations");
+    imgLogo.set_spoken_name("Logo of Tarnwick");
+    txtYourName.label_with(Label1);
     set_tab_order({&txtYourName});
 }
 

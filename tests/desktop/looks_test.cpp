@@ -9,9 +9,7 @@
 #include <cmath>
 #include <functional>
 
-#include "desktop/qt_desktop.h"
-#include "settings/store.h"
-#include "ui/program.h"
+#include "tests/desktop/inner_game.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmError.h"
 #include "windows/frmFeatures.h"
@@ -20,44 +18,33 @@
 namespace tarnwick {
 namespace {
 
-// The program in this process, in its real windows.
+// Gives the toolkit its looks back.
 class Looks : public testing::Test {
   protected:
     ~Looks() override {
-        end_program();
         QApplication::setFont(font_);
         QApplication::setPalette(palette_);
-    }
-
-    void start() {
-        desktop_.emplace();
-        start_program(store_);
-    }
-
-    // Shows each of the dialogs, one after the other.
-    static void for_each_dialog(const std::function<void(const std::string& name, QWidget& dialog)>& look) {
-        for (Form* form : {static_cast<Form*>(&frmFeatures), static_cast<Form*>(&frmBestScore),
-                           static_cast<Form*>(&frmyouwin), static_cast<Form*>(&frmError)}) {
-            form->show();
-            if (form == &frmError) frmError.LblError.set_caption("Fatel Error in Subroutine layout_to_ace");
-            QWidget* dialog = nullptr;
-            for (QWidget* window : QApplication::topLevelWidgets()) {
-                if (window->isVisible() && window->objectName().toStdString() == form->name())
-                    dialog = window;
-            }
-            ASSERT_NE(dialog, nullptr) << form->name();
-            look(form->name(), *dialog);
-            form->on_unload = nullptr;
-            form->unload();
-        }
     }
 
   private:
     QFont font_ = QApplication::font();
     QPalette palette_ = QApplication::palette();
-    MemoryStore store_;
-    std::optional<QtDesktop> desktop_;
 };
+
+// Shows each of the dialogs, one after the other.
+void for_each_dialog(const std::function<void(const std::string& name, QWidget& dialog)>& look) {
+    const InnerGame game(26);
+    for (Form* form : {static_cast<Form*>(&frmFeatures), static_cast<Form*>(&frmBestScore),
+                       static_cast<Form*>(&frmyouwin), static_cast<Form*>(&frmError)}) {
+        form->show();
+        if (form == &frmError) frmError.LblError.set_caption("Fatel Error in Subroutine layout_to_ace");
+        QWidget* dialog = shown_widget(form->name());
+        ASSERT_NE(dialog, nullptr) << form->name();
+        look(form->name(), *dialog);
+        form->on_unload = nullptr;
+        form->unload();
+    }
+}
 
 // What of a dialog's texts cannot be read in full.
 std::string clipped_texts(const QWidget& dialog) {
@@ -90,11 +77,9 @@ TEST_F(Looks, NoTextIsClippedInFontsOf8To16Points) {
         QFont font = QApplication::font();
         font.setPointSize(points);
         QApplication::setFont(font);
-        start();
         for_each_dialog([points](const std::string& name, QWidget& dialog) {
             EXPECT_EQ(clipped_texts(dialog), "") << name << " at " << points << " points";
         });
-        end_program();
     }
 }
 
@@ -117,7 +102,6 @@ TEST_F(Looks, EveryLabelStandsOutOnLightAndDarkDesktops) {
     for (const QColor& ground :
          {QColor(239, 239, 239), QColor(49, 54, 59), QColor(0, 0, 0), QColor(255, 255, 255)}) {
         QApplication::setPalette(QPalette(ground, ground));
-        start();
         for_each_dialog([&](const std::string& name, QWidget& dialog) {
             const QImage seen = dialog.grab().toImage();
             for (const QLabel* label : dialog.findChildren<QLabel*>()) {
@@ -128,7 +112,6 @@ TEST_F(Looks, EveryLabelStandsOutOnLightAndDarkDesktops) {
                     << name << ": " << label->text().toStdString() << " on " << ground.name().toStdString();
             }
         });
-        end_program();
     }
 }
 
@@ -136,10 +119,8 @@ TEST_F(Looks, ALanguageThatRunsFromRightToLeftLeavesTheDialogsInOrder) {
     std::vector<QImage> seen;
     for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
         QApplication::setLayoutDirection(direction);
-        start();
         for_each_dialog(
             [&](const std::string&, QWidget& dialog) { seen.push_back(dialog.grab().toImage()); });
-        end_program();
     }
     ASSERT_EQ(seen.size(), 8U);
     for (std::size_t i = 0; i < 4; ++i) EXPECT_EQ(seen[i], seen[i + 4]);

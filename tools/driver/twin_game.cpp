@@ -46,7 +46,12 @@ void TwinGame::begin() {
     arguments.insert(arguments.end(), start_.arguments.begin(), start_.arguments.end());
     program_ = std::make_unique<ChildProcess>(start_.program, arguments, environment);
     window_ = wait_for(main_title);
-    if (!gets_keyboard(window_)) throw std::runtime_error("the window does not get the keyboard");
+    // A program that has something to say at its start gives the keyboard to its message.
+    const auto has_keyboard = [this] {
+        const std::vector<XWindow> windows = screen_.windows_of(program_->pid());
+        return std::find(windows.begin(), windows.end(), screen_.active()) != windows.end();
+    };
+    if (!eventually(has_keyboard)) throw std::runtime_error("the program does not get the keyboard");
     if (!eventually([this] { return is_painted(); })) throw std::runtime_error("the window stays empty");
 }
 

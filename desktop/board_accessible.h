@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QAccessibleWidget>
+#include <QTimer>
+#include <map>
+#include <vector>
+
+#include "platform/form.h"
+
+namespace tarnwick {
+
+class BoardWidget;
+
+/// Makes boards known to screen readers and their like. Called once for the program; more often does no harm.
+void install_board_accessibility();
+
+/// The board as a screen reader sees it: a group of the widgets that its window describes, in their order,
+/// and the scroll bar. Its children are told apart by their widgets and live as long as the board.
+class BoardAccessible : public QAccessibleWidget {
+  public:
+    explicit BoardAccessible(BoardWidget& board);
+
+    bool isValid() const override;
+    int childCount() const override;
+    QAccessibleInterface* child(int index) const override;
+    int indexOfChild(const QAccessibleInterface* child) const override;
+    QAccessibleInterface* childAt(int x, int y) const override;
+
+    BoardWidget& board() const;
+    /// What the board shows now; nothing when its window is not loaded.
+    std::vector<BoardItem> items() const;
+
+    struct Change {
+        QAccessible::Event event;
+        QAccessibleInterface* subject;
+    };
+    /// What has changed since the last call, or since the board was first looked at. What comes into sight is
+    /// told as created, what goes as destroyed.
+    std::vector<Change> take_changes();
+
+  protected:
+    ~BoardAccessible() override;
+
+  private:
+    QAccessibleInterface* interface_of(const Widget& widget) const;
+
+    mutable std::map<const Widget*, QAccessible::Id> children_;  ///< made when they are first asked for
+    std::vector<BoardItem> told_;
+};
+
+/// Tells screen readers that a board has changed: a moment later, as a game changes it in many small steps.
+/// Costs nothing while there is no screen reader.
+class BoardNews : private QAccessible::ActivationObserver {
+  public:
+    explicit BoardNews(BoardWidget& board);
+    ~BoardNews() override;
+    BoardNews(const BoardNews&) = delete;
+    BoardNews& operator=(const BoardNews&) = delete;
+
+    void board_changed() {
+        if (wanted_ && !timer_.isActive()) timer_.start();
+    }
+
+  private:
+    void accessibilityActiveChanged(bool active) override { wanted_ = active; }
+
+    QTimer timer_;
+    bool wanted_;
+};
+
+}  // namespace tarnwick

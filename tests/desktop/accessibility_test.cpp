@@ -1,0 +1,245 @@
+#include <gtest/gtest.h>
+
+#include <QScrollBar>
+#include <chrono>
+
+#include "desktop/board_accessible.h"
+#include "state/variables.h"
+#include "tests/desktop/inner_game.h"
+#include "windows/frmFeatures.h"
+#include "windows/frmcards.h"
+
+namespace tarnwick {
+namespace {
+
+// The columns of this deal end in Q♦ 10♥ K♦ 6♠ A♣ 2♥ J♦ 9♣ 6♦ Q♣.
+constexpr std::uint32_t deal = 26;
+constexpr int column_of_ace = 4;
+
+// Longer than changes are collected before they are told.
+constexpr std::chrono::milliseconds news_time{400};
+
+void wait(std::chrono::milliseconds time) {
+    const auto end = std::chrono::steady_clock::now() + time;
+    comes_true([end] { return std::chrono::steady_clock::now() > end; });
+}
+
+class BoardAccessibility : public testing::Test {
+  protected:
+    QAccessibleInterface& board() const { return *QAccessible::queryAccessibleInterface(widget_); }
+
+    // The child that stands for a widget; null when there is none.
+    QAccessibleInterface* child_of(const Widget& widget) const {
+        const std::vector<BoardItem> items = frmcards.on_describe();
+        for (std::size_t i = 0; i < items.size(); ++i) {
+            if (items[i].widget == &widget) return board().child(static_cast<int>(i));
+        }
+        return nullptr;
+    }
+    QAccessibleInterface& image(int index) const { return *child_of(frmcards.Image1(index)); }
+    QAccessibleInterface& top_of(int column) const { return image(top_card(column).picture); }
+
+    // What the board has to tell, in words.
+    std::string changes() const {
+        std::string text;
+        for (const auto& [event, subject] : dynamic_cast<BoardAccessible&>(board()).take_changes()) {
+            if (event == QAccessible::ObjectCreated) text += "new: ";
+            if (event == QAccessible::ObjectDestroyed) text += "gone: ";
+            if (event == QAccessible::ObjectReorder) text += "order: ";
+            if (event == QAccessible::NameChanged) text += "name: ";
+            if (event == QAccessible::ValueChanged) text += "value: ";
+            text += subject->text(QAccessible::Name).toStdString() + "; ";
+        }
+        return text;
+    }
+
+    // Where a widget that the board shows whole lies on the screen.
+    QRect seen_at(const Widget& widget, int scrolled = 0) const {
+        const QRect place = to_qt(widget.place()).toAlignedRect();
+        return place.translated(widget_->mapToGlobal(QPoint(0, -scrolled)));
+    }
+
+    QWidget& widget() const { return *widget_; }
+
+  private:
+    InnerGame game_{deal};
+    QWidget* widget_ = shown_widget("board");
+};
+
+TEST_F(BoardAccessibility, HasAChildForEverythingThatIsSeen) {
+    const std::vector<BoardItem> items = frmcards.on_describe();
+    ASSERT_EQ(static_cast<std::size_t>(board().childCount()), items.size() + 1) << "and the scroll bar";
+    for (int i = 0; i < board().childCount(); ++i) {
+        QAccessibleInterface* child = board().child(i);
+        ASSERT_TRUE(child && child->isValid()) << i;
+        EXPECT_EQ(child->parent(), &board()) << i;
+        EXPECT_EQ(board().indexOfChild(child), i);
+        EXPECT_EQ(board().child(i), child) << "asked for again";
+    }
+    EXPECT_EQ(board().child(board().childCount()), nullptr);
+    EXPECT_EQ(board().child(-1), nullptr);
+
+    EXPECT_EQ(image(stock_image).text(QAccessible::Name), "stock, 45 cards face down");
+    for (int c = 0; c <= last_column; ++c) {
+        const QString column = "column " + QString::number(c + 1);
+        EXPECT_TRUE(top_of(c).text(QAccessible::Name).endsWith(column + ", on top")) << c;
+        for (int slot = 0; slot < column_top(c); ++slot) {
+            EXPECT_EQ(image(face_down_image(c, slot)).text(QAccessible::Name),
+                      "face-down card " + QString::number(slot + 1) + " of " + column);
+        }
+    }
+    EXPECT_EQ(top_of(0).text(QAccessible::Name), "Queen of Diamonds, column 1, on top");
+    EXPECT_EQ(top_of(9).text(QAccessible::Name), "Queen of Clubs, column 10, on top");
+}
+
+TEST_F(BoardAccessibility, KnowsWhereItsChildrenLie) {
+    for (const BoardItem& item : frmcards.on_describe()) {
+        QAccessibleInterface& child = *child_of(*item.widget);
+        const std::string& name = item.name;
+        if (item.widget->kind() == WidgetKind::image) {
+            EXPECT_EQ(child.rect(), seen_at(*item.widget)) << name;
+        } else {
+            EXPECT_TRUE(child.rect().contains(seen_at(*item.widget).center())) << name;
+        }
+        // The upper edge is what the next card of a column leaves free.
+        const QPoint spot(child.rect().center().x(), child.rect().top() + 6);
+        EXPECT_EQ(board().childAt(spot.x(), spot.y()), &child) << name;
+        EXPECT_FALSE(child.state().focusable || child.state().disabled || child.state().invisible ||
+                     child.state().offscreen)
+            << name;
+    }
+    const QRect zone = seen_at(frmcards.Image1(first_column_zone));
+    EXPECT_EQ(board().childAt(zone.center().x(), zone.bottom() - 20), nullptr) << "the bare table";
+    EXPECT_EQ(board().childAt(zone.left() - 1000, zone.top()), nullptr);
+}
+
+TEST_F(BoardAccessibility, ScrollsItsChildren) {
+    widget().window()->resize(900, 340);
+    auto* bar = widget().findChild<QScrollBar*>();
+    ASSERT_TRUE(comes_true([&] { return widget().height() < 340 && bar->maximum() > 0; }));
+    QAccessibleInterface& stock = image(stock_image);
+    QAccessibleInterface& lowest = top_of(9);
+    EXPECT_EQ(stock.rect(), seen_at(frmcards.Image1(stock_image)));
+    EXPECT_TRUE(lowest.state().offscreen || lowest.rect().bottom() > board().rect().bottom());
+    bar->setValue(bar->maximum());
+    const int scrolled = bar->value() / 4 * 4;
+    ASSERT_GT(scrolled, 0);
+    EXPECT_EQ(stock.rect(), seen_at(frmcards.Image1(stock_image), scrolled));
+    EXPECT_FALSE(lowest.state().offscreen);
+    EXPECT_LE(lowest.rect().bottom(), board().rect().bottom());
+    QAccessibleInterface& covered = image(face_down_image(9, 8));
+    const QPoint strip(covered.rect().center().x(), covered.rect().top() + 6);
+    EXPECT_EQ(board().childAt(strip.x(), strip.y()), &covered);
+    const QPoint at_bar = bar->mapToGlobal(bar->rect().center());
+    EXPECT_EQ(board().childAt(at_bar.x(), at_bar.y()), QAccessible::queryAccessibleInterface(bar));
+    press(image(stock_image));
+    EXPECT_TRUE(comes_true([] { return turned_slot() == 4; })) << "pressed where it cannot be seen";
+}
+
+TEST_F(BoardAccessibility, PlaysByPresses) {
+    press(image(stock_image));
+    EXPECT_TRUE(comes_true([] { return turned_slot() == 4; }));
+    press(image(stock_image));
+    EXPECT_TRUE(comes_true([] { return turned_slot() == 9; }));
+
+    press(image(face_down_image(5, 2)));
+    EXPECT_TRUE(comes_true([] { return peek_is_showing(); })) << "two clicks on a face-down card";
+
+    press(top_of(column_of_ace));
+    EXPECT_TRUE(comes_true([] { return !ace_pile_is_empty(0); }));
+    ASSERT_TRUE(comes_true([] { return !frmcards.Timer3.enabled(); })) << "the ace has arrived";
+    QAccessibleInterface& ace_of_clubs = image(ace_pile_card(0).picture);
+    EXPECT_EQ(ace_of_clubs.text(QAccessible::Name), "Ace of Clubs, ace pile 1, on top");
+    EXPECT_EQ(ace_of_clubs.actionInterface(), nullptr);
+}
+
+TEST_F(BoardAccessibility, RefusesPressesThatTheMouseCouldNotMake) {
+    QAccessibleInterface& stock = image(stock_image);
+    press(stock);
+    frmcards.mnuSetings.choose();
+    ASSERT_TRUE(frmFeatures.visible());
+    EXPECT_TRUE(stock.state().disabled);
+    settle();
+    EXPECT_EQ(turned_slot(), -1) << "asked for before the dialog opened";
+    press(stock);
+    settle();
+    EXPECT_EQ(turned_slot(), -1) << "and while it is open";
+    frmFeatures.cmdCancel.click();
+    settle();
+
+    const Image& ace = frmcards.Image1(top_card(column_of_ace).picture);
+    frmcards.mouse().press(ace.left() + 30, ace.top() + 40);
+    ASSERT_TRUE(frmcards.mouse().dragged());
+    press(stock);
+    settle();
+    EXPECT_EQ(turned_slot(), -1) << "during a drag";
+    EXPECT_EQ(frmcards.mouse().dragged(), &ace);
+    frmcards.mouse().cancel();
+
+    press(stock);
+    EXPECT_TRUE(comes_true([] { return turned_slot() == 4; })) << "free again";
+}
+
+TEST_F(BoardAccessibility, TellsWhatChanges) {
+    QAccessibleInterface& score = *child_of(frmcards.LblScore);
+    EXPECT_EQ(score.text(QAccessible::Name), "Score: 0 of 200");
+    ASSERT_TRUE(score.valueInterface());
+    EXPECT_EQ(score.valueInterface()->currentValue(), 0);
+    EXPECT_EQ(score.valueInterface()->maximumValue(), 200);
+    press(image(stock_image));
+    ASSERT_TRUE(comes_true([] { return turned_slot() == 4; }));
+    EXPECT_EQ(changes(), "name: stock, 40 cards face down; new: 10 of Spades, turned card; ");
+    press(image(stock_image));
+    ASSERT_TRUE(comes_true([] { return turned_slot() == 9; }));
+    EXPECT_EQ(changes(), "gone: ; name: stock, 35 cards face down; new: 4 of Spades, turned card; ");
+
+    // A point for the ace, and one for the card that it lay on. Its back and the empty pile are gone.
+    press(top_of(column_of_ace));
+    ASSERT_TRUE(comes_true([] { return !ace_pile_is_empty(0); }));
+    EXPECT_EQ(
+        changes(),
+        "gone: ; gone: ; name: Ace of Clubs, ace pile 1, on top; new: Queen of Spades, column 5, on top; "
+        "name: Score: 2 of 200; value: Score: 2 of 200; order: Card table; ");
+    EXPECT_EQ(score.valueInterface()->currentValue(), 2);
+    EXPECT_EQ(score.text(QAccessible::Value), "2");
+    EXPECT_EQ(changes(), "") << "they are told once";
+}
+
+// What was told meanwhile is not told again.
+TEST_F(BoardAccessibility, TellsChangesOnlyWhileSomebodyListens) {
+    board();
+    press(image(stock_image));
+    ASSERT_TRUE(comes_true([] { return turned_slot() == 4; }));
+    wait(news_time);
+    EXPECT_NE(changes(), "") << "nobody listens";
+    QAccessible::setActive(true);
+    press(image(stock_image));
+    ASSERT_TRUE(comes_true([] { return turned_slot() == 9; }));
+    wait(news_time);
+    EXPECT_EQ(changes(), "") << "told already";
+    QAccessible::setActive(false);
+}
+
+TEST_F(BoardAccessibility, IsGoneWithItsWindow) {
+    QAccessibleInterface& whole = board();
+    QAccessibleInterface& stock = image(stock_image);
+    QAccessibleInterface& back = image(face_down_image(4, 3));
+    press(top_of(column_of_ace));
+    ASSERT_TRUE(comes_true([] { return !ace_pile_is_empty(0); }));
+    EXPECT_TRUE(back.state().invisible) << "it is turned up";
+    EXPECT_EQ(back.text(QAccessible::Name), "");
+    EXPECT_EQ(whole.indexOfChild(&back), -1);
+
+    press(stock);
+    frmcards.unload();
+    EXPECT_FALSE(whole.isValid() || stock.isValid());
+    EXPECT_LE(whole.childCount(), 1) << "no more than the scroll bar";
+    EXPECT_EQ(stock.text(QAccessible::Name), "");
+    EXPECT_EQ(stock.rect(), QRect());
+    EXPECT_EQ(whole.childAt(100, 100), nullptr);
+    settle();
+    EXPECT_EQ(shown_widget("board"), nullptr);
+}
+
+}  // namespace
+}  // namespace tarnwick

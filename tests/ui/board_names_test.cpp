@@ -1,0 +1,109 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "notation/position_text.h"
+#include "state/variables.h"
+#include "tools/driver/play.h"
+#include "windows/frmcards.h"
+
+namespace tarnwick {
+namespace {
+
+// The names of all items in their order, with a semicolon after each.
+std::string names() {
+    std::string text;
+    for (const BoardItem& item : frmcards.on_describe()) text += item.name + "; ";
+    return text;
+}
+
+const BoardItem* item_of(const std::vector<BoardItem>& items, const Widget& widget) {
+    const auto item =
+        std::find_if(items.begin(), items.end(), [&](const BoardItem& i) { return i.widget == &widget; });
+    return item == items.end() ? nullptr : &*item;
+}
+
+std::string name_of(const Widget& widget) {
+    const std::vector<BoardItem> items = frmcards.on_describe();
+    const BoardItem* item = item_of(items, widget);
+    return item ? item->name : "-";
+}
+
+TEST(BoardNames, TellEveryPileInReadingOrder) {
+    Play play;
+    play.start(
+        "0: K♠ Q♥ J♠\n2: [..] 7♦\nace 0: A♠\nace 2: A♥ 2♥ 2♥' 3♥\ntablet: 4♣ (5♦) 6♠ 8♣ 9♦\nscore: 12");
+    EXPECT_EQ(names(),
+              "stock, 3 cards face down; 5 of Diamonds, turned card; "
+              "Ace of Spades, ace pile 1, on top; empty ace pile 2; "
+              "3 of Hearts, ace pile 3, on top; 2 of Hearts, ace pile 3; empty ace pile 4; "
+              "Jack of Spades, column 1, on top; Queen of Hearts, column 1; King of Spades, column 1; "
+              "empty column 2; "
+              "7 of Diamonds, column 3, on top; face-down card 2 of column 3; face-down card 1 of column 3; "
+              "empty column 4; empty column 5; empty column 6; empty column 7; empty column 8; "
+              "empty column 9; empty column 10; Score: 12 of 200; ");
+}
+
+// Whatever happens in a game, an item is told for each image that the player sees, and for no other.
+TEST(BoardNames, BelongToWhatIsSeen) {
+    Play play;
+    play.start(26);
+    const auto faults = [] {
+        const std::vector<BoardItem> items = frmcards.on_describe();
+        std::string text;
+        frmcards.Image1.for_each([&](const Image& image) {
+            const bool zone = image.index() >= first_column_zone && image.index() < first_face_down_image;
+            const bool pile_zone = image.index() >= first_ace_zone && image.index() < empty_waste_image;
+            if (zone || pile_zone) return;
+            const bool told = item_of(items, image) != nullptr;
+            if (told != image.visible())
+                text += std::to_string(image.index()) + (told ? " told " : " untold ");
+        });
+        return text;
+    };
+    EXPECT_EQ(faults(), "") << "dealt";
+    for (int turn = 1; turn <= 10; ++turn) {
+        play.click_stock();
+        EXPECT_EQ(faults(), "") << "turn " << turn;
+    }
+    play.click(4);
+    EXPECT_EQ(faults(), "") << "a card slides";
+    play.desktop.advance(1000);
+    EXPECT_EQ(faults(), "") << "and has arrived";
+    play.drag(6, 9);
+    EXPECT_EQ(faults(), "") << "a card was turned up";
+}
+
+TEST(BoardNames, FollowTheGame) {
+    Play play;
+    play.start(26);
+    const Image& stock = frmcards.Image1(stock_image);
+    EXPECT_EQ(name_of(stock), "stock, 45 cards face down");
+    play.click_stock();
+    EXPECT_EQ(name_of(stock), "stock, 40 cards face down");
+    play.click_stock(8);
+    EXPECT_EQ(name_of(stock), "stock, all cards turned");
+
+    const Image& covered = frmcards.Image1(face_down_image(5, 2));
+    EXPECT_EQ(name_of(covered), "face-down card 3 of column 6");
+    play.double_click(covered);
+    EXPECT_TRUE(name_of(covered).ends_with(", face-down card 3 of column 6")) << "peeked at";
+    play.desktop.advance(1500);
+    EXPECT_EQ(name_of(covered), "face-down card 3 of column 6");
+}
+
+TEST(BoardNames, SayHowManyClicksAct) {
+    Play play;
+    play.start("0: K♠ Q♥\n1: [..] 2♣\nace 0: A♠\ntablet: (4♣) ..");
+    const std::vector<BoardItem> items = frmcards.on_describe();
+    const auto clicks = [&](int image) { return item_of(items, frmcards.Image1(image))->clicks; };
+    EXPECT_EQ(clicks(stock_image), 1);
+    EXPECT_EQ(clicks(turned_card().picture), 1);
+    EXPECT_EQ(clicks(top_card(0).picture), 1);
+    EXPECT_EQ(clicks(face_down_image(1, 0)), 2);
+    EXPECT_EQ(clicks(ace_of_spades_image), 0) << "cards leave the ace piles only by a drag";
+    EXPECT_EQ(clicks(first_column_zone + 2), 0);
+}
+
+}  // namespace
+}  // namespace tarnwick

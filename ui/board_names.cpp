@@ -1,0 +1,105 @@
+#include <array>
+#include <string>
+#include <vector>
+
+#include "state/variables.h"
+#include "ui/handlers.h"
+#include "windows/frmcards.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr int most_points = 200;
+
+constexpr std::array rank_names{"Ace", "2", "3", "4", "5", "6", "7", "8", "9", "10", "Jack", "Queen", "King"};
+constexpr std::array suit_names{"Hearts", "Spades", "Diamonds", "Clubs"};
+
+std::string name_of(int rank, int suit) {
+    return std::string(rank_names.at(static_cast<std::size_t>(rank))) + " of " +
+           suit_names.at(static_cast<std::size_t>(suit));
+}
+
+// Piles are counted from 1 for the player.
+std::string column_name(int c) { return "column " + std::to_string(c + 1); }
+std::string ace_pile_name(int p) { return "ace pile " + std::to_string(p + 1); }
+
+// Collects the images that can be seen, or at least clicked.
+class Description {
+  public:
+    void add(int image, const std::string& name, int clicks) {
+        const Image& widget = frmcards.Image1(image);
+        if (widget.visible()) items_.push_back({&widget, name, clicks});
+    }
+
+    void add_score() {
+        const std::string name = "Score: " + std::to_string(score) + " of " + std::to_string(most_points);
+        items_.push_back({&frmcards.LblScore, name, 0, score, most_points});
+    }
+
+    std::vector<BoardItem> items() && { return std::move(items_); }
+
+  private:
+    std::vector<BoardItem> items_;
+};
+
+std::string stock_name() {
+    const int face_down = last_tablet_slot() - turned_slot();
+    if (face_down == 0) return "stock, all cards turned";
+    return "stock, " + std::to_string(face_down) + (face_down == 1 ? " card" : " cards") + " face down";
+}
+
+void describe_tablet(Description& board) {
+    board.add(stock_image, stock_name(), 1);
+    if (turned_slot() == -1) return;
+    const Card card = turned_card();
+    board.add(card.picture, name_of(card.rank, card.suit) + ", turned card", 1);
+}
+
+void describe_ace_pile(Description& board, int p) {
+    if (ace_pile_is_empty(p)) {
+        board.add(first_ace_zone + p, "empty " + ace_pile_name(p), 0);
+        return;
+    }
+    const Card card = ace_pile_card(p);
+    board.add(card.picture, name_of(card.rank, card.suit) + ", " + ace_pile_name(p) + ", on top", 0);
+    if (ace_pile_holds_one_card(p)) return;
+    board.add(aces(p, beneath_picture_field),
+              name_of(aces(p, beneath_rank_field), card.suit) + ", " + ace_pile_name(p), 0);
+}
+
+// While it is peeked at, a face-down card tells what it is.
+std::string face_down_name(int c, int slot) {
+    const bool is_peeked_at = animation(peeked_image) == peek_mark + face_down_image(c, slot);
+    const Card card = column_card(c, slot);
+    return (is_peeked_at ? name_of(card.rank, card.suit) + ", " : "") + "face-down card " +
+           std::to_string(slot + 1) + " of " + column_name(c);
+}
+
+// From the top card down: what can be played comes first.
+void describe_column(Description& board, int c) {
+    if (column_is_empty(c)) board.add(first_column_zone + c, "empty " + column_name(c), 0);
+    for (int slot = column_top(c); slot >= 0; --slot) {
+        if (layout(c, slot, face_down_field) == 1) {
+            board.add(face_down_image(c, slot), face_down_name(c, slot), 2);
+            continue;
+        }
+        const Card card = column_card(c, slot);
+        const char* on_top = slot == column_top(c) ? ", on top" : "";
+        board.add(card.picture, name_of(card.rank, card.suit) + ", " + column_name(c) + on_top, 1);
+    }
+}
+
+std::vector<BoardItem> describe() {
+    Description board;
+    describe_tablet(board);
+    for (int p = 0; p <= 3; ++p) describe_ace_pile(board, p);
+    for (int c = 0; c <= last_column; ++c) describe_column(board, c);
+    board.add_score();
+    return std::move(board).items();
+}
+
+}  // namespace
+
+void attach_board_names() { frmcards.on_describe = describe; }
+
+}  // namespace tarnwick
