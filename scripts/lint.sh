@@ -4,7 +4,7 @@
 set -u
 cd "$(dirname "$0")/.." || exit 1
 status=0
-git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror || status=1
+scripts/format.sh --check || status=1
 # Without precompiled headers: those of one compiler are nothing to another.
 cmake --preset release -B build-lint -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev/null || exit 1
 git ls-files '*.cpp' ':!tools/contact_sheet' ':!tests/faults' ':!bench' | xargs -P "$(nproc)" -n 4 \

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 """Do the tests notice when the game is wrong? Changes the program in one place at a time and runs the tests.
 
-    python3 scripts/mutate.py [FOLDER]
+    python3 scripts/mutate.py [--only FILE] [--check] [FOLDER]
 
-Works on a copy of the tree in FOLDER (build/mutate unless named), builds it again after each change, and
+--only changes one file, as game/undo.cpp; --check only says whether all the places to change are still there. Works on a copy of the tree in FOLDER (build/mutate unless named), builds it again after each change, and
 prints which changes the tests caught. Ends with 1 when one survived.
 """
 
@@ -218,8 +218,13 @@ def check_table():
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("folder", nargs="?", default=ROOT / "build" / "mutate", type=pathlib.Path)
-    folder = parser.parse_args().folder.resolve()
+    parser.add_argument("--only", choices=sorted(MUTATIONS), help="the file to change")
+    parser.add_argument("--check", action="store_true", help="look for the places only")
+    arguments = parser.parse_args()
+    folder = arguments.folder.resolve()
     check_table()
+    if arguments.check:
+        return 0
 
     tree, binaries = folder / "tree", folder / "build"
     copy_tree(tree)
@@ -237,6 +242,7 @@ def main():
 
     survivors = 0
     mutations = [(file, *row) for file, rows in MUTATIONS.items() for row in rows]
+    mutations = [row for row in mutations if arguments.only in (None, row[0])]
     for file, old, new, note in mutations:
         original = (tree / file).read_text(encoding="utf-8")
         (tree / file).write_text(original.replace(old, new), encoding="utf-8")
