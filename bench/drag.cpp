@@ -1,7 +1,7 @@
 // How soon the screen shows a card that is dragged, how much of the processor a move of the pointer costs,
 // and both once more for a rectangle that a program without a toolkit drags. On the display in use.
 //
-//     drag [SCALE]      SCALE device pixels for a pixel of the board
+//     drag [SCALE [ROUNDS]]      SCALE device pixels for a pixel of the board
 
 #include <X11/Xlib.h>
 #include <X11/extensions/XTest.h>
@@ -21,7 +21,7 @@ namespace {
 
 using namespace tarnwick;
 
-constexpr int rounds = 5;
+constexpr int usual_rounds = 5;
 constexpr int moves = 60;
 constexpr int flood_moves = 5000;
 constexpr std::uint32_t deal = 26;
@@ -126,6 +126,7 @@ void measure_yardstick(const XPlace& card, Figures& figures) {
 int main(int argc, char** argv) {
     try {
         const int scale = argc > 1 ? std::atoi(argv[1]) : 1;
+        const int rounds = argc > 2 ? std::atoi(argv[2]) : usual_rounds;
         Figures game;
         Figures yardstick;
         XPlace card;

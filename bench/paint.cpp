@@ -37,6 +37,9 @@ class Board {
 
     BoardPainter& painter() { return painter_; }
 
+    /// One colour and nothing else: the yardstick.
+    void fill() { image(frmcards.client_size()).fill(Qt::darkGreen); }
+
     void paint() {
         const PixelSize size = frmcards.client_size();
         QPainter painter(&image(size));
@@ -77,7 +80,11 @@ int main(int argc, char** argv) {
     board.paint();
 
     std::vector<double> full;
-    for (int round = 0; round < rounds; ++round) full.push_back(milliseconds([&] { board.paint(); }));
+    std::vector<double> fill;
+    for (int round = 0; round < rounds; ++round) {
+        full.push_back(milliseconds([&] { board.paint(); }));
+        fill.push_back(milliseconds([&] { board.fill(); }));
+    }
     std::vector<double> relayout;
     std::vector<double> hasty;
     board.painter().pictures().begin_haste();
@@ -93,6 +100,7 @@ int main(int argc, char** argv) {
     }
     std::cout << "relayout_ms " << median(relayout) << '\n'
               << "full_paint_ms " << median(full) << '\n'
+              << "full_paint_ratio " << median(full) / median(fill) << '\n'
               << "resize_paint_ms " << median(hasty) << '\n'
               << "sharp_paint_ms " << median(sharp) << '\n';
     return EXIT_SUCCESS;
