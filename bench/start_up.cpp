@@ -21,13 +21,17 @@
 #include <thread>
 #include <vector>
 
+#include "bench/screen_watch.h"
+
 namespace {
 
+using namespace tarnwick;
 using Clock = std::chrono::steady_clock;
 using Command = std::vector<std::string>;
 
 struct Figures {
     std::vector<double> milliseconds;
+    std::vector<double> processor;
     std::vector<double> kibibytes;
 };
 
@@ -81,18 +85,15 @@ bool measure(Display* display, const Command& command, Figures& figures) {
     const std::chrono::duration<double, std::milli> time = Clock::now() - begin;
     std::this_thread::sleep_for(std::chrono::milliseconds(300));
     const double memory = proportional_set_size(child);
+    const double processor = usage_of(child).milliseconds;
     kill(child, SIGTERM);
     waitpid(child, nullptr, 0);
     if (!painted || !wait_for_colour(display, bare, true)) return false;
     std::this_thread::sleep_for(std::chrono::milliseconds(100));
     figures.milliseconds.push_back(time.count());
+    figures.processor.push_back(processor);
     figures.kibibytes.push_back(memory);
     return true;
-}
-
-double median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
 }
 
 }  // namespace
@@ -121,10 +122,13 @@ int main(int argc, char** argv) {
     const double time_yardstick = median(yardstick_figures.milliseconds);
     const double memory = median(program_figures.kibibytes);
     const double memory_yardstick = median(yardstick_figures.kibibytes);
-    std::cout << "painted after " << time << " ms, yardstick " << time_yardstick << " ms, ratio "
-              << time / time_yardstick << '\n'
-              << "memory " << memory << " KiB, yardstick " << memory_yardstick << " KiB, ratio "
-              << memory / memory_yardstick << '\n';
+    std::cout << "start_ms " << time << '\n'
+              << "start_yardstick_ms " << time_yardstick << '\n'
+              << "start_ratio " << time / time_yardstick << '\n'
+              << "start_processor_ms " << median(program_figures.processor) << '\n'
+              << "start_yardstick_processor_ms " << median(yardstick_figures.processor) << '\n'
+              << "memory_kib " << memory << '\n'
+              << "memory_ratio " << memory / memory_yardstick << '\n';
     XCloseDisplay(display);
     return 0;
 }

@@ -230,8 +230,7 @@ void BoardPainter::paint_lifted(QPainter& painter, const QRegion& area, qreal ra
 }
 
 void BoardPainter::paint_sprite(QPainter& painter, const Sprite& sprite) {
-    painter.drawPixmap(sprite.place.topLeft(),
-                       pictures_.pixmap(sprite.image->picture(), sprite.place.size()));
+    painter.drawPixmap(sprite.place, pictures_.pixmap(sprite.image->picture(), sprite.place.size()));
     if (!sprite.image->bordered()) return;
     painter.setPen(QPen(Qt::black, 1));
     painter.drawRect(QRectF(sprite.place).adjusted(0.5, 0.5, -0.5, -0.5));

@@ -1,5 +1,6 @@
 #include "desktop/board_widget.h"
 
+#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -18,6 +19,8 @@ constexpr int scroll_step = 48;
 constexpr int edge_reach = 24;
 constexpr int edge_scroll_step = 12;
 constexpr int edge_scroll_time = 25;
+// A size that has not changed for so many milliseconds has settled.
+constexpr int settling_time = 100;
 // The board is scrolled by whole device pixels at every scale in quarters.
 constexpr int scroll_grain = 4;
 
@@ -126,6 +129,11 @@ int BoardWidget::edge_ahead() const {
 }
 
 void BoardWidget::timerEvent(QTimerEvent* event) {
+    if (event->timerId() == settling_.timerId()) {
+        settling_.stop();
+        if (painter_.pictures().end_haste()) repaint_all();
+        return;
+    }
     if (event->timerId() != edge_scroll_.timerId()) return QWidget::timerEvent(event);
     scroll_bar_.setValue(scroll_bar_.value() + edge_ahead() * edge_scroll_step);
     move_pointer(pointer_);
@@ -165,7 +173,8 @@ void BoardWidget::showEvent(QShowEvent* event) {
 }
 
 void BoardWidget::resizeEvent(QResizeEvent*) {
-    painter_.pictures().drop_unused_sizes();
+    painter_.pictures().begin_haste();
+    settling_.start(settling_time, this);
     glide_.end();
     repaint_all();
     const int bar_width = scroll_bar_.sizeHint().width();
@@ -197,6 +206,10 @@ void BoardWidget::update_scrolling() {
 bool BoardWidget::event(QEvent* event) {
     if (event->type() == QEvent::UngrabMouse || event->type() == QEvent::Hide) form_.mouse().cancel();
     if (event->type() == QEvent::FontChange) update_label_scale();
+    // The board looks the same with the keyboard and without: no need to paint it as a widget does by itself.
+    if (event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate) {
+        return scroll_bar_.isHidden() || QCoreApplication::sendEvent(&scroll_bar_, event);
+    }
     return QWidget::event(event);
 }
 
@@ -249,9 +262,8 @@ void BoardWidget::keyPressEvent(QKeyEvent* event) {
     event->setAccepted(code != 0 && form_.key_down(code));
 }
 
-void BoardWidget::focusOutEvent(QFocusEvent* event) {
-    form_.mouse().cancel();
-    QWidget::focusOutEvent(event);
-}
+// Nor do these paint.
+void BoardWidget::focusInEvent(QFocusEvent*) {}
+void BoardWidget::focusOutEvent(QFocusEvent*) { form_.mouse().cancel(); }
 
 }  // namespace tarnwick

@@ -39,6 +39,7 @@ class BoardWidget : public QWidget {
     void showEvent(QShowEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
@@ -66,6 +67,7 @@ class BoardWidget : public QWidget {
     QPointF pointer_;      ///< where the pointer was last seen, in the widget
     BoardNews news_{*this};
     QBasicTimer edge_scroll_;  ///< runs while a drag is held at an edge beyond which there is more
+    QBasicTimer settling_;     ///< runs while the size changes, and a moment after
     qreal label_scale_ = 1;
     int offset_ = 0;    ///< how far the board is scrolled down, in pixels
     int repaints_ = 0;  ///< rectangles since the board was last painted

@@ -30,16 +30,33 @@ QPixmap render_picture(Picture picture, QSize size) {
 }
 
 const QPixmap& PictureCache::pixmap(Picture picture, QSize size) {
-    Sheet& sheet = sheets_[{size.width(), size.height()}];
-    sheet.used = true;
-    const auto found = sheet.pixmaps.find(picture.number);
-    if (found != sheet.pixmaps.end()) return found->second;
-    return sheet.pixmaps.emplace(picture.number, render_picture(picture, size)).first->second;
+    const Size wanted(size.width(), size.height());
+    if (const QPixmap* kept = find(picture, wanted)) return *kept;
+    if (in_haste_) {
+        for (const auto& [other, sheet] : sheets_) {
+            const QPixmap* kept = find(picture, other);
+            if (!kept) continue;
+            handed_out_another_size_ = true;
+            return *kept;
+        }
+    }
+    return sheets_[wanted].pixmaps.emplace(picture.number, render_picture(picture, size)).first->second;
 }
 
-void PictureCache::drop_unused_sizes() {
+const QPixmap* PictureCache::find(Picture picture, Size size) {
+    const auto sheet = sheets_.find(size);
+    if (sheet == sheets_.end()) return nullptr;
+    const auto found = sheet->second.pixmaps.find(picture.number);
+    if (found == sheet->second.pixmaps.end()) return nullptr;
+    sheet->second.used = true;
+    return &found->second;
+}
+
+bool PictureCache::end_haste() {
     std::erase_if(sheets_, [](const auto& entry) { return !entry.second.used; });
     for (auto& [size, sheet] : sheets_) sheet.used = false;
+    in_haste_ = false;
+    return std::exchange(handed_out_another_size_, false);
 }
 
 }  // namespace tarnwick

@@ -17,20 +17,30 @@ QPixmap render_picture(Picture picture, QSize size);
 QImage render_drawing(const QString& name, QSize size = {}, qreal scale = 1);
 
 /// Keeps rendered pictures: each is drawn when it is first asked for in a size, and kept from then on.
+/// To draw takes far longer than to scale, so a cache in haste hands out what it has in any other size.
 class PictureCache {
   public:
-    /// The picture at a size in device pixels.
+    /// The picture at a size in device pixels; in haste possibly at another one.
     const QPixmap& pixmap(Picture picture, QSize size);
 
-    /// Drops the sizes that nobody has asked for since the last call. Called when sizes change.
-    void drop_unused_sizes();
+    /// From now on sizes change often.
+    void begin_haste() { in_haste_ = true; }
+    /// The sizes have settled: drops those that nobody has asked for since the last call. True when a picture
+    /// was handed out at another size than asked for since haste began.
+    bool end_haste();
 
   private:
+    using Size = std::pair<int, int>;
     struct Sheet {
         std::map<int, QPixmap> pixmaps;
         bool used = true;
     };
-    std::map<std::pair<int, int>, Sheet> sheets_;
+
+    const QPixmap* find(Picture picture, Size size);
+
+    std::map<Size, Sheet> sheets_;
+    bool in_haste_ = false;
+    bool handed_out_another_size_ = false;
 };
 
 }  // namespace tarnwick

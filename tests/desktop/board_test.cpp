@@ -1,9 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <sstream>
+
+#include "desktop/picture_cache.h"
 #include "state/variables.h"
 #include "tools/driver/board_picture.h"
 #include "tools/driver/eventually.h"
 #include "windows/frmcards.h"
+#include "windows/pictures.h"
 
 namespace tarnwick {
 namespace {
@@ -32,6 +36,30 @@ TEST(Board, IsThereFromTheStart) {
     const XPlace screen = game.screen().screen();
     EXPECT_TRUE(window.x >= 0 && window.x + window.width <= screen.width) << window.x;
     EXPECT_TRUE(window.y >= 0 && window.y + window.height <= screen.height) << window.y;
+}
+
+// How often the board was painted, by the toolkit's own account.
+long paintings_of_the_board(const std::string& log) {
+    std::istringstream lines(log);
+    long count = 0;
+    for (std::string line; std::getline(lines, line);) {
+        const bool of_the_board = line.find("name=\"board\") at") != std::string::npos;
+        if (of_the_board && line.find(": Drawing ") != std::string::npos) ++count;
+    }
+    return count;
+}
+
+TEST(Board, IsPaintedOnceAtTheStart) {
+    TwinGame game({.program = program,
+                   .deal = deal,
+                   .settings = {},
+                   .environment = {{"QT_LOGGING_RULES", "qt.widgets.painting=true"},
+                                   {"QT_FORCE_STDERR_LOGGING", "1"}}});
+    EXPECT_EQ(board_faults(game), "");
+    // A key's effect is painted after all that the start has left to be painted.
+    game.space();
+    EXPECT_EQ(board_faults(game), "");
+    EXPECT_EQ(paintings_of_the_board(game.program().errors()), 2) << "the start, and the turned card";
 }
 
 TEST(Board, TurnsTheTabletOnceForEveryClick) {
@@ -78,6 +106,33 @@ TEST(Board, FollowsTheSizeOfTheWindow) {
         EXPECT_EQ(frmcards.client_size().width, width);
         EXPECT_EQ(board_faults(game), "") << width;
     }
+}
+
+TEST(Board, ScaledCardsAreSharpOnceTheSizeHasSettled) {
+    TwinGame game({program, deal});
+    for (int step = 0; step < 20; ++step) game.resize(1000 + 7 * step, 800 + 5 * step);
+    EXPECT_EQ(board_faults(game), "");
+    // Nor does one that was turned in between stay behind.
+    game.resize(1100, 900);
+    game.space();
+    EXPECT_EQ(board_faults(game), "");
+}
+
+TEST(PictureCache, ScalesOnlyInHasteAndOnlyWhatItHas) {
+    const Picture lower = face_picture(hearts, king - 1);
+    const Picture highest = face_picture(hearts, king);
+    const QSize small(71, 96);
+    const QSize large(142, 192);
+    PictureCache pictures;
+    pictures.pixmap(lower, small);
+    pictures.begin_haste();
+    EXPECT_EQ(pictures.pixmap(lower, large).size(), small);
+    EXPECT_EQ(pictures.pixmap(highest, large).size(), large) << "there is nothing to scale";
+    EXPECT_TRUE(pictures.end_haste());
+    EXPECT_EQ(pictures.pixmap(lower, large).size(), large);
+    pictures.begin_haste();
+    EXPECT_EQ(pictures.pixmap(lower, large).size(), large);
+    EXPECT_FALSE(pictures.end_haste()) << "every picture was sharp";
 }
 
 TEST(Board, ComesBackFromBeingMinimised) {
