@@ -18,7 +18,8 @@ bool card_builds_on(const Card& card, const Card& below) {
 // What the search for the card to move finds for one card of the source column.
 enum class Found { nothing, run, exchange };
 
-Found move_for_card(int source, int i, int c) {
+// Inline, as a refused drop does little else.
+inline Found move_for_card(int source, int i, int c) {
     const bool face_up = layout(source, i, face_down_field) == 0;
     const Card card = column_card(source, i);
     if (!face_up || card.rank != king) {

@@ -30,6 +30,13 @@ bool is_sliding(const Image& image) {
     return frmcards.Timer3.enabled() && image.index() == animation(sliding_picture);
 }
 
+int pile_of(const Image& source) {
+    if (is_sliding(source)) return first_ace_pile + animation(slide_pile);
+    if (source.top() != static_cast<float>(top_row)) return column_at(source.left());
+    if (source.left() < tablet_source_limit * x_scale) return tablet_pile;
+    return ace_pile_at(source.left());
+}
+
 // The column that is tried when column c refuses a drop.
 int neighbour_in_reach(int c, float x_pixels) {
     if (x_pixels < left_neighbour_limit && c > 0) return c - 1;
@@ -50,13 +57,6 @@ bool move_automatically(const Card& card) {
 
 }  // namespace
 
-int pile_of(const Image& source) {
-    if (is_sliding(source)) return first_ace_pile + animation(slide_pile);
-    if (source.top() != static_cast<float>(top_row)) return column_at(source.left());
-    if (source.left() < tablet_source_limit * x_scale) return tablet_pile;
-    return ace_pile_at(source.left());
-}
-
 int ace_pile_for(const Card& card) {
     for (int k = 0; k <= 3; ++k) {
         if (card.rank == ace ? ace_pile_is_empty(k) : aces(k, suit_field) == card.suit) return k;
@@ -64,26 +64,27 @@ int ace_pile_for(const Card& card) {
     return none;
 }
 
-DropTargets targets_of_drop(const Image& target, const Image& source, float x) {
+Drop drop_of(const Image& source, const Image& target, float x) {
     const int from = pile_of(source);
     if (target.top() >= column_area_top) {
         // A click on a card in flight is no move to the column that it happens to pass.
-        if (&target == &source && is_sliding(source)) return {from};
+        if (&target == &source && is_sliding(source)) return {from, from};
         const int c = column_at(target.left());
-        return {c, neighbour_in_reach(c, x / twips_per_pixel)};
+        return {from, c, neighbour_in_reach(c, x / twips_per_pixel)};
     }
     if (target.left() > tablet_target_limit * x_scale) {
         // A card in flight passes places that belong to no pile.
-        return {is_sliding(target) ? first_ace_pile + animation(slide_pile) : ace_pile_at(target.left())};
+        return {from,
+                is_sliding(target) ? first_ace_pile + animation(slide_pile) : ace_pile_at(target.left())};
     }
-    return {from == tablet_pile ? tablet_pile : none};
+    return {from, from == tablet_pile ? tablet_pile : none};
 }
 
 void drop_on_image(int index, const Image& source, float x) {
-    const DropTargets targets = targets_of_drop(frmcards.Image1(index), source, x);
-    drag_source = pile_of(source);
-    const bool moved = targets.first != none && column_to_column(targets.first);
-    if (!moved && targets.second != none) column_to_column(targets.second);
+    const Drop drop = drop_of(source, frmcards.Image1(index), x);
+    drag_source = drop.source;
+    const bool moved = drop.first != none && column_to_column(drop.first);
+    if (!moved && drop.second != none) column_to_column(drop.second);
     settle_landed_win();
 }
 

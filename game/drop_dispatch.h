@@ -6,16 +6,17 @@
 
 namespace tarnwick {
 
-/// The pile that image `source`, being dragged or dropped, belongs to.
-int pile_of(const Image& source);
-
-/// The piles that a drop offers its card to, one after the other until one takes it; `none` for no pile.
-struct DropTargets {
+/// What a drop asks for: a card of pile `source` is offered to `first` and, if that refuses it, to `second`.
+/// `none` stands for no pile.
+struct Drop {
+    int source = none;
     int first = none;
     int second = none;
 };
+
+/// What it means to drop image `source` on image `target`.
 /// @param x  the pointer's distance from the left edge of the image dropped on, in twips
-DropTargets targets_of_drop(const Image& target, const Image& source, float x);
+Drop drop_of(const Image& source, const Image& target, float x);
 
 /// The ace pile, 0 to 3, that an automatic move tries; none when there is no such pile.
 int ace_pile_for(const Card& card);

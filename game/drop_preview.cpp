@@ -39,10 +39,9 @@ bool takes(int pile, int from) {
 }  // namespace
 
 int receiver_of_drop(const Image& target, const Image& source, float x) {
-    const int from = pile_of(source);
+    const auto [from, first, second] = drop_of(source, target, x);
     if (!has_card(from)) return none;
-    const DropTargets targets = targets_of_drop(target, source, x);
-    for (const int pile : {targets.first, targets.second}) {
+    for (const int pile : {first, second}) {
         if (pile == none) continue;
         if (pile == from && is_sent_up(from)) return none;
         if (pile != from && takes(pile, from)) return pile;

@@ -12,15 +12,15 @@ namespace tarnwick {
 namespace {
 
 Action drag_of(int target, const Image& source, float x) {
-    const DropTargets targets = targets_of_drop(frmcards.Image1(target), source, x);
+    const Drop drop = drop_of(source, frmcards.Image1(target), x);
     Action action;
     action.kind = ActionKind::drag;
-    action.source = pile_of(source);
-    action.target = targets.first;
+    action.source = drop.source;
+    action.target = drop.first;
     // Cards may be scaled on the player's screen: all that counts of the place is which neighbour it is near
     // to.
-    if (targets.second != none) {
-        action.offset = targets.second < targets.first ? Action::near_left_edge : Action::near_right_edge;
+    if (drop.second != none) {
+        action.offset = drop.second < drop.first ? Action::near_left_edge : Action::near_right_edge;
     }
     return action;
 }

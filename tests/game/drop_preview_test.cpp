@@ -49,9 +49,9 @@ TEST(DropPreview, ForetellsEveryDropOfRandomGames) {
         const std::string before = position_text();
         const int foretold = receiver_of_drop(target, source, x);
         ASSERT_EQ(position_text(), before) << "looking ahead has changed the game";
-        const DropTargets targets = targets_of_drop(target, source, x);
-        const bool onto_own_pile = targets.first == pile_of(source) || targets.second == pile_of(source);
-        const bool neighbour = foretold != none && foretold == targets.second;
+        const Drop asked = drop_of(source, target, x);
+        const bool onto_own_pile = asked.first == asked.source || asked.second == asked.source;
+        const bool neighbour = foretold != none && foretold == asked.second;
         const int records = undo_count();
         drop_on_image(target.index(), source, x);
         // A card that goes up by itself has no receiver under it.
