@@ -138,6 +138,7 @@ int main(int argc, char** argv) {
                   << "drag_yardstick_ms " << median(yardstick.latency) << '\n'
                   << "drag_ratio " << median(game.latency) / median(yardstick.latency) << '\n'
                   << "drag_processor_ms " << median(game.processor) << '\n'
+                  << "drag_yardstick_processor_ms " << median(yardstick.processor) << '\n'
                   << "drag_flood_processor_ms " << median(game.flood) << '\n';
         return EXIT_SUCCESS;
     } catch (const std::exception& error) {
