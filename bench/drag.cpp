@@ -1,5 +1,6 @@
 // How soon the screen shows a card that is dragged, how much of the processor a move of the pointer costs,
-// and both once more for a rectangle that a program without a toolkit drags. On the display in use.
+// and both once more for a rectangle that a program without a toolkit drags, and one with the toolkit and
+// nothing else. On the display in use.
 //
 //     drag [SCALE [ROUNDS]]      SCALE device pixels for a pixel of the board
 
@@ -107,8 +108,8 @@ void measure_game(int scale, Figures& figures, XPlace& card) {
     game.screen().release();
 }
 
-void measure_yardstick(const XPlace& card, Figures& figures) {
-    ChildProcess program(TARNWICK_BARE_DRAG, {std::to_string(card.width), std::to_string(card.height)});
+void measure_yardstick(const char* yardstick, const XPlace& card, Figures& figures) {
+    ChildProcess program(yardstick, {std::to_string(card.width), std::to_string(card.height)});
     XDriver screen;
     const auto windows = [&] { return screen.windows_of(program.pid()); };
     if (!eventually([&] { return !windows().empty() && screen.active() == windows().front(); })) {
@@ -129,15 +130,20 @@ int main(int argc, char** argv) {
         const int rounds = argc > 2 ? std::atoi(argv[2]) : usual_rounds;
         Figures game;
         Figures yardstick;
+        Figures toolkit;
         XPlace card;
         for (int round = 0; round < rounds; ++round) {
             measure_game(scale, game, card);
-            measure_yardstick(card, yardstick);
+            measure_yardstick(TARNWICK_BARE_DRAG, card, yardstick);
+            measure_yardstick(TARNWICK_TOOLKIT_DRAG, card, toolkit);
         }
         std::cout << "drag_ms " << median(game.latency) << '\n'
                   << "drag_yardstick_ms " << median(yardstick.latency) << '\n'
+                  << "drag_toolkit_ms " << median(toolkit.latency) << '\n'
+                  << "drag_toolkit_ratio " << median(game.latency) / median(toolkit.latency) << '\n'
                   << "drag_ratio " << median(game.latency) / median(yardstick.latency) << '\n'
                   << "drag_processor_ms " << median(game.processor) << '\n'
+                  << "drag_yardstick_processor_ms " << median(yardstick.processor) << '\n'
                   << "drag_flood_processor_ms " << median(game.flood) << '\n';
         return EXIT_SUCCESS;
     } catch (const std::exception& error) {

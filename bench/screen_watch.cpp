@@ -4,6 +4,7 @@
 #include <X11/Xutil.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
@@ -32,7 +33,8 @@ std::vector<char> ScreenWatch::look() const {
         XGetImage(display, DefaultRootWindow(display), part_.x, part_.y, static_cast<unsigned>(part_.width),
                   static_cast<unsigned>(part_.height), AllPlanes, ZPixmap);
     if (!image) throw std::runtime_error("that part of the screen cannot be seen");
-    std::vector<char> pixels(image->data, image->data + image->bytes_per_line * image->height);
+    const std::ptrdiff_t size = std::ptrdiff_t{image->bytes_per_line} * image->height;
+    std::vector<char> pixels(image->data, image->data + size);
     XDestroyImage(image);
     return pixels;
 }

@@ -163,7 +163,13 @@ void BoardWidget::paintEvent(QPaintEvent* event) {
     repaints_ = 0;
     QPainter painter(this);
     painter.translate(0, -offset_);
-    painter_.paint(painter, event->region().translated(0, offset_));
+    // One rectangle at a time: clipped to several at once, the toolkit blends pictures line by line, shared
+    // among threads that wake each other for every few of them.
+    for (const QRect& rect : event->region()) {
+        const QRect area = rect.translated(0, offset_);
+        painter.setClipRect(area);
+        painter_.paint(painter, area);
+    }
 }
 
 void BoardWidget::showEvent(QShowEvent* event) {
