@@ -5,33 +5,12 @@
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/board_geometry.h"
 #include "desktop/qt_convert.h"
 #include "windows/pictures.h"
 
 namespace tarnwick {
 namespace {
-
-constexpr qreal corner_radius = 4;
-
-constexpr QColor mark_line(250, 200, 60, 200);
-constexpr QColor mark_fill(250, 200, 60, 50);
-
-// The rectangle in whole device pixels. Position and size are rounded apart: widgets of one size stay so.
-QRect snapped(const QRectF& rect, qreal ratio) {
-    return QRect(qRound(rect.left() * ratio), qRound(rect.top() * ratio),
-                 std::max(1, qRound(rect.width() * ratio)), std::max(1, qRound(rect.height() * ratio)));
-}
-
-// The whole pixels that a rectangle touches, with a margin for what rounding to device pixels adds.
-QRect touched(const QRectF& rect) { return rect.toAlignedRect().adjusted(-1, -1, 1, 1); }
-
-// Where an image at `place` shows its picture.
-QRectF picture_place(const Image& image, const Rect& place) {
-    const QRectF rect = to_qt(place);
-    return image.stretch() ? rect : QRectF(rect.topLeft(), QSizeF(card_width, card_height));
-}
-
-bool is_seen(const Image& image) { return image.visible() && !image.picture().none(); }
 
 // A row of labels at the lower left corner grows to the right and upwards, and keeps its order.
 QRectF label_place(const Rect& place, qreal scale) {
@@ -71,28 +50,6 @@ QRect BoardPainter::area_of(const Widget& widget, const Rect& place) const {
     return touched(to_qt(place));
 }
 
-const std::vector<Image*>& BoardPainter::lifted() const {
-    const std::vector<Image*>& dragged = form_.mouse().lifted();
-    return dragged.empty() && glide_ ? glide_->images() : dragged;
-}
-
-QPointF BoardPainter::lifted_offset() const {
-    const Mouse& mouse = form_.mouse();
-    if (mouse.lifted().empty()) return glide_ ? glide_->offset() : QPointF();
-    return {static_cast<qreal>(mouse.drag_dx()), static_cast<qreal>(mouse.drag_dy())};
-}
-
-QRectF BoardPainter::lifted_place(const Image& image) const {
-    return picture_place(image, image.place()).translated(lifted_offset());
-}
-
-QRect BoardPainter::lifted_area() const {
-    QRectF bounds;
-    for (const Image* image : lifted()) bounds |= lifted_place(*image);
-    if (bounds.isEmpty()) return {};
-    return touched(bounds.adjusted(-shadow_reach, -shadow_reach, shadow_reach, shadow_reach));
-}
-
 int BoardPainter::lower_edge() const {
     qreal edge = 0;
     for_each_visible<Image>(form_, WidgetKind::image, [&edge](const Image& image) {
@@ -112,8 +69,7 @@ void BoardPainter::paint(QPainter& painter, const QRegion& area) {
     painter.save();
     painter.scale(1 / ratio, 1 / ratio);
     paint_images(painter, area, ratio);
-    paint_mark(painter, area, ratio);
-    paint_lifted(painter, area, ratio);
+    drag_.paint(painter, area, ratio, pictures_);
     painter.restore();
 }
 
@@ -178,7 +134,7 @@ void BoardPainter::prepare_pictures(qreal ratio) {
 void BoardPainter::collect_sprites(const QRegion& area, qreal ratio) {
     sort_images();
     sprites_.clear();
-    const std::vector<Image*>& floating = lifted();
+    const std::vector<Image*>& floating = drag_.lifted();
     // From the top one down, so that cards under another one at the same place are left out: piles stay crisp
     // at their rounded corners, and no drawing is rendered before it is seen.
     for (auto image = images_.rbegin(); image != images_.rend(); ++image) {
@@ -195,45 +151,9 @@ void BoardPainter::collect_sprites(const QRegion& area, qreal ratio) {
 
 void BoardPainter::paint_images(QPainter& painter, const QRegion& area, qreal ratio) {
     collect_sprites(area, ratio);
-    for (auto sprite = sprites_.rbegin(); sprite != sprites_.rend(); ++sprite) paint_sprite(painter, *sprite);
-}
-
-// The image that would receive the lifted ones is marked: faintly, as a drop changes nothing that must be
-// seen.
-void BoardPainter::paint_mark(QPainter& painter, const QRegion& area, qreal ratio) const {
-    const Image* image = form_.mouse().receiver();
-    if (!image || !image->visible()) return;
-    const QRectF place = picture_place(*image, image->place());
-    if (!area.intersects(touched(place))) return;
-    const qreal line = std::max(2.0, std::floor(2 * ratio));
-    const qreal radius = corner_radius * ratio * place.width() / card_width;
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(mark_line, line));
-    painter.setBrush(mark_fill);
-    const qreal half = line / 2;
-    painter.drawRoundedRect(QRectF(snapped(place, ratio)).adjusted(half, half, -half, -half), radius, radius);
-}
-
-void BoardPainter::paint_lifted(QPainter& painter, const QRegion& area, qreal ratio) {
-    const std::vector<Image*>& images = lifted();
-    if (images.empty() || !area.intersects(lifted_area())) return;
-    QRect pile;
-    for (const Image* image : images) pile |= snapped(lifted_place(*image), ratio);
-    const int reach = qRound(shadow_reach * ratio);
-    painter.drawImage(pile.topLeft() - QPoint(reach, reach), shadow_.image(pile.size(), reach));
-    const auto paint = [&](const Image* image) {
-        if (image && is_seen(*image)) paint_sprite(painter, {image, snapped(lifted_place(*image), ratio)});
-    };
-    for (const Image* image : images) paint(image);
-    // Held where it lies, a card shows its whole face.
-    if (lifted_offset().isNull()) paint(form_.mouse().dragged());
-}
-
-void BoardPainter::paint_sprite(QPainter& painter, const Sprite& sprite) {
-    painter.drawPixmap(sprite.place, pictures_.pixmap(sprite.image->picture(), sprite.place.size()));
-    if (!sprite.image->bordered()) return;
-    painter.setPen(QPen(Qt::black, 1));
-    painter.drawRect(QRectF(sprite.place).adjusted(0.5, 0.5, -0.5, -0.5));
+    for (auto sprite = sprites_.rbegin(); sprite != sprites_.rend(); ++sprite) {
+        paint_picture(painter, *sprite->image, sprite->place, pictures_);
+    }
 }
 
 }  // namespace tarnwick

@@ -5,8 +5,7 @@
 #include <QRegion>
 #include <vector>
 
-#include "desktop/drag_shadow.h"
-#include "desktop/glide_back.h"
+#include "desktop/drag_painter.h"
 #include "desktop/picture_cache.h"
 #include "platform/controls.h"
 #include "platform/form.h"
@@ -19,7 +18,8 @@ namespace tarnwick {
 class BoardPainter {
   public:
     /// @param glide  what glides back to its place, if that is to be painted
-    explicit BoardPainter(const Form& form, const GlideBack* glide = nullptr) : form_(form), glide_(glide) {}
+    explicit BoardPainter(const Form& form, const GlideBack* glide = nullptr)
+        : form_(form), drag_(form, glide) {}
 
     /// Paints what lies in `area` (pixels of the window's client area). Pictures may reach beyond it:
     /// clipping is up to the painter.
@@ -30,14 +30,12 @@ class BoardPainter {
 
     /// Where a widget that lies at `place` can be seen, in whole pixels.
     QRect area_of(const Widget& widget, const Rect& place) const;
-    /// Where the images of a drag, or on their way back from one, are seen now, with their shadow; empty when
-    /// there are none.
-    QRect lifted_area() const;
     /// The lower edge of the lowest picture, in pixels.
     int lower_edge() const;
     /// How much larger than given the labels are drawn, so that their texts fit; about 1.
     qreal label_scale() const;
 
+    const DragPainter& drag() const { return drag_; }
     PictureCache& pictures() { return pictures_; }
 
   private:
@@ -50,18 +48,11 @@ class BoardPainter {
     void paint_labels(QPainter& painter, const QRegion& area) const;
     void collect_sprites(const QRegion& area, qreal ratio);
     void paint_images(QPainter& painter, const QRegion& area, qreal ratio);
-    void paint_mark(QPainter& painter, const QRegion& area, qreal ratio) const;
-    void paint_lifted(QPainter& painter, const QRegion& area, qreal ratio);
-    const std::vector<Image*>& lifted() const;
-    QPointF lifted_offset() const;
-    QRectF lifted_place(const Image& image) const;
-    void paint_sprite(QPainter& painter, const Sprite& sprite);
     void sort_images();
 
     const Form& form_;
-    const GlideBack* glide_;
     PictureCache pictures_;
-    DragShadow shadow_;
+    DragPainter drag_;
     std::vector<const Image*> images_;  ///< from the lowest one up
     std::vector<Sprite> sprites_;       ///< what a painting shows, from the top one down
 };

@@ -44,6 +44,8 @@ BoardWidget::BoardWidget(Form& form)
     connect(&scroll_bar_, &QScrollBar::valueChanged, this, [this](int value) {
         offset_ = value / scroll_grain * scroll_grain;
         repaint_all();
+        // Under a pointer that holds cards another part of the board lies now.
+        if (form_.mouse().dragged()) move_pointer(pointer_);
     });
 }
 
@@ -51,7 +53,7 @@ void BoardWidget::widget_changed(const Widget& widget, const Rect& before) {
     news_.board_changed();
     if (widget.kind() == WidgetKind::label) update_label_scale();
     if (widget.kind() == WidgetKind::image) {
-        glide_.end();
+        if (glide_.moves(static_cast<const Image&>(widget))) glide_.end();
         update_scrolling_later();
     }
     repaint_area(painter_.area_of(widget, before));
@@ -84,8 +86,7 @@ void BoardWidget::take_up_or_put_down() {
     for (const Image* image : lifted_.empty() ? mouse.lifted() : lifted_) {
         repaint_area(painter_.area_of(*image, image->place()));
     }
-    const bool glides =
-        !lifted_.empty() && !drag_offset_.isNull() && mouse.on_put_back && mouse.on_put_back();
+    const bool glides = !lifted_.empty() && !drag_offset_.isNull() && mouse.glides_back();
     // Should somebody receive the images after all, they are seen to change, and that ends their glide.
     if (glides) glide_.start(lifted_, drag_offset_);
     lifted_ = mouse.lifted();
@@ -94,7 +95,7 @@ void BoardWidget::take_up_or_put_down() {
 
 void BoardWidget::repaint_lifted() {
     const QRect before = lifted_area_;
-    lifted_area_ = painter_.lifted_area();
+    lifted_area_ = painter_.drag().area();
     // One rectangle paints faster than the several that two overlapping ones are made of.
     if (before.intersects(lifted_area_)) {
         repaint_area(before | lifted_area_);
@@ -105,12 +106,11 @@ void BoardWidget::repaint_lifted() {
 }
 
 void BoardWidget::repaint_mark() {
-    const Image* now = form_.mouse().receiver();
-    if (now == marked_) return;
-    for (const Image* image : {marked_, now}) {
-        if (image) repaint_area(painter_.area_of(*image, image->place()));
-    }
-    marked_ = now;
+    const QRect before = mark_area_;
+    mark_area_ = painter_.drag().mark_area();
+    if (mark_area_ == before) return;
+    repaint_area(before);
+    repaint_area(mark_area_);
 }
 
 void BoardWidget::scroll_at_edge() {
@@ -136,7 +136,6 @@ void BoardWidget::timerEvent(QTimerEvent* event) {
     }
     if (event->timerId() != edge_scroll_.timerId()) return QWidget::timerEvent(event);
     scroll_bar_.setValue(scroll_bar_.value() + edge_ahead() * edge_scroll_step);
-    move_pointer(pointer_);
     scroll_at_edge();
 }
 
@@ -251,7 +250,6 @@ void BoardWidget::wheelEvent(QWheelEvent* event) {
     if (!form_.accepts_input() || scroll_bar_.maximum() == 0) return;
     scroll_bar_.setValue(scroll_bar_.value() -
                          event->angleDelta().y() * scroll_step / QWheelEvent::DefaultDeltasPerStep);
-    move_pointer(event->position());
 }
 
 void BoardWidget::keyPressEvent(QKeyEvent* event) {

@@ -62,7 +62,7 @@ class BoardWidget : public QWidget {
     QScrollBar scroll_bar_{Qt::Vertical, this};
     QRect lifted_area_;
     std::vector<Image*> lifted_;  ///< the images of the drag
-    const Image* marked_ = nullptr;
+    QRect mark_area_;
     QPointF drag_offset_;  ///< how far the pointer has moved since the drag's press
     QPointF pointer_;      ///< where the pointer was last seen, in the widget
     BoardNews news_{*this};

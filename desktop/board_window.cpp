@@ -78,7 +78,10 @@ void BoardWindow::closeEvent(QCloseEvent* event) {
 
 void BoardWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::WindowStateChange) form_.user_changed_state(state_of(windowState()));
+    if (event->type() != QEvent::WindowStateChange) return;
+    form_.user_changed_state(state_of(windowState()));
+    // A minimised form does not take note of its size.
+    form_.user_resized({board_.width(), board_.height()});
 }
 
 void BoardView::widget_changed(const Widget& widget, const Rect& before) {

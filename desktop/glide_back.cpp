@@ -1,5 +1,7 @@
 #include "desktop/glide_back.h"
 
+#include <algorithm>
+
 namespace tarnwick {
 namespace {
 
@@ -35,6 +37,10 @@ void GlideBack::end() {
     on_step_();
     images_.clear();
     on_step_();
+}
+
+bool GlideBack::moves(const Image& image) const {
+    return std::find(images_.begin(), images_.end(), &image) != images_.end();
 }
 
 }  // namespace tarnwick

@@ -23,6 +23,7 @@ class GlideBack {
 
     /// What glides; empty when nothing does.
     const std::vector<Image*>& images() const { return images_; }
+    bool moves(const Image& image) const;
     /// How far from their own places the images are seen, in pixels.
     QPointF offset() const { return offset_; }
 

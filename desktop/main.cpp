@@ -3,6 +3,7 @@
 #include <QTimer>
 #include <cstdlib>
 #include <exception>
+#include <filesystem>
 #include <iostream>
 #include <optional>
 
@@ -23,6 +24,10 @@ constexpr int bad_usage = 2;
 bool is_set(const char* variable) {
     const char* value = std::getenv(variable);
     return value && *value;
+}
+
+bool is_same_file(const std::string& a, const std::string& b) {
+    return std::filesystem::weakly_canonical(a) == std::filesystem::weakly_canonical(b);
 }
 
 // Where the toolkit finds no display it would end the program with a crash and a page of hints.
@@ -59,10 +64,16 @@ int run(const CommandLine& command, int argc, char** argv) {
     QApplication::setApplicationVersion(TARNWICK_VERSION);
     QGuiApplication::setDesktopFileName("tarnwick");
 
+    const std::string store_path = command.store.empty() ? default_store_path() : command.store;
     std::optional<GameRecorder> recorder;
-    if (!command.record.empty()) recorder.emplace(command.record);
+    if (!command.record.empty()) {
+        if (is_same_file(command.record, store_path)) {
+            throw CommandLineError("--record must not name the file of the settings, " + store_path);
+        }
+        recorder.emplace(command.record);
+    }
     // Outlives the windows, which may ask for settings until they are gone.
-    SqliteStore store(command.store.empty() ? default_store_path() : command.store);
+    SqliteStore store(store_path);
     QtDesktop desktop;
     if (command.deal) random_generator().replay(*command.deal);
     start_program(store);

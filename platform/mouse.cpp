@@ -57,7 +57,13 @@ bool Mouse::is_second_click(const Image& image, float x, float y) const {
 
 void Mouse::start_drag(Image& image) {
     dragged_ = &image;
-    lifted_ = on_lift ? on_lift(image) : std::vector<Image*>{&image};
+    lifted_ = {&image};
+    glides_back_ = false;
+    // Asked now and not when the images are put down: a message about it would come between drag and drop.
+    desktop().event([this, &image] {
+        if (on_lift) lifted_ = on_lift(image);
+        if (on_put_back) glides_back_ = on_put_back();
+    });
     drag_changed();
 }
 

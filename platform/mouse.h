@@ -10,6 +10,7 @@ namespace tarnwick {
 
 class Form;
 class Image;
+class Widget;
 
 enum class MouseButton { left, other };
 
@@ -37,14 +38,17 @@ class Mouse {
     float drag_dx() const { return x_ - press_x_; }
     float drag_dy() const { return y_ - press_y_; }
 
-    /// The image that a drop would be received by where the pointer is now, or null.
-    const Image* receiver() const { return receiver_; }
+    /// What would receive a drop where the pointer is now, or null.
+    const Widget* receiver() const { return receiver_; }
+
+    /// Whether the images of the drag glide back when nobody receives them.
+    bool glides_back() const { return glides_back_; }
 
     /// Tells which images a drag of this one lifts, from the bottom one up; without it, the image alone.
     std::function<std::vector<Image*>(Image& dragged)> on_lift;
-    /// Tells which image would receive the dragged one if it were dropped on `target` now, `offset_x` twips
-    /// from its left edge; null for none. Without it, none is known.
-    std::function<const Image*(const Image& dragged, const Image& target, float offset_x)> on_hover;
+    /// Tells what is seen to receive the dragged image if that were dropped on `target` now, `offset_x` twips
+    /// from its left edge; null for nothing. Without it, nothing is known. Must not throw.
+    std::function<const Widget*(const Image& dragged, const Image& target, float offset_x)> on_hover;
     /// Tells whether images that nobody received are seen to glide back to where they came from.
     std::function<bool()> on_put_back;
 
@@ -60,7 +64,8 @@ class Mouse {
     Image* pressed_ = nullptr;
     Image* dragged_ = nullptr;
     std::vector<Image*> lifted_;
-    const Image* receiver_ = nullptr;
+    const Widget* receiver_ = nullptr;
+    bool glides_back_ = false;
     float press_x_ = 0;
     float press_y_ = 0;
     float x_ = 0;

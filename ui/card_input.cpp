@@ -1,3 +1,4 @@
+#include <exception>
 #include <vector>
 
 #include "board/display.h"
@@ -62,9 +63,20 @@ std::vector<Image*> lift(Image& dragged) {
     return {&dragged};
 }
 
-const Image* receiver(const Image& dragged, const Image& target, float x) {
-    const int pile = receiver_of_drop(target, dragged, x);
-    return pile == none ? nullptr : &top_image(pile);
+// An empty pile is seen by its outline: its drop zone is larger.
+const Widget* receiver(const Image& dragged, const Image& target, float x) {
+    try {
+        const int pile = receiver_of_drop(target, dragged, x);
+        if (pile == none) return nullptr;
+        if (pile <= last_column && column_is_empty(pile))
+            return &frmcards.Shape1(first_column_outline + pile);
+        const int p = pile - first_ace_pile;
+        if (pile >= first_ace_pile && ace_pile_is_empty(p)) return &frmcards.Shape1(p);
+        return &top_image(pile);
+    } catch (const std::exception&) {
+        // A game that has gone on after an error may be in no order. The move itself will tell.
+        return nullptr;
+    }
 }
 
 // A text that does not convert must not come in the way of a drop; the moves tell about it.

@@ -149,6 +149,16 @@ TEST(Board, ComesBackFromBeingMinimised) {
     EXPECT_EQ(board_faults(game), "");
 }
 
+TEST(Board, FollowsASizeItWasGivenWhileMinimised) {
+    TwinGame game({program, deal});
+    ASSERT_EQ(board_faults(game), "");
+    game.screen().minimize(game.window());
+    ASSERT_TRUE(eventually([&] { return game.screen().minimized(game.window()); }));
+    game.resize(700, 600);
+    game.screen().restore(game.window());
+    EXPECT_EQ(board_faults(game), "");
+}
+
 TEST(Board, IsSharpAtTwiceTheSize) {
     TwinGame game({.program = program, .deal = deal, .settings = {}, .environment = {}, .scale = 2});
     game.resize(1200, 900);

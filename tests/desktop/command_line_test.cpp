@@ -70,6 +70,11 @@ TEST(CommandLine, RecordsTheGame) {
     };
     EXPECT_TRUE(eventually([&] { return recorded() == "deal 26\nturn\ndrag 6 9\nundo\nrestart\n"; }))
         << recorded();
+    const std::string store = folder.path() + "/settings.sqlite";
+    ChildProcess confused(program, {"--record", folder.path() + "/./settings.sqlite", "--store", store});
+    EXPECT_EQ(confused.exit_code(), 2);
+    EXPECT_EQ(confused.errors(),
+              "tarnwick: --record must not name the file of the settings, " + store + "\n");
     ChildProcess refused(program, {"--record", folder.path()});
     EXPECT_EQ(refused.exit_code(), 1);
     EXPECT_EQ(refused.errors(),

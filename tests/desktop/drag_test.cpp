@@ -36,7 +36,7 @@ TEST(Drag, LiftedCardsFollowThePointerToAColumn) {
     EXPECT_EQ(board_faults(game), "") << "put down";
 }
 
-TEST(Drag, ARefusedCardIsBackAtOnce) {
+TEST(Drag, ARefusedCardComesBack) {
     TwinGame game({program, deal});
     const QImage before = expected_board();
     game.drag(column_of_king, column_of_ace);
@@ -98,6 +98,16 @@ TEST(Drag, TheReceiverIsMarkedWhileThePointerIsOverIt) {
     game.move(queen);
     game.release(queen);
     EXPECT_EQ(board_faults(game), "") << "put down";
+}
+
+TEST(Drag, AnEmptyPileIsMarkedByItsOutline) {
+    TwinGame game({program, deal, {{"scale cards", "False"}}});
+    game.press(TwinGame::spot_on(top_image(column_of_ace)));
+    const Image& zone = top_image(ace_pile(2));
+    game.move({static_cast<int>(zone.left()) + 4, static_cast<int>(zone.top()) + 60});
+    EXPECT_EQ(frmcards.mouse().receiver(), &frmcards.Shape1(2));
+    EXPECT_EQ(board_faults(game), "");
+    game.release(bare);
 }
 
 TEST(Drag, ARefusedCardIsSeenToGlideBack) {

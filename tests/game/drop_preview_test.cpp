@@ -82,6 +82,12 @@ TEST(DropPreview, APointerThatMovesOnTellsTheReceiver) {
     mouse.move(top_image(9).left() + 30, top_image(9).top() + 30);
     mouse.cancel();
     EXPECT_EQ(mouse.receiver(), nullptr) << "a drag that was given up";
+    const Image& zone = top_image(ace_pile(1));
+    mouse.press(top_image(4).left() + 30, top_image(4).top() + 30);
+    mouse.move(zone.left() + 5, zone.top() + 50);
+    EXPECT_EQ(mouse.receiver(), &frmcards.Shape1(1))
+        << "the ace of Clubs on an empty pile, seen by its outline";
+    mouse.cancel();
 }
 
 }  // namespace
