@@ -115,8 +115,8 @@ void QtDesktop::settle_windows() {
         QApplication::quit();
         return;
     }
-    // A dialog that has gone leaves the keyboard to the window under it.
-    if (!QApplication::activeWindow()) front->activateWindow();
+    // A dialog that has gone leaves the keyboard to the window under it. A message keeps it from all of them.
+    if (!QApplication::activeWindow() && !QApplication::activeModalWidget()) front->activateWindow();
 }
 
 QWidget* QtDesktop::main_window() const {
@@ -137,6 +137,7 @@ void QtDesktop::hand_on_keyboard() {
     // A disabled window that the user clicks hands the keyboard on to the dialog that it waits for.
     QWidget* front = front_window();
     const QWidget* main = main_window();
+    if (QApplication::activeModalWidget()) return;
     if (!front || !main || front == main || main->windowHandle() != QGuiApplication::focusWindow()) return;
     const auto is_disabled = [main](const WindowView* view) {
         return view->window() == main && !view->form().enabled();

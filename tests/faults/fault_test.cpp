@@ -112,6 +112,8 @@ bool fail_at(const Situation& situation, int n, bool resume, std::set<std::strin
     play.start(situation.position);
     situation.prepare(play);
     play.desktop.forget_messages();
+    // What only looks ahead tells nobody; it has a test of its own.
+    frmcards.mouse().on_hover = nullptr;
     resume_after_error = resume ? flag_true : flag_false;
     points_to_fault = n;
     try {
@@ -155,6 +157,26 @@ TEST(ForcedFault, IsReportedAndTheGameGoesOn) {
         all.insert(reporting_routines.begin(), reporting_routines.end());
         EXPECT_EQ(reported, all) << "every routine has failed";
         std::cout << faults << " faults forced" << (resume ? ", resumed\n" : "\n");
+    }
+}
+
+TEST(ForcedFault, WhileLookingAheadLeavesTheDropAsItIs) {
+    bool forced = true;
+    for (int n = 1; forced; ++n) {
+        Play play;
+        play.start("0: 7♠\n4: [2♣] 6♥");
+        Mouse& mouse = frmcards.mouse();
+        const Image& target = top_image(0);
+        mouse.press(top_image(4).left() + middle, top_image(4).top() + middle);
+        points_to_fault = n;
+        mouse.move(target.left() + middle, target.top() + middle);
+        forced = points_to_fault == 0;
+        points_to_fault = 0;
+        EXPECT_EQ(mouse.receiver(), forced ? nullptr : &target) << "point " << n;
+        EXPECT_EQ(play.message(), "");
+        mouse.release(target.left() + middle, target.top() + middle);
+        ASSERT_EQ(column_top(0), 1) << "point " << n;
+        ASSERT_GT(n, forced ? 0 : 10) << "nothing has looked ahead";
     }
 }
 

@@ -80,6 +80,15 @@ bool TwinGame::gets_keyboard(XWindow window) const {
     return eventually([&] { return screen_.active() == window; });
 }
 
+bool TwinGame::bring_to_front(XWindow window) {
+    constexpr std::chrono::seconds patience{2};
+    for (int attempt = 0; attempt < 5; ++attempt) {
+        screen_.restore(window);
+        if (eventually([&] { return screen_.active() == window; }, patience)) return true;
+    }
+    return false;
+}
+
 XPlace TwinGame::board() const {
     const PixelSize size = frmcards.client_size();
     const XPlace window = screen_.place(window_);

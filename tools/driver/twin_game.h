@@ -101,6 +101,9 @@ class TwinGame {
     bool has(const std::string& title) const { return screen_.find(program_->pid(), title) != 0; }
     /// Waits until the window has the keyboard; false when it does not get it.
     bool gets_keyboard(XWindow window) const;
+    /// Brings the window to the front, as often as it takes while others still open; false when it does not
+    /// get the keyboard.
+    bool bring_to_front(XWindow window);
 
     /// Starts the real program once more with the same store, and the headless game afresh with `settings`.
     void restart(const std::map<std::string, std::string>& settings);
