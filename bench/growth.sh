@@ -35,11 +35,11 @@ for scale in 1 2; do
     done
 done
 
-# Beside the pixels grow the time to fill an image: memory has its own ways. Painting is compared with that.
+# Told but not judged is how painting compares with filling an image, which grows with the caches it outgrows.
 status=0
 for scale in 1 2; do
     base=$(widths_at $scale | cut -d' ' -f1)
-    for column in start_ms memory_kib full_paint_ratio drag_ms drag_processor_ms; do
+    for column in start_ms memory_kib full_paint_ms drag_ms drag_processor_ms; do
         for width in $(widths_at $scale); do
             small=$(sed -n "s/^$column //p" "$folder/$base-$scale")
             large=$(sed -n "s/^$column //p" "$folder/$width-$scale")
