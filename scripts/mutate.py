@@ -159,7 +159,7 @@ MUTATIONS = {
         ("    if (another_shows) cover_peeked_card();", "", "two cards are peeked at"),
         (" && !tablet_is_turned_for_good()", "", "the space bar turns what is turned for good"),
     ],
-    "ui/timers.cpp": [
+    "ui/twinkle.cpp": [
         ("frame_time = 30", "frame_time = 60", "an idle twinkle plays slower"),
         ("idle_time = 1000", "idle_time = 900", "the idle clock is faster"),
         ("twinkle_odds = 45", "twinkle_odds = 1000", "it hardly twinkles"),

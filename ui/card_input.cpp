@@ -97,6 +97,7 @@ void attach_card_input() {
         drop_on_image(index, source, x);
     };
     frmcards.on_key_down = key_down;
+    frmcards.Timer2.on_tick = end_peek;
     frmcards.mouse().on_lift = lift;
     frmcards.mouse().on_hover = receiver;
     frmcards.mouse().on_put_back = glides_back;

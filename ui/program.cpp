@@ -20,7 +20,8 @@ void start_program(Store& store) {
     attach_main_window();
     attach_card_input();
     attach_board_names();
-    attach_timers();
+    attach_twinkle();
+    attach_slide();
     attach_menus();
     attach_error_dialog();
     attach_win_dialog();
