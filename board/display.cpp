@@ -42,7 +42,7 @@ void place_single_ace(const Integer& p) {
     if (picture == ace_of_spades_image) {
         animation(twinkle_frame) = first_twinkle_image;
         frmcards.Image1(ace_of_spades_image).set_picture(frmcards.Image1(first_twinkle_image).picture());
-        frmcards.Timer1.set_interval(30);
+        frmcards.Timer1.set_interval(twinkle_frame_time);
     }
 }
 

@@ -17,7 +17,7 @@ void show_stored_back(int image) {
 
 void stop_effects() {
     if (animation(twinkle_frame) != no_twinkle) {
-        frmcards.Timer1.set_interval(1000);
+        frmcards.Timer1.set_interval(twinkle_idle_time);
         frmcards.Image1(ace_of_spades_image).set_picture(frmcards.Image1(plain_ace_image).picture());
         animation(twinkle_frame) = no_twinkle;
     }

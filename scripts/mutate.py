@@ -32,7 +32,7 @@ MUTATIONS = {
         ("470 * card_scale", "460 * card_scale", "drop zones of columns are shorter"),
         ("158 * p + 216", "158 * p + 217", "drop zones of ace piles lie further right"),
         ("    score += 1;", "    score += 0;", "a card that is turned up earns nothing"),
-        ("set_interval(30)", "set_interval(40)", "the first twinkle plays slower"),
+        ("set_interval(twinkle_frame_time)", "set_interval(40)", "the first twinkle plays slower"),
         ("aces(p, picture_field) == plain_ace_image", "false", "an ace of Spades that is alone again stays plain"),
         ("aces(p, beneath_picture_field) == ace_of_spades_image", "false", "an ace of Spades beneath is not plain"),
         ("aces(p, last_used_field) >= third_picture_field && ", "", "a pile of two hides the third card it once had"),
@@ -52,7 +52,7 @@ MUTATIONS = {
         ("- 70;", "- 60;", "the score stands lower"),
     ],
     "board/timed_effects.cpp": [
-        ("set_interval(1000)", "set_interval(30)", "a twinkle that is ended leaves its fast clock"),
+        ("set_interval(twinkle_idle_time)", "set_interval(30)", "a twinkle that is ended leaves its fast clock"),
         ("    if (frmcards.Timer2.enabled()) end_peek();", "", "a peek goes on into the next game"),
         ("== no_card_beneath", "!= no_card_beneath", "a slide lands as the wrong kind of pile"),
     ],
@@ -155,13 +155,15 @@ MUTATIONS = {
         ("undo_count() == most_undo_records) drop", "undo_count() == 298) drop", "the list is full too early"),
     ],
     "ui/card_input.cpp": [
-        ("peek_time = 1500", "peek_time = 1600", "a peek lasts longer"),
         ("    if (another_shows) cover_peeked_card();", "", "two cards are peeked at"),
         (" && !tablet_is_turned_for_good()", "", "the space bar turns what is turned for good"),
     ],
+    "windows/frmcards.h": [
+        ("peek_time = 1500", "peek_time = 1600", "a peek lasts longer"),
+    ],
     "ui/twinkle.cpp": [
-        ("frame_time = 30", "frame_time = 60", "an idle twinkle plays slower"),
-        ("idle_time = 1000", "idle_time = 900", "the idle clock is faster"),
+        ("set_interval(twinkle_frame_time)", "set_interval(60)", "an idle twinkle plays slower"),
+        ("set_interval(twinkle_idle_time)", "set_interval(900)", "the idle clock is faster"),
         ("twinkle_odds = 45", "twinkle_odds = 1000", "it hardly twinkles"),
         ("ace_of_spades().left() > turned_card_limit * x_scale", "true", "the turned ace twinkles"),
         ("ace_of_spades().top() == static_cast<float>(top_row) &&", "", "an ace in a column twinkles"),

@@ -9,8 +9,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr int most_points = 200;
-
 constexpr std::array rank_names{"Ace", "2", "3", "4", "5", "6", "7", "8", "9", "10", "Jack", "Queen", "King"};
 constexpr std::array suit_names{"Hearts", "Spades", "Diamonds", "Clubs"};
 

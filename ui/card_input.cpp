@@ -15,8 +15,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr int peek_time = 1500;
-
 bool is_face_down_image(int index) { return index >= first_face_down_image && index < first_face_image; }
 
 void click(int index) {

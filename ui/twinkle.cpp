@@ -1,4 +1,5 @@
 #include "board/display.h"
+#include "board/timed_effects.h"
 #include "platform/random.h"
 #include "state/variables.h"
 #include "ui/handlers.h"
@@ -7,8 +8,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr int frame_time = 30;
-constexpr int idle_time = 1000;
 // An idle twinkle starts with one tick out of so many.
 constexpr int twinkle_odds = 45;
 
@@ -31,7 +30,7 @@ void step_twinkle() {
     show_twinkle_frame();
     if (animation(twinkle_frame) == plain_ace_image) {
         animation(twinkle_frame) = no_twinkle;
-        frmcards.Timer1.set_interval(idle_time);
+        frmcards.Timer1.set_interval(twinkle_idle_time);
     }
 }
 
@@ -44,7 +43,7 @@ void tick_twinkle() {
     if (drawn != 1 || !ace_lies_on_top_of_a_pile()) return;
     animation(twinkle_frame) = first_twinkle_image;
     show_twinkle_frame();
-    frmcards.Timer1.set_interval(frame_time);
+    frmcards.Timer1.set_interval(twinkle_frame_time);
 }
 
 }  // namespace

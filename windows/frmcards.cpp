@@ -1,5 +1,7 @@
 #include "windows/frmcards.h"
 
+#include <string>
+
 #include "windows/pictures.h"
 
 namespace tarnwick {
@@ -73,7 +75,7 @@ void Frmcards::design_labels() {
     };
     design_label(lblScoreText, "Score:", 120, 492);
     design_label(LblScore, "0", 600, 372);
-    design_label(LblScoreMax, "/200", 1080, 492);
+    design_label(LblScoreMax, "/" + std::to_string(most_points), 1080, 492);
     LblScore.set_alignment(Alignment::right);
 }
 
@@ -83,7 +85,7 @@ void Frmcards::design_timers() {
         timer.set_enabled(enabled);
     };
     design_timer(Timer1, 500, true);
-    design_timer(Timer2, 1500, false);
+    design_timer(Timer2, peek_time, false);
     design_timer(Timer3, 30, false);
 }
 

@@ -14,8 +14,20 @@ constexpr int logo = first_twinkle + twinkle_frame_count;
 
 constexpr std::array suit_names{"hearts", "spades", "diamonds", "clubs"};
 constexpr std::array rank_names{"ace", "2", "3", "4", "5", "6", "7", "8", "9", "10", "jack", "queen", "king"};
-constexpr std::array back_names{"Misty", "Rose", "Mid-Earth", "Roman", "Pedal", "Stained"};
-constexpr std::array back_files{"misty", "rose", "mid-earth", "roman", "pedal", "stained"};
+
+struct Back {
+    const char* name;
+    const char* file;
+};
+constexpr std::array<Back, back_count> backs{{{"Misty", "misty"},
+                                              {"Rose", "rose"},
+                                              {"Mid-Earth", "mid-earth"},
+                                              {"Roman", "roman"},
+                                              {"Pedal", "pedal"},
+                                              {"Stained", "stained"}}};
+static_assert(backs.back().name, "back_count tells how many backs there are");
+
+const Back& back_at(int index) { return backs.at(static_cast<std::size_t>(index)); }
 
 Picture picture(int number) { return Picture{static_cast<std::uint16_t>(number)}; }
 
@@ -36,11 +48,11 @@ std::string drawing_of(Picture picture) {
         const int face = number - first_face;
         return "faces/" + name(suit_names, face / ranks) + '-' + name(rank_names, face % ranks);
     }
-    if (number < first_twinkle) return "backs/" + name(back_files, number - first_back);
+    if (number < first_twinkle) return std::string("backs/") + back_at(number - first_back).file;
     if (number < logo) return "twinkle/frame-" + std::to_string(number - first_twinkle);
     return "logo";
 }
 
-const char* back_name(int back) { return back_names.at(static_cast<std::size_t>(back)); }
+const char* back_name(int back) { return back_at(back).name; }
 
 }  // namespace tarnwick

@@ -18,8 +18,8 @@ constexpr int column_of_ace = 4;
 constexpr int column_of_jack = 6;
 constexpr int column_of_queen = 9;
 
-// The bare table under the shortest column.
-constexpr Spot bare{60, 820};
+// The table under the shortest column; a drop there is one on that column.
+constexpr Spot below_first_column{60, 820};
 
 TEST(Drag, LiftedCardsFollowThePointerToAColumn) {
     TwinGame game({program, deal});
@@ -29,7 +29,7 @@ TEST(Drag, LiftedCardsFollowThePointerToAColumn) {
     game.press(TwinGame::spot_on(queen));
     EXPECT_EQ(frmcards.mouse().lifted().size(), 2U);
     EXPECT_EQ(board_faults(game), "") << "taken up";
-    game.move(bare);
+    game.move(below_first_column);
     EXPECT_EQ(board_faults(game), "") << "on the way";
     game.release(TwinGame::spot_on(top_image(column_of_king)));
     EXPECT_EQ(column_top(column_of_king), column_of_king + 2);
@@ -40,7 +40,7 @@ TEST(Drag, ARefusedCardComesBack) {
     TwinGame game({program, deal});
     const QImage before = expected_board();
     game.drag(column_of_king, column_of_ace);
-    game.drag(TwinGame::spot_on(top_image(column_of_jack)), bare);
+    game.drag(TwinGame::spot_on(top_image(column_of_jack)), below_first_column);
     EXPECT_EQ(expected_board(), before);
     EXPECT_EQ(board_faults(game), "");
     // What comes after is not disturbed, and shows that all of it has been dealt with.
@@ -51,7 +51,7 @@ TEST(Drag, ARefusedCardComesBack) {
 TEST(Drag, EscapeEndsADrag) {
     TwinGame game({program, deal});
     game.press(TwinGame::spot_on(top_image(column_of_jack)));
-    game.move(bare);
+    game.move(below_first_column);
     ASSERT_EQ(board_faults(game), "");
     game.screen().key("Escape");
     frmcards.mouse().cancel();
@@ -65,7 +65,7 @@ TEST(Drag, EscapeEndsADrag) {
 TEST(Drag, OtherButtonsDoNotDisturbADrag) {
     TwinGame game({program, deal});
     game.press(TwinGame::spot_on(top_image(column_of_jack)));
-    game.move(bare);
+    game.move(below_first_column);
     const Spot target = TwinGame::spot_on(top_image(column_of_queen));
     game.press(target, XButton::right);
     game.release(target, XButton::right);
@@ -84,7 +84,7 @@ TEST(Drag, OtherButtonsDoNotDisturbADrag) {
 TEST(Drag, TheReceiverIsMarkedWhileThePointerIsOverIt) {
     TwinGame game({program, deal});
     game.press(TwinGame::spot_on(top_image(column_of_jack)));
-    game.move(bare);
+    game.move(below_first_column);
     const QImage unmarked = expected_board();
     const Spot queen = TwinGame::spot_on(top_image(column_of_queen));
     game.move(queen);
@@ -92,7 +92,7 @@ TEST(Drag, TheReceiverIsMarkedWhileThePointerIsOverIt) {
     EXPECT_EQ(board_faults(game), "") << "over the Queen";
     game.move(TwinGame::spot_on(top_image(column_of_king)));
     EXPECT_EQ(board_faults(game), "") << "over the King, who takes no Jack";
-    game.move(bare);
+    game.move(below_first_column);
     EXPECT_EQ(expected_board(), unmarked);
     EXPECT_EQ(board_faults(game), "") << "over the bare table";
     game.move(queen);
@@ -107,7 +107,7 @@ TEST(Drag, AnEmptyPileIsMarkedByItsOutline) {
     game.move({static_cast<int>(zone.left()) + 4, static_cast<int>(zone.top()) + 60});
     EXPECT_EQ(frmcards.mouse().receiver(), &frmcards.Shape1(2));
     EXPECT_EQ(board_faults(game), "");
-    game.release(bare);
+    game.release(below_first_column);
 }
 
 TEST(Drag, ARefusedCardIsSeenToGlideBack) {
@@ -117,14 +117,14 @@ TEST(Drag, ARefusedCardIsSeenToGlideBack) {
     // A busy machine may miss the tenth of a second that it takes.
     for (int attempt = 0; attempt < 5 && !seen_between; ++attempt) {
         game.press(TwinGame::spot_on(top_image(column_of_jack)));
-        game.move(bare);
+        game.move(below_first_column);
         ASSERT_EQ(board_faults(game), "");
         const QImage held = image_of(game.board_pixels());
-        game.release(bare);
+        game.release(below_first_column);
         const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(300);
         // The bare table's own corner shows whether the card has left it; where it belongs it lies again only
         // later.
-        const QRect left_behind(bare.x, bare.y, 30, 30);
+        const QRect left_behind(below_first_column.x, below_first_column.y, 30, 30);
         const QRect belongs = QRect(QPoint(static_cast<int>(top_image(column_of_jack).left()) + 10,
                                            static_cast<int>(top_image(column_of_jack).top()) + 40),
                                     QSize(30, 30));
