@@ -2,10 +2,6 @@
 
 namespace tarnwick {
 
-/// The clock of the twinkle, in milliseconds: from frame to frame, and between two looks whether to begin.
-inline constexpr int twinkle_frame_time = 30;
-inline constexpr int twinkle_idle_time = 1000;
-
 // Ending the three timed effects of the table: twinkle, peek and slide.
 
 /// Ends all of them where they are: the ace of Spades plain, the peeked card on its face, the sliding card

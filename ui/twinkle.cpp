@@ -1,5 +1,4 @@
 #include "board/display.h"
-#include "board/timed_effects.h"
 #include "platform/random.h"
 #include "state/variables.h"
 #include "ui/handlers.h"

@@ -27,6 +27,10 @@ constexpr int face_down_image(int c, int k) { return first_face_down_image + 10 
 /// What a won game scores, as the label beside the score says.
 inline constexpr int most_points = 200;
 
+/// The clock of the twinkle, in milliseconds: from frame to frame, and between two looks whether to begin.
+inline constexpr int twinkle_frame_time = 30;
+inline constexpr int twinkle_idle_time = 1000;
+
 /// How long a face-down card shows its face when it is peeked at, in milliseconds.
 inline constexpr int peek_time = 1500;
 
