@@ -68,7 +68,7 @@ void Frmcards::design_images() {
 }
 
 void Frmcards::design_labels() {
-    const auto design_label = [](Label& label, const char* caption, int left, int width) {
+    const auto design_label = [](Label& label, const std::string& caption, int left, int width) {
         label.set_caption(caption);
         label.move_twips(left, 0, width, 252);
         label.set_back_color(table_green);
