@@ -1,11 +1,9 @@
-// Draws SVG files onto one sheet, so that a set of pictures can be judged side
-// by side with the renderer the program itself uses.
+// Draws SVG files onto one sheet, so that a set of pictures can be judged side by side with the renderer that
+// the program itself uses.
 
 #include <QByteArray>
 #include <QColor>
-#include <QCommandLineOption>
 #include <QCommandLineParser>
-#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QImage>
@@ -39,46 +37,46 @@ struct Picture {
 struct Layout {
     int columns = 13;
     int gap = 6;
-    int captionHeight = 0;
+    int caption_height = 0;
     std::optional<QPoint> overlap;
 };
 
 // How a colour is seen: three rows of weights for linear red, green and blue.
 using Vision = std::array<std::array<double, 3>, 3>;
 
-constexpr Vision greyVision{{{0.2126, 0.7152, 0.0722}, {0.2126, 0.7152, 0.0722}, {0.2126, 0.7152, 0.0722}}};
-constexpr Vision protanVision{{{0.1124, 0.8876, 0.0}, {0.1124, 0.8876, 0.0}, {0.0040, -0.0040, 1.0}}};
-constexpr Vision deutanVision{{{0.2927, 0.7073, 0.0}, {0.2927, 0.7073, 0.0}, {-0.0223, 0.0223, 1.0}}};
+constexpr Vision grey_vision{{{0.2126, 0.7152, 0.0722}, {0.2126, 0.7152, 0.0722}, {0.2126, 0.7152, 0.0722}}};
+constexpr Vision protan_vision{{{0.1124, 0.8876, 0.0}, {0.1124, 0.8876, 0.0}, {0.0040, -0.0040, 1.0}}};
+constexpr Vision deutan_vision{{{0.2927, 0.7073, 0.0}, {0.2927, 0.7073, 0.0}, {-0.0223, 0.0223, 1.0}}};
 
-std::optional<Vision> visionNamed(const QString& name) {
-    if (name == QLatin1String("grey")) return greyVision;
-    if (name == QLatin1String("protan")) return protanVision;
-    if (name == QLatin1String("deutan")) return deutanVision;
+std::optional<Vision> vision_named(const QString& name) {
+    if (name == QLatin1String("grey")) return grey_vision;
+    if (name == QLatin1String("protan")) return protan_vision;
+    if (name == QLatin1String("deutan")) return deutan_vision;
     return std::nullopt;
 }
 
-double toLinear(int channel) {
+double to_linear(int channel) {
     const double value = channel / 255.0;
     return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
 }
 
-int fromLinear(double value) {
+int from_linear(double value) {
     const double clamped = std::clamp(value, 0.0, 1.0);
     const double encoded =
         clamped <= 0.0031308 ? clamped * 12.92 : 1.055 * std::pow(clamped, 1.0 / 2.4) - 0.055;
     return static_cast<int>(std::lround(encoded * 255.0));
 }
 
-void applyVision(QImage& sheet, const Vision& vision) {
+void apply_vision(QImage& sheet, const Vision& vision) {
     for (int y = 0; y < sheet.height(); ++y) {
         for (int x = 0; x < sheet.width(); ++x) {
             const QColor colour = sheet.pixelColor(x, y);
-            const std::array<double, 3> seen{toLinear(colour.red()), toLinear(colour.green()),
-                                             toLinear(colour.blue())};
+            const std::array<double, 3> seen{to_linear(colour.red()), to_linear(colour.green()),
+                                             to_linear(colour.blue())};
             std::array<int, 3> shown{};
             for (std::size_t row = 0; row < 3; ++row)
-                shown[row] = fromLinear(vision[row][0] * seen[0] + vision[row][1] * seen[1] +
-                                        vision[row][2] * seen[2]);
+                shown[row] = from_linear(vision[row][0] * seen[0] + vision[row][1] * seen[1] +
+                                         vision[row][2] * seen[2]);
             sheet.setPixelColor(x, y, QColor(shown[0], shown[1], shown[2]));
         }
     }
@@ -92,10 +90,10 @@ QPoint position(int index, const QSize& cell, const Layout& layout) {
             layout.gap + index / layout.columns * step.height()};
 }
 
-QImage drawSheet(const std::vector<Picture>& pictures, const QColor& background, const Layout& layout) {
+QImage draw_sheet(const std::vector<Picture>& pictures, const QColor& background, const Layout& layout) {
     QSize picture;
     for (const Picture& item : pictures) picture = picture.expandedTo(item.size);
-    const QSize cell = picture + QSize(0, layout.captionHeight);
+    const QSize cell = picture + QSize(0, layout.caption_height);
 
     const int count = static_cast<int>(pictures.size());
     QSize extent;
@@ -113,9 +111,9 @@ QImage drawSheet(const std::vector<Picture>& pictures, const QColor& background,
         const Picture& item = pictures[static_cast<std::size_t>(index)];
         const QPoint corner = position(index, cell, layout);
         item.renderer->render(&painter, QRectF(corner, item.size));
-        if (layout.captionHeight > 0) {
+        if (layout.caption_height > 0) {
             const QRect caption(corner.x(), corner.y() + picture.height(), cell.width(),
-                                layout.captionHeight);
+                                layout.caption_height);
             painter.setPen(Qt::white);
             painter.drawText(caption, Qt::AlignCenter, item.name);
         }
@@ -137,67 +135,64 @@ bool load(const QStringList& files, double scale, std::vector<Picture>& pictures
     return true;
 }
 
-QPoint pointFrom(const QString& text) {
+QPoint point_from(const QString& text) {
     const QStringList parts = text.split(QLatin1Char(','));
     return parts.size() == 2 ? QPoint(parts[0].toInt(), parts[1].toInt()) : QPoint();
 }
 
-}  // namespace
+void read(QCommandLineParser& line, const QGuiApplication& application) {
+    line.setApplicationDescription("Draws SVG files onto one sheet.");
+    line.addHelpOption();
+    line.addOptions({{{"o", "output"}, "Write the sheet to <file>.", "file", "sheet.png"},
+                     {{"s", "scale"}, "Draw pictures at <factor> times natural size.", "factor", "1"},
+                     {{"c", "columns"}, "Place <count> pictures in a row.", "count", "13"},
+                     {{"g", "gap"}, "Leave <pixels> between pictures.", "pixels", "6"},
+                     {{"b", "background"}, "Use <colour> for the table.", "colour", "#1f6b45"},
+                     {"overlap", "Advance by <x,y> pixels only, so that pictures overlap.", "x,y"},
+                     {"vision", "Show the sheet as seen by <kind>: protan, deutan or grey.", "kind"},
+                     {"crop", "Keep <x,y> pixels of the top left of the sheet.", "x,y"},
+                     {{"z", "zoom"}, "Show each pixel of the sheet as <count> pixels.", "count", "1"},
+                     {{"n", "names"}, "Write file names below the pictures."}});
+    line.addPositionalArgument("files", "SVG files to draw.", "files...");
+    line.process(application);
+}
 
-int main(int argc, char* argv[]) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
-
-    const QCommandLineOption output({"o", "output"}, "Write the sheet to <file>.", "file", "sheet.png");
-    const QCommandLineOption scale({"s", "scale"}, "Draw pictures at <factor> times natural size.", "factor",
-                                   "1");
-    const QCommandLineOption columns({"c", "columns"}, "Place <count> pictures in a row.", "count", "13");
-    const QCommandLineOption gap({"g", "gap"}, "Leave <pixels> between pictures.", "pixels", "6");
-    const QCommandLineOption background({"b", "background"}, "Use <colour> for the table.", "colour",
-                                        "#1f6b45");
-    const QCommandLineOption overlap("overlap", "Advance by <x,y> pixels only, so that pictures overlap.",
-                                     "x,y");
-    const QCommandLineOption vision("vision", "Show the sheet as seen by <kind>: protan, deutan or grey.",
-                                    "kind");
-    const QCommandLineOption crop("crop", "Keep <x,y> pixels of the top left of the sheet.", "x,y");
-    const QCommandLineOption zoom({"z", "zoom"}, "Show each pixel of the sheet as <count> pixels.", "count",
-                                  "1");
-    const QCommandLineOption names({"n", "names"}, "Write file names below the pictures.");
-    const QCommandLineOption timing({"t", "timing"}, "Report the time taken to parse the files.");
-
-    QCommandLineParser parser;
-    parser.setApplicationDescription("Draws SVG files onto one sheet.");
-    parser.addHelpOption();
-    parser.addOptions({output, scale, columns, gap, background, overlap, vision, crop, zoom, names, timing});
-    parser.addPositionalArgument("files", "SVG files to draw.", "files...");
-    parser.process(application);
-
-    const double factor = parser.value(scale).toDouble();
+Layout layout_from(const QCommandLineParser& line) {
     Layout layout;
-    layout.columns = parser.value(columns).toInt();
-    layout.gap = parser.value(gap).toInt();
-    layout.captionHeight = parser.isSet(names) ? 16 : 0;
-    if (parser.isSet(overlap)) layout.overlap = pointFrom(parser.value(overlap));
-    if (parser.positionalArguments().isEmpty() || factor <= 0.0 || layout.columns < 1 || layout.gap < 0)
-        parser.showHelp(EXIT_FAILURE);
+    layout.columns = line.value("columns").toInt();
+    layout.gap = line.value("gap").toInt();
+    layout.caption_height = line.isSet("names") ? 16 : 0;
+    if (line.isSet("overlap")) layout.overlap = point_from(line.value("overlap"));
+    return layout;
+}
 
-    QElapsedTimer timer;
-    timer.start();
-    std::vector<Picture> pictures;
-    if (!load(parser.positionalArguments(), factor, pictures)) return EXIT_FAILURE;
-    if (parser.isSet(timing))
-        QTextStream(stdout) << pictures.size() << " files parsed in " << timer.elapsed() << " ms\n";
-
-    QImage sheet = drawSheet(pictures, QColor(parser.value(background)), layout);
-    if (parser.isSet(crop)) {
-        const QPoint size = pointFrom(parser.value(crop));
+// What is done to the whole sheet in the end.
+QImage finished(QImage sheet, const QCommandLineParser& line) {
+    if (line.isSet("crop")) {
+        const QPoint size = point_from(line.value("crop"));
         sheet = sheet.copy(0, 0, size.x(), size.y());
     }
-    if (const int count = parser.value(zoom).toInt(); count > 1) sheet = sheet.scaled(sheet.size() * count);
-    if (const auto seenBy = visionNamed(parser.value(vision))) applyVision(sheet, *seenBy);
-    if (!sheet.save(parser.value(output))) {
-        QTextStream(stderr) << "cannot write " << parser.value(output) << '\n';
-        return EXIT_FAILURE;
+    if (const int count = line.value("zoom").toInt(); count > 1) sheet = sheet.scaled(sheet.size() * count);
+    if (const auto seen_by = vision_named(line.value("vision"))) apply_vision(sheet, *seen_by);
+    return sheet;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    QCommandLineParser line;
+    read(line, application);
+    const double scale = line.value("scale").toDouble();
+    const Layout layout = layout_from(line);
+    if (line.positionalArguments().isEmpty() || scale <= 0.0 || layout.columns < 1 || layout.gap < 0) {
+        line.showHelp(EXIT_FAILURE);
     }
-    return EXIT_SUCCESS;
+    std::vector<Picture> pictures;
+    if (!load(line.positionalArguments(), scale, pictures)) return EXIT_FAILURE;
+    const QImage sheet = finished(draw_sheet(pictures, QColor(line.value("background")), layout), line);
+    if (sheet.save(line.value("output"))) return EXIT_SUCCESS;
+    QTextStream(stderr) << "cannot write " << line.value("output") << '\n';
+    return EXIT_FAILURE;
 }
