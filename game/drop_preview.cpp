@@ -44,7 +44,7 @@ int receiver_of_drop(const Image& target, const Image& source, float x) {
     for (const int pile : {first, second}) {
         if (pile == none) continue;
         if (pile == from && is_sent_up(from)) return none;
-        if (pile != from && takes(pile, from)) return pile;
+        if (takes(pile, from)) return pile;
     }
     return none;
 }

@@ -112,6 +112,11 @@ MUTATIONS = {
         ("suppress_help = flag_true;", "", "automatic moves explain themselves"),
         (">= two", ">= ace", "an ace comes back from its pile"),
     ],
+    "game/drop_preview.cpp": [
+        ("if (pile == from && is_sent_up(from)) return none;", "", "a card that goes up marks its neighbour"),
+        ("card_of(from).rank < two", "card_of(from).rank < ace", "an ace that lies on its pile marks a column"),
+        ("!from_ace_pile && ace_pile_takes", "ace_pile_takes", "a card from an ace pile marks another one"),
+    ],
     "game/end_game.cpp": [
         (" <= score", " < score", "an equal score enters the table below"),
         ("if (score != 0) ", "", "a game without a point is counted"),
