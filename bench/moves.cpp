@@ -20,7 +20,6 @@ constexpr int rounds = 15;
 // The fifth column of this deal ends in an ace.
 constexpr std::uint32_t deal = 26;
 constexpr int column_of_ace = 4;
-constexpr int waste_pile = 16;
 
 // One game whose actions are timed.
 class TimedGame {
@@ -70,7 +69,7 @@ int main() {
         std::vector<double> undone;
         const XPlace pile = game.part_of(frmcards.Shape1(0).place());
         const XPlace column = game.part_of(top_image(column_of_ace).place());
-        const auto waste = [&] { return game.part_of(top_image(waste_pile).place()); };
+        const auto waste = [&] { return game.part_of(top_image(tablet_pile).place()); };
         // So that there is a turned card whose place can be watched.
         game.turn_first_card();
         for (int round = 0; round < rounds; ++round) {

@@ -60,7 +60,11 @@ void RandomPlay::drop() {
 }
 
 void fill_undo_list() {
-    while (undo_count() < most_undo_records) next_tablet_card();
+    RandomPlay play;
+    for (int drop = 0; undo_count() < most_undo_records; ++drop) {
+        play.drop();
+        if (drop % 8 == 0) next_tablet_card();
+    }
 }
 
 }  // namespace tarnwick

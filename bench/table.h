@@ -41,7 +41,7 @@ class RandomPlay {
     std::int64_t accepted_ = 0;
 };
 
-/// Turns the tablet until the undo list is full.
+/// Turns the tablet and plays at random until the undo list is full: about two turns for a move.
 void fill_undo_list();
 
 }  // namespace tarnwick

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QSvgRenderer>
+#include <cstdlib>
 
 #include "windows/pictures.h"
 
@@ -31,25 +32,32 @@ QPixmap render_picture(Picture picture, QSize size) {
 
 const QPixmap& PictureCache::pixmap(Picture picture, QSize size) {
     const Size wanted(size.width(), size.height());
-    if (const QPixmap* kept = find(picture, wanted)) return *kept;
+    const auto exact = sheets_.find(wanted);
+    if (exact != sheets_.end()) {
+        exact->second.used = true;
+        const auto found = exact->second.pixmaps.find(picture.number);
+        if (found != exact->second.pixmaps.end()) return found->second;
+    }
     if (in_haste_) {
-        for (const auto& [other, sheet] : sheets_) {
-            const QPixmap* kept = find(picture, other);
-            if (!kept) continue;
+        if (const QPixmap* other = nearest(picture, wanted)) {
             handed_out_another_size_ = true;
-            return *kept;
+            return *other;
         }
     }
     return sheets_[wanted].pixmaps.emplace(picture.number, render_picture(picture, size)).first->second;
 }
 
-const QPixmap* PictureCache::find(Picture picture, Size size) {
-    const auto sheet = sheets_.find(size);
-    if (sheet == sheets_.end()) return nullptr;
-    const auto found = sheet->second.pixmaps.find(picture.number);
-    if (found == sheet->second.pixmaps.end()) return nullptr;
-    sheet->second.used = true;
-    return &found->second;
+const QPixmap* PictureCache::nearest(Picture picture, Size wanted) const {
+    const QPixmap* best = nullptr;
+    int best_distance = 0;
+    for (const auto& [size, sheet] : sheets_) {
+        const auto found = sheet.pixmaps.find(picture.number);
+        const int distance = std::abs(size.first - wanted.first);
+        if (found == sheet.pixmaps.end() || (best && best_distance <= distance)) continue;
+        best = &found->second;
+        best_distance = distance;
+    }
+    return best;
 }
 
 bool PictureCache::end_haste() {

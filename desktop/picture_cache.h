@@ -17,7 +17,7 @@ QPixmap render_picture(Picture picture, QSize size);
 QImage render_drawing(const QString& name, QSize size = {}, qreal scale = 1);
 
 /// Keeps rendered pictures: each is drawn when it is first asked for in a size, and kept from then on.
-/// To draw takes far longer than to scale, so a cache in haste hands out what it has in any other size.
+/// To draw takes far longer than to scale, so a cache in haste hands out what it has in the nearest size.
 class PictureCache {
   public:
     /// The picture at a size in device pixels; in haste possibly at another one.
@@ -36,7 +36,7 @@ class PictureCache {
         bool used = true;
     };
 
-    const QPixmap* find(Picture picture, Size size);
+    const QPixmap* nearest(Picture picture, Size wanted) const;
 
     std::map<Size, Sheet> sheets_;
     bool in_haste_ = false;

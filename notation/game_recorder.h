@@ -8,7 +8,8 @@
 namespace tarnwick {
 
 /// Writes what the player does into a file as it happens, as a record that can be played again (see
-/// record.h). An action is in the file before it begins, so that the last line tells what went wrong.
+/// record.h). All but a new deal is in the file before it begins, so that the last line tells what went
+/// wrong.
 class GameRecorder {
   public:
     /// Goes on behind what the file holds. Throws std::runtime_error, in one clear sentence, when it cannot

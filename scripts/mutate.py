@@ -3,8 +3,9 @@
 
     python3 scripts/mutate.py [--only FILE] [--check] [FOLDER]
 
---only changes one file, as game/undo.cpp; --check only says whether all the places to change are still there. Works on a copy of the tree in FOLDER (build/mutate unless named), builds it again after each change, and
-prints which changes the tests caught. Ends with 1 when one survived.
+--only changes one file, as game/undo.cpp; --check only says whether all the places to change are still there. Works on
+a copy of the tree in FOLDER (build/mutate unless named), builds it again after each change, and prints which changes the
+tests caught. Ends with 1 when one survived.
 """
 
 import argparse

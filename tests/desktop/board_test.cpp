@@ -133,6 +133,9 @@ TEST(PictureCache, ScalesOnlyInHasteAndOnlyWhatItHas) {
     pictures.begin_haste();
     EXPECT_EQ(pictures.pixmap(lower, large).size(), large);
     EXPECT_FALSE(pictures.end_haste()) << "every picture was sharp";
+    pictures.pixmap(lower, small);
+    pictures.begin_haste();
+    EXPECT_EQ(pictures.pixmap(lower, {150, 203}).size(), large) << "the nearest size";
 }
 
 TEST(Board, ComesBackFromBeingMinimised) {
