@@ -171,8 +171,8 @@ MUTATIONS = {
         ("set_interval(twinkle_frame_time)", "set_interval(60)", "an idle twinkle plays slower"),
         ("set_interval(twinkle_idle_time)", "set_interval(900)", "the idle clock is faster"),
         ("twinkle_odds = 45", "twinkle_odds = 1000", "it hardly twinkles"),
-        ("ace_of_spades().left() > turned_card_limit * x_scale", "true", "the turned ace twinkles"),
-        ("ace_of_spades().top() == static_cast<float>(top_row) &&", "", "an ace in a column twinkles"),
+        ("shown_tablet_image() != ace_of_spades_image", "true", "the turned ace twinkles"),
+        ("ace_of_spades().top() == static_cast<float>(top_row)", "true", "an ace in a column twinkles"),
     ],
 }
 

@@ -12,12 +12,10 @@ constexpr int twinkle_odds = 45;
 
 Image& ace_of_spades() { return frmcards.Image1(ace_of_spades_image); }
 
+// In the top row, but not as the turned card of the tablet.
 bool ace_lies_on_top_of_a_pile() {
-    constexpr float turned_card_limit = 83.333F;
-    // The turned card lies a fraction of a pixel to the right of the limit at some widths.
     return shown_tablet_image() != ace_of_spades_image && ace_of_spades().visible() &&
-           ace_of_spades().top() == static_cast<float>(top_row) &&
-           ace_of_spades().left() > turned_card_limit * x_scale;
+           ace_of_spades().top() == static_cast<float>(top_row);
 }
 
 void show_twinkle_frame() {
