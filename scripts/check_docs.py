@@ -37,7 +37,8 @@ RUN = {
     "python3 scripts/mutate.py --only game/undo.cpp": "python3 scripts/mutate.py --only game/undo.cpp --check",
     "scripts/screenshot.sh settings settings.png --scale 1.5 --font 12 --dark":
         "scripts/screenshot.sh settings SCRATCH/settings.png --scale 1.5 --font 12 --dark",
-    "build/contact_sheet -o sheet.png art/backs/*.svg": "build/contact_sheet -o SCRATCH/sheet.png art/backs/*.svg",
+    "cmake --build build --target contact_sheet && build/contact_sheet -o sheet.png art/backs/*.svg":
+        "cmake --build build --target contact_sheet && build/contact_sheet -o SCRATCH/sheet.png art/backs/*.svg",
     "python3 art/generate.py": "python3 art/generate.py SCRATCH/art && "
         "for folder in SCRATCH/art/*; do diff -r $folder art/${folder##*/} || exit 1; done",
 }
