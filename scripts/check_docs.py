@@ -16,7 +16,7 @@ import tempfile
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 DOCUMENTS = ["README.md", "CONTRIBUTING.md"]
 # What a command begins with.
-COMMAND = re.compile(r"bench/run|(\./|cmake |cpack |tarnwick |build/|scripts/|python3 |apt )\S.*")
+COMMAND = re.compile(r"bench/run|scripts/\S+\.sh.*|(\./|cmake |cpack |tarnwick |build/|python3 |apt )\S.*")
 
 # How each command is run here; SCRATCH is a folder that goes afterwards.
 RUN = {
