@@ -74,9 +74,10 @@ void apply_vision(QImage& sheet, const Vision& vision) {
             const std::array<double, 3> seen{to_linear(colour.red()), to_linear(colour.green()),
                                              to_linear(colour.blue())};
             std::array<int, 3> shown{};
-            for (std::size_t row = 0; row < 3; ++row)
+            for (std::size_t row = 0; row < 3; ++row) {
                 shown[row] = from_linear(vision[row][0] * seen[0] + vision[row][1] * seen[1] +
                                          vision[row][2] * seen[2]);
+            }
             sheet.setPixelColor(x, y, QColor(shown[0], shown[1], shown[2]));
         }
     }
