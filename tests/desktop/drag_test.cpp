@@ -14,7 +14,6 @@ constexpr const char* program = TARNWICK_PROGRAM;
 // The columns of this deal end in Q♦ 10♥ K♦ 6♠ A♣ 2♥ J♦ 9♣ 6♦ Q♣.
 constexpr std::uint32_t deal = 26;
 constexpr int column_of_king = 2;
-constexpr int column_of_ace = 4;
 constexpr int column_of_jack = 6;
 constexpr int column_of_queen = 9;
 
@@ -36,18 +35,6 @@ TEST(Drag, LiftedCardsFollowThePointerToAColumn) {
     EXPECT_EQ(board_faults(game), "") << "put down";
 }
 
-TEST(Drag, ARefusedCardComesBack) {
-    TwinGame game({program, deal});
-    const QImage before = expected_board();
-    game.drag(column_of_king, column_of_ace);
-    game.drag(TwinGame::spot_on(top_image(column_of_jack)), below_first_column);
-    EXPECT_EQ(expected_board(), before);
-    EXPECT_EQ(board_faults(game), "");
-    // What comes after is not disturbed, and shows that all of it has been dealt with.
-    game.space();
-    EXPECT_EQ(board_faults(game), "");
-}
-
 TEST(Drag, EscapeEndsADrag) {
     TwinGame game({program, deal});
     game.press(TwinGame::spot_on(top_image(column_of_jack)));
@@ -60,25 +47,6 @@ TEST(Drag, EscapeEndsADrag) {
     game.space();
     EXPECT_EQ(column_top(column_of_queen), column_of_queen);
     EXPECT_EQ(board_faults(game), "") << "at the release after it";
-}
-
-TEST(Drag, OtherButtonsDoNotDisturbADrag) {
-    TwinGame game({program, deal});
-    game.press(TwinGame::spot_on(top_image(column_of_jack)));
-    game.move(below_first_column);
-    const Spot target = TwinGame::spot_on(top_image(column_of_queen));
-    game.press(target, XButton::right);
-    game.release(target, XButton::right);
-    EXPECT_NE(frmcards.mouse().dragged(), nullptr);
-    EXPECT_EQ(board_faults(game), "") << "while it is held";
-    game.release(target);
-    EXPECT_EQ(column_top(column_of_queen), column_of_queen + 1);
-    EXPECT_EQ(board_faults(game), "");
-    game.press(TwinGame::spot_on(frmcards.Image1(stock_image)), XButton::right);
-    game.release(TwinGame::spot_on(frmcards.Image1(stock_image)), XButton::right);
-    game.space();
-    EXPECT_EQ(turned_slot(), 4) << "the right button has turned the tablet";
-    EXPECT_EQ(board_faults(game), "");
 }
 
 TEST(Drag, TheReceiverIsMarkedWhileThePointerIsOverIt) {
@@ -98,16 +66,6 @@ TEST(Drag, TheReceiverIsMarkedWhileThePointerIsOverIt) {
     game.move(queen);
     game.release(queen);
     EXPECT_EQ(board_faults(game), "") << "put down";
-}
-
-TEST(Drag, AnEmptyPileIsMarkedByItsOutline) {
-    TwinGame game({program, deal, {{"scale cards", "False"}}});
-    game.press(TwinGame::spot_on(top_image(column_of_ace)));
-    const Image& zone = top_image(ace_pile(2));
-    game.move({static_cast<int>(zone.left()) + 4, static_cast<int>(zone.top()) + 60});
-    EXPECT_EQ(frmcards.mouse().receiver(), &frmcards.Shape1(2));
-    EXPECT_EQ(board_faults(game), "");
-    game.release(below_first_column);
 }
 
 TEST(Drag, ARefusedCardIsSeenToGlideBack) {

@@ -2,7 +2,6 @@
 
 #include "state/variables.h"
 #include "tools/driver/board_picture.h"
-#include "tools/driver/eventually.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {
@@ -19,55 +18,8 @@ void score_two(TwinGame& game) {
     ASSERT_EQ(board_faults(game), "");
 }
 
-TEST(Endings, AClosedGameWithABestScoreStillAsksForTheName) {
-    TwinGame game({program, 26});
-    score_two(game);
-    game.screen().key("ctrl+q");
-    const XWindow dialog = game.wait_for(win_title);
-    EXPECT_TRUE(game.goes(main_title));
-    ASSERT_TRUE(game.gets_keyboard(dialog));
-    game.screen().type("Bo");
-    game.screen().key("Return");
-    ASSERT_TRUE(game.gets_keyboard(game.wait_for("Scores")));
-    EXPECT_EQ(game.stored("high score 1"), "2");
-    EXPECT_EQ(game.stored("high score name 1"), "Bo");
-    EXPECT_TRUE(game.program().running()) << "a window is open";
-    game.screen().key("Return");
-    EXPECT_EQ(game.program().exit_code(), 0);
-    EXPECT_EQ(game.stored("games won"), "-");
-}
-
-TEST(Endings, AScoreIsNotLostWhenItsDialogIsClosed) {
-    TwinGame game({program, 26});
-    score_two(game);
-    game.screen().key("F2");
-    const XWindow dialog = game.wait_for(win_title);
-    ASSERT_TRUE(game.gets_keyboard(dialog));
-    EXPECT_EQ(game.screen().stacking().back(), dialog);
-    game.screen().close(dialog);
-    ASSERT_TRUE(game.gets_keyboard(game.wait_for("Scores")));
-    EXPECT_EQ(game.stored("high score 1"), "2");
-    EXPECT_EQ(game.stored("high score name 1"), "");
-    game.screen().key("Escape");
-    ASSERT_TRUE(game.gets_keyboard(game.window()));
-    game.space();
-    EXPECT_TRUE(game.program().running());
-}
-
 // A number of games that is no number makes the end of a game fail.
 const std::map<std::string, std::string> broken{{"games played", "many"}};
-
-TEST(Endings, AfterAnErrorThePlayerGoesOn) {
-    TwinGame game({program, 26, broken});
-    score_two(game);
-    game.screen().key("F2");
-    ASSERT_TRUE(game.gets_keyboard(game.wait_for("Error")));
-    game.screen().key("Return");
-    ASSERT_TRUE(game.goes("Error"));
-    ASSERT_TRUE(game.gets_keyboard(game.window()));
-    game.space();
-    EXPECT_EQ(board_faults(game), "") << "the game in hand is still there";
-}
 
 TEST(Endings, AfterAnErrorThePlayerClosesTheGame) {
     TwinGame game({program, 26, broken});

@@ -36,22 +36,12 @@ TEST_P(EntryForTheGame, IsChosenWithKeys) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Menus, EntryForTheGame,
-                         testing::Values(std::pair{Keys{"F3"}, &frmcards.mnuRestart},
+                         testing::Values(std::pair{Keys{"F2"}, &frmcards.mnuNew},
+                                         std::pair{Keys{"alt+f", "n"}, &frmcards.mnuNew},
+                                         std::pair{Keys{"F3"}, &frmcards.mnuRestart},
                                          std::pair{Keys{"alt+f", "r"}, &frmcards.mnuRestart},
                                          std::pair{Keys{"ctrl+u"}, &frmcards.mnuUndo},
                                          std::pair{Keys{"alt+s", "u"}, &frmcards.mnuUndo}));
-
-TEST(Menus, TheNextDealComesByMenuAndKey) {
-    TwinGame game({program, 26});
-    for (const Keys& keys : {Keys{"F2"}, Keys{"alt+f", "n"}}) {
-        game.space();
-        press_keys(game, keys);
-        frmcards.mnuNew.choose();
-        ASSERT_EQ(turned_slot(), -1);
-        EXPECT_EQ(board_faults(game), "") << keys[0];
-    }
-    EXPECT_EQ(game.stored("games played"), "-") << "games without a point are not counted";
-}
 
 TEST(Menus, EachWindowOpensByKeysAndClosesByEscape) {
     TwinGame game({program, 26});

@@ -2,10 +2,10 @@
 
 #include <QDate>
 #include <QLocale>
-#include <fstream>
-#include <sstream>
 
+#include "notation/record.h"
 #include "state/variables.h"
+#include "tests/store/scratch_folder.h"
 #include "tools/driver/board_picture.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmyouwin.h"
@@ -15,48 +15,17 @@ namespace {
 
 constexpr int enter_key = 13;
 
-struct Record {
-    std::uint32_t deal = 0;
-    std::vector<std::string> actions;
-};
-
-Record read_record(const std::string& file) {
-    Record record;
-    std::ifstream lines(file);
-    for (std::string line; std::getline(lines, line);) {
-        if (line.empty() || line[0] == '#') continue;
-        if (line.rfind("deal ", 0) == 0) {
-            record.deal = static_cast<std::uint32_t>(std::stoul(line.substr(5)));
-        } else {
-            record.actions.push_back(line);
-        }
-    }
-    return record;
-}
-
-void act(TwinGame& game, const std::string& line) {
-    std::istringstream words(line);
-    std::string action;
-    int from = 0;
-    int to = 0;
-    words >> action >> from >> to;
-    if (action == "turn") {
-        game.space();
-    } else if (action == "click") {
-        game.click(from);
-    } else if (action == "drag") {
-        game.drag(from, to);
-    } else {
-        FAIL() << "cannot do \"" << line << '"';
-    }
+void act(TwinGame& game, const Action& action) {
+    if (action.kind == ActionKind::turn) return game.space();
+    action.source == action.target ? game.click(action.source) : game.drag(action.source, action.target);
 }
 
 TEST(WinningGame, IsPlayedToTheNameAndTheNextDeal) {
-    const Record record = read_record(TARNWICK_WINNING_GAME);
-    ASSERT_FALSE(record.actions.empty());
-    TwinGame game({TARNWICK_PROGRAM, record.deal, {{"anamate", "False"}}});
+    std::vector<Action> record = parse_record(ScratchFolder::contents(TARNWICK_WINNING_GAME));
+    TwinGame game({TARNWICK_PROGRAM, record[0].deal, {{"anamate", "False"}}});
+    record.erase(record.begin());
     int done = 0;
-    for (const std::string& action : record.actions) {
+    for (const Action& action : record) {
         ASSERT_FALSE(frmyouwin.visible()) << "the game is over before it is";
         act(game, action);
         constexpr int often_enough = 40;

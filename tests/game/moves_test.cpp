@@ -47,20 +47,13 @@ TEST(Move, BetweenColumns) {
         // Exchange: the King's run goes beneath the column that continues it.
         {"4: [3♦] [9♣] K♠ Q♥\n6: J♣ 10♦", "drag 4 6", "4: [3♦] 9♣\n6: K♠ Q♥ J♣ 10♦",
          "(4 6 3) (99 99 99) (6 4 1)"},
-        {"4: K♠\n6: Q♦", "drag 4 6", "4: -\n6: K♠ Q♦", "(4 6 1) (6 4 0)"},
         {"9: [2♣] [3♣] [4♣] [5♣] [6♣] [7♣] [8♣] [9♣] [10♣] K♠ Q♥ J♠ 10♥ 9♠ 8♥\n0: 7♠ 6♥ 5♠ 4♥ 3♠ 2♥ A♠",
          "drag 9 0",
          "9: [2♣] [3♣] [4♣] [5♣] [6♣] [7♣] [8♣] [9♣] 10♣\n0: K♠ Q♥ J♠ 10♥ 9♠ 8♥ 7♠ 6♥ 5♠ 4♥ 3♠ 2♥ A♠",
          "(9 0 12) (99 99 99) (0 9 6)"},
-        {"0: 7♠\n1: 6♣", "drag 1 0", refused},
-        {"0: 8♠\n1: 6♥", "drag 1 0", refused},
-        {"0: 6♥\n1: 7♠", "drag 1 0", refused},
-        {"0: Q♠\n1: -", "drag 0 1", refused},
         {"0: 7♠\n4: [6♥] 2♣", "drag 4 0", refused},
-        {"3: [K♠] 2♣", "drag 3 5", refused},
         {"3: [9♣] K♠ Q♥\n4: [J♣] 10♦", "drag 3 4", refused},
         {"3: [9♣] K♠ Q♥\n4: J♦ 10♣", "drag 3 4", refused},
-        {"3: [9♣] K♠ Q♥\n4: Q♦", "drag 3 4", refused},
     };
     for (const Situation& situation : situations) expect_outcome(situation);
 }
@@ -69,18 +62,13 @@ TEST(Move, FromTabletAndAcePilesToAColumn) {
     const Situation situations[] = {
         {"0: 7♠\ntablet: 2♣ (6♥) 3♣", "drag tablet 0", "0: 7♠ 6♥\ntablet: (2♣) 3♣", "(16 0 1)"},
         {"tablet: (K♥) 3♣", "drag tablet 8", "8: K♥\ntablet: 3♣", "(16 8 1)"},
-        {"tablet: (Q♥)", "drag tablet 0", refused},
         // Both cards of a rank lie, one lies, the two on its ace.
         {"0: 4♣\nace 1: .. 3♥ 3♥'", "drag ace 1 0", "0: 4♣ 3♥'\nace 1: A♥ .. 3♥", "(13 0 1)"},
         {"0: 4♣\nace 1: A♥ 2♥' 2♥ 3♥", "drag ace 1 0", "0: 4♣ 3♥\nace 1: A♥ 2♥' 2♥", "(13 0 1)"},
         {"0: 3♥\nace 1: A♠ 2♠", "drag ace 1 0", "0: 3♥ 2♠\nace 1: A♠", "(13 0 1)"},
         {"ace 1: .. K♠ K♠'", "drag ace 1 9", "9: K♠'\nace 1: A♠ .. K♠", "(13 9 1)"},
-        {"0: 3♠\nace 1: A♠ 2♠", "drag ace 1 0", refused},
-        {"ace 1: .. Q♠", "drag ace 1 9", refused},
-        {"0: 2♠\nace 0: A♥", "drag ace 0 0", refused},
         {"ace 0: A♥ 2♥", "drag ace 0 ace 3", refused},
         {"ace 0: A♥ 2♥", "drag ace 0 tablet", refused},
-        {"2: 8♦", "drag 2 tablet", refused},
     };
     for (const Situation& situation : situations) expect_outcome(situation);
 }
@@ -105,10 +93,8 @@ TEST(Move, ToAnAcePile) {
          "Only a 2 of Spades can be placed on the Ace of Spades"},
         {"4: 3♠\nace 0: A♠ 2♠", "drag 4 ace 0", refused, "", "Place the other 2 of Spades on top"},
         {"4: 4♠\nace 0: .. 2♠ 2♠'", "drag 4 ace 0", refused, "", "Place a 3 of Spades on top"},
-        {"4: Q♦\nace 0: .. 10♦ 10♦'", "drag 4 ace 0", refused, "", "Place a Jack of Diamonds on top"},
         {"4: K♣\nace 0: .. Q♣", "drag 4 ace 0", refused, "", "Place the other Queen of Clubs on top"},
         {"4: K♥\nace 0: .. Q♣ Q♣'", "drag 4 ace 0", refused, "", "Place a King of Clubs on top"},
-        {"4: K♥\nace 0: .. K♣ K♣'", "drag 4 ace 0", refused},
     };
     for (const Situation& situation : situations) expect_outcome(situation);
 }
@@ -121,7 +107,6 @@ TEST(Move, OfAClickedCardGoesToItsAcePile) {
         {"tablet: (A♦)", "drag tablet tablet", "tablet: -\nace 0: A♦", "(16 12 1)"},
         // No pile of the suit, a card that does not fit, a card on an ace pile: never a message.
         {"4: 2♣\nace 0: A♥", "drag 4 4", refused},
-        {"4: 3♥\nace 0: A♥", "drag 4 4", refused},
         {"tablet: (3♥)\nace 0: A♥", "drag tablet tablet", refused},
         {"ace 0: A♥ 2♥", "drag ace 0 ace 0", refused},
     };
@@ -190,18 +175,6 @@ TEST(Undo, OfTheFirstTurnLeavesTheTabletWhenNothingElseIsRecorded) {
     play.undo();
     EXPECT_EQ(turned_slot(), 4);
     EXPECT_FALSE(frmcards.mnuUndo.visible());
-}
-
-TEST(Undo, GoesBackThroughPassesAndExchangesStepByStep) {
-    Play play;
-    play.start("4: [3♦] [9♣] K♠ Q♥\n6: J♣ 10♦\ntablet: 2♥ 3♥ 4♥ 5♥ 6♥' 7♥");
-    play.act("drag 4 6, turn, turn, turn");
-    for (const char* position : {"tablet: 2♥ 3♥ 4♥ 5♥ 6♥' (7♥)", "tablet: 2♥ 3♥ 4♥ 5♥ (6♥') 7♥",
-                                 "tablet: 2♥ 3♥ 4♥ 5♥ 6♥' 7♥", "4: [3♦] [9♣] K♠ Q♥ J♣ 10♦\n6: -"}) {
-        play.undo();
-        EXPECT_TRUE(shows(position)) << position_text();
-        EXPECT_EQ(display_faults(), "");
-    }
 }
 
 TEST(Undo, OfAFullListLosesAMoveTogetherWithTheCardItTurnedUp) {

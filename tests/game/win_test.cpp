@@ -42,24 +42,6 @@ class WonBySlide : public testing::Test {
     Play play;
 };
 
-TEST_F(WonBySlide, WhenTheCardHasArrived) {
-    slide(last_king, 2);
-    while (frmcards.Timer3.enabled()) {
-        EXPECT_FALSE(frmyouwin.visible());
-        play.desktop.advance(30);
-    }
-    EXPECT_TRUE(frmyouwin.visible());
-    EXPECT_EQ(display_faults(), "") << "the pile is laid out by then";
-}
-
-TEST_F(WonBySlide, ThatAnotherDropLandsEarly) {
-    slide(last_king, 2);
-    play.act("drag ace 1 ace 2");
-    EXPECT_TRUE(frmyouwin.visible());
-    play.desktop.advance(1000);
-    EXPECT_EQ(play.stored("games played"), "1") << "counted once";
-}
-
 TEST_F(WonBySlide, NotWhenTheDropThatLandsItTakesAKingBack) {
     slide(last_king, 2);
     play.act("drag ace 1 5");

@@ -69,18 +69,6 @@ TEST(GameRecorder, WritesAGameThatComesOutTheSame) {
     }
 }
 
-TEST(GameRecorder, GoesOnBehindWhatTheFileHolds) {
-    const ScratchFolder folder("record");
-    const std::string name = folder / "game.txt";
-    for (const std::uint32_t deal : {3U, 4U}) {
-        GameRecorder recorder(name);
-        Play play;
-        play.start(deal);
-        recorder.begin();
-    }
-    EXPECT_EQ(ScratchFolder::contents(name), "deal 3\ndeal 4\n");
-}
-
 TEST(GameRecorder, TellsOnceWhenTheDiskIsFull) {
     if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "this system has no full device";
     GameRecorder recorder("/dev/full");

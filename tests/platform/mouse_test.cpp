@@ -103,21 +103,5 @@ TEST_F(MouseTest, DropsADraggedImageWithTheOffsetInTwips) {
     EXPECT_EQ(drag(210, 180, 180), "") << "no image, no drop";
 }
 
-TEST_F(MouseTest, EndsADragWithoutADropOnCancelAndWhenTheWindowIsDisabled) {
-    for (const bool cancelled : {true, false}) {
-        window.mouse().press(210, 10);
-        ASSERT_EQ(window.mouse().dragged(), &window.images(3));
-        cancelled ? window.mouse().cancel() : window.set_enabled(false);
-        EXPECT_EQ(window.mouse().dragged(), nullptr);
-        window.mouse().release(60, 30);
-        EXPECT_EQ(window.log, "");
-    }
-    EXPECT_EQ(drag(25, 25), "") << "a disabled window takes no input";
-    window.close();
-    EXPECT_TRUE(window.loaded()) << "not even its close box";
-    window.set_enabled(true);
-    EXPECT_EQ(drag(25, 25), "click 0. ");
-}
-
 }  // namespace
 }  // namespace tarnwick

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <stdexcept>
 #include <vector>
 
 #include "platform/form.h"
@@ -52,18 +51,6 @@ TEST_F(TimerTest, TicksAtItsIntervalWhileEnabledAndLoaded) {
     EXPECT_EQ(ticks.size(), 4U);
 }
 
-TEST_F(TimerTest, StartsANewPeriodWhenTheIntervalChanges) {
-    desktop.advance(90);
-    timer.set_interval(30);
-    desktop.advance(40);
-    timer.set_interval(30);
-    desktop.advance(20);
-    EXPECT_EQ(ticks, (Times{120, 150})) << "the same interval again changes nothing";
-    timer.set_interval(0);
-    desktop.advance(1000);
-    EXPECT_EQ(ticks.size(), 2U);
-}
-
 TEST_F(TimerTest, TicksOnceAfterASleepAndNeverWithinAnEvent) {
     desktop.sleep(1050);
     EXPECT_EQ(ticks, Times{1050}) << "missed ticks are not made up for";
@@ -73,26 +60,6 @@ TEST_F(TimerTest, TicksOnceAfterASleepAndNeverWithinAnEvent) {
     });
     desktop.sleep(0);
     EXPECT_EQ(ticks, (Times{1050, 1550}));
-}
-
-TEST(Event, ThatFailsIsToldOnceAndTheProgramGoesOn) {
-    HeadlessDesktop desktop;
-    desktop.event([] { throw std::runtime_error("no such card"); });
-    ASSERT_EQ(desktop.messages().size(), 1U);
-    EXPECT_NE(desktop.messages()[0].text.find("no such card"), std::string::npos);
-    EXPECT_FALSE(desktop.in_event());
-}
-
-TEST(Event, IsFollowedByWhatWasLeftForLater) {
-    HeadlessDesktop desktop;
-    std::string order;
-    desktop.event([&] {
-        desktop.after_event([&order] { order += "later "; });
-        desktop.event([&order] { order += "inner "; });
-        order += "outer ";
-    });
-    desktop.after_event([&order] { order += "at once"; });
-    EXPECT_EQ(order, "inner outer later at once");
 }
 
 }  // namespace

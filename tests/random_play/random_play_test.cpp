@@ -9,6 +9,7 @@
 #include <random>
 #include <sstream>
 
+#include "game/drop_preview.h"
 #include "notation/position_text.h"
 #include "state/soundness.h"
 #include "state/undo_list.h"
@@ -126,11 +127,28 @@ class RandomPlayer {
         const bool slid = slides();
         if (slid) count("drop during a slide");
         const bool clicked = move.to > last_column && below(2) == 0;
-        clicked ? play_.click(move.from) : play_.drag(move.from, move.to);
+        clicked ? play_.click(move.from) : drag(move.from, move.to);
         if (slides() && !slid) count("slide");
         // A card in flight may be in the way.
         expect(slid || frmyouwin.visible() || position_text() != before,
                "the move " + std::to_string(move.from) + " to " + std::to_string(move.to) + " was refused");
+    }
+
+    // A drop in the middle of what lies on top there; what is foretold of it must come true.
+    void drag(int from, int to) {
+        const Image& source = top_image(from);
+        const int foretold = receiver_of_drop(top_image(to), source, middle * twips_per_pixel);
+        const std::string before = position_text();
+        const int records = undo_count();
+        // An empty pile has only its zone to take hold of.
+        const bool foretells =
+            !slides() && source.drag_mode() == DragMode::automatic && records < most_undo_records - 3;
+        play_.drag(from, to);
+        if (!foretells || frmyouwin.visible()) return;
+        const int receiver = undo_count() == records ? none : int{undo_list(0, 1)};
+        if (receiver != none) count("foretold");
+        expect(receiver == foretold, "foretold " + std::to_string(foretold) + " of a drop on " +
+                                         std::to_string(to) + " in\n" + before);
     }
 
     void try_any_move() {
@@ -142,7 +160,7 @@ class RandomPlayer {
             legal = legal || (move.from == from && move.to == to);
         }
         const std::string before = position_text();
-        play_.drag(from, to);
+        drag(from, to);
         if (!legal) count("refused");
         expect(legal || position_text() == before, "an illegal move was made");
     }
@@ -288,7 +306,7 @@ TEST(RandomPlay, KeepsTheRulesWhateverThePlayerDoes) {
         "card turned up,exchange,refused,slide,drop during a slide,resize during a slide,peek,undo of turn,"
         "undo of tablet to column,undo of tablet to ace pile,undo of ace pile to column,"
         "undo of column to ace pile,undo of column to column,undo during a slide,everything undone,"
-        "move beyond a full undo list,restart,new game,game won,game won by a slide");
+        "move beyond a full undo list,foretold,restart,new game,game won,game won by a slide");
     for (std::string kind; std::getline(kinds, kind, ',');) {
         EXPECT_GT(counts[kind], 0) << kind;
         RecordProperty(kind, std::to_string(counts[kind]));

@@ -62,58 +62,6 @@ TEST_F(StoreTest, MakesATransactionOneChange) {
     EXPECT_EQ(read(onlooker, "high score 1"), "70");
 }
 
-TEST_F(StoreTest, LetsTwoProgramsCountInTheSameFile) {
-    SqliteStore one(path);
-    SqliteStore two(path);
-    for (int i = 0; i < 20; ++i) {
-        Store& store = i % 2 == 0 ? one : two;
-        store.transaction([&] {
-            const std::string played = read(store, "games played");
-            save(store, "games played", std::to_string(played == "-" ? 1 : std::stoi(played) + 1));
-        });
-    }
-    EXPECT_EQ(read(one, "games played"), "20");
-    EXPECT_EQ(read(two, "games played"), "20");
-}
-
-TEST_F(StoreTest, SetsADamagedFileAsideAndTellsOnce) {
-    path = folder / "settings.sqlite";
-    ScratchFolder::write(folder / "settings.sqlite",
-                         "this is not a database, but a player may have something dear in it");
-    ScratchFolder::write(folder / "settings.damaged-1.sqlite", "an earlier one");
-    SqliteStore store(path);
-    listen(store);
-    save(store, "games played", "1");
-    EXPECT_EQ(read(store, "games played"), "1");
-    ASSERT_EQ(told.size(), 1U);
-    EXPECT_NE(told[0].find("settings.damaged-2.sqlite"), std::string::npos);
-    EXPECT_EQ(ScratchFolder::contents(folder / "settings.damaged-2.sqlite").substr(0, 13), "this is not a");
-    EXPECT_EQ(read(*std::make_unique<SqliteStore>(path), "games played"), "1");
-}
-
-TEST_F(StoreTest, BeginsANewFileWhenTheOldOneIsTakenAway) {
-    SqliteStore store(path);
-    save(store, "games played", "7");
-    std::filesystem::remove(path);
-    EXPECT_EQ(read(store, "games played"), "-");
-    save(store, "games played", "1");
-    SqliteStore next(path);
-    EXPECT_EQ(read(next, "games played"), "1");
-}
-
-// A folder that cannot be made stands for every file that cannot be written: it works for the superuser too.
-TEST_F(StoreTest, PlaysOnInMemoryWhereNothingCanBeWritten) {
-    ScratchFolder::write(folder / "new", "a file where the folder should be");
-    SqliteStore store(path);
-    listen(store);
-    save(store, "games played", "3");
-    store.transaction([&] { save(store, "average score", "120"); });
-    EXPECT_EQ(read(store, "games played"), "3");
-    EXPECT_EQ(read(store, "average score"), "120");
-    ASSERT_EQ(told.size(), 1U) << "told once";
-    EXPECT_NE(told[0].find("cannot be saved"), std::string::npos);
-}
-
 TEST_F(StoreTest, WritesWhatCouldNotBeWrittenOnceTheDiskHasRoomAgain) {
     FaultyDisk disk;
     SqliteStore store(path);

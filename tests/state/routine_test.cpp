@@ -77,15 +77,5 @@ TEST(ErrorDialog, AnswerIsForgottenByANewGameAndARestart) {
     }
 }
 
-TEST(ErrorDialog, ClosesTheGameWithItsResult) {
-    Play play;
-    play.start("0: 7♠\n4: [2♣] 6♥");
-    play.drag(4, 0);
-    redisplay_column(10);
-    frmError.Command2.click();
-    EXPECT_FALSE(frmcards.loaded() || frmError.loaded());
-    EXPECT_EQ(play.stored("games played"), "1");
-}
-
 }  // namespace
 }  // namespace tarnwick

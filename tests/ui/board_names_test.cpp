@@ -23,12 +23,6 @@ const BoardItem* item_of(const std::vector<BoardItem>& items, const Widget& widg
     return item == items.end() ? nullptr : &*item;
 }
 
-std::string name_of(const Widget& widget) {
-    const std::vector<BoardItem> items = frmcards.on_describe();
-    const BoardItem* item = item_of(items, widget);
-    return item ? item->name : "-";
-}
-
 TEST(BoardNames, TellEveryPileInReadingOrder) {
     Play play;
     play.start(
@@ -72,37 +66,6 @@ TEST(BoardNames, BelongToWhatIsSeen) {
     EXPECT_EQ(faults(), "") << "and has arrived";
     play.drag(6, 9);
     EXPECT_EQ(faults(), "") << "a card was turned up";
-}
-
-TEST(BoardNames, FollowTheGame) {
-    Play play;
-    play.start(26);
-    const Image& stock = frmcards.Image1(stock_image);
-    EXPECT_EQ(name_of(stock), "stock, 45 cards face down");
-    play.click_stock();
-    EXPECT_EQ(name_of(stock), "stock, 40 cards face down");
-    play.click_stock(8);
-    EXPECT_EQ(name_of(stock), "stock, all cards turned");
-
-    const Image& covered = frmcards.Image1(face_down_image(5, 2));
-    EXPECT_EQ(name_of(covered), "face-down card 3 of column 6");
-    play.double_click(covered);
-    EXPECT_TRUE(name_of(covered).ends_with(", face-down card 3 of column 6")) << "peeked at";
-    play.desktop.advance(1500);
-    EXPECT_EQ(name_of(covered), "face-down card 3 of column 6");
-}
-
-TEST(BoardNames, SayHowManyClicksAct) {
-    Play play;
-    play.start("0: K♠ Q♥\n1: [..] 2♣\nace 0: A♠\ntablet: (4♣) ..");
-    const std::vector<BoardItem> items = frmcards.on_describe();
-    const auto clicks = [&](int image) { return item_of(items, frmcards.Image1(image))->clicks; };
-    EXPECT_EQ(clicks(stock_image), 1);
-    EXPECT_EQ(clicks(turned_card().picture), 1);
-    EXPECT_EQ(clicks(top_card(0).picture), 1);
-    EXPECT_EQ(clicks(face_down_image(1, 0)), 2);
-    EXPECT_EQ(clicks(ace_of_spades_image), 0) << "cards leave the ace piles only by a drag";
-    EXPECT_EQ(clicks(first_column_zone + 2), 0);
 }
 
 }  // namespace

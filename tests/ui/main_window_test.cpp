@@ -4,7 +4,6 @@
 #include "state/soundness.h"
 #include "state/variables.h"
 #include "tools/driver/play.h"
-#include "windows/frmCommon.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {
@@ -34,16 +33,6 @@ TEST(MainWindow, HasTheMenusItIsKnownFor) {
     EXPECT_EQ(text,
               "&File: &New Game F2, &Restart Game F3, &Best Score , &Exit Ctrl+Q, "
               "&Settings: &Undo Ctrl+U, &Change Settings , &Help: &Help F1, ");
-}
-
-TEST(Help, OpensTheHelpFileAndSaysNothingWhenThereIsNone) {
-    Play play;
-    play.start();
-    frmcards.mnuAbout.choose();
-    EXPECT_EQ(play.desktop.help_shown(), std::vector<std::string>{"Tarnwick.hlp"});
-    play.desktop.set_help_found(false);
-    frmcards.mnuAbout.choose();
-    EXPECT_EQ(play.message(), "");
 }
 
 TEST(Drag, LiftsTheRunThatLiesOnTheCard) {

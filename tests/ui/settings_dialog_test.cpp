@@ -116,16 +116,5 @@ TEST_F(SettingsDialog, SavesAPickedColorAtOnceButShowsItOnConfirmation) {
     EXPECT_EQ(frmcards.Shape1(0).border_color(), 7);
 }
 
-TEST_F(SettingsDialog, OpensOverStoredTextsThatCannotBeUsed) {
-    play.save("card back", "9");
-    play.save("back color", "green");
-    open();
-    EXPECT_EQ(bordered_back(), 0);
-    EXPECT_EQ(frmFeatures.txtBackColor.back_color(), 32768);
-    EXPECT_NE(play.message().find("back color"), std::string::npos);
-    frmFeatures.close();
-    EXPECT_TRUE(frmcards.enabled());
-}
-
 }  // namespace
 }  // namespace tarnwick

@@ -60,14 +60,6 @@ class SlideUnderWay : public testing::Test {
     Play play;
 };
 
-TEST_F(SlideUnderWay, LandsWhenItsCardIsClicked) {
-    slide("0: 2♠\n4: 3♥\nace 3: A♠", 0, 95);
-    play.drag_image(frmcards.Image1(226), frmcards.Image1(226));
-    EXPECT_TRUE(shows("0: -\nace 3: A♠ 2♠"));
-    EXPECT_FALSE(frmcards.Timer3.enabled());
-    EXPECT_EQ(display_faults(), "");
-}
-
 TEST_F(SlideUnderWay, TakesADropOnItsCardAlongToTheAcePile) {
     // Between tablet and ace piles it passes places that belong to no pile.
     slide("0: 2♠'\nace 3: A♠\ntablet: (2♠) ..", tablet_pile, 0);
@@ -120,15 +112,6 @@ class Peek : public testing::Test {
     const Picture back = back_picture(0);
     const Picture face = face_picture(diamonds, 3);
 };
-
-TEST_F(Peek, ShowsAFaceDownCardForOneAndAHalfSeconds) {
-    play.double_click(frmcards.Image1(152));
-    EXPECT_EQ(shown_by(152), face);
-    play.desktop.advance(1499);
-    EXPECT_EQ(shown_by(152), face);
-    play.desktop.advance(1);
-    EXPECT_EQ(shown_by(152), back);
-}
 
 TEST_F(Peek, AtASecondCardCoversTheFirstAndLastsItsFullTime) {
     play.double_click(frmcards.Image1(151));

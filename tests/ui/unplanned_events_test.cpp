@@ -90,24 +90,6 @@ TEST(Unplanned, InterruptionOfADrag) {
     }
 }
 
-TEST(Unplanned, InterruptionOfASlide) {
-    for (const Interruption& interruption : interruptions()) {
-        SCOPED_TRACE(interruption.name);
-        Play play;
-        play.start(1);
-        set_position(table);
-        play.click(3);
-        ASSERT_TRUE(frmcards.Timer3.enabled());
-        play.desktop.advance(40);
-        interruption.action(play);
-        close_dialogs();
-        play.desktop.advance(5000);
-        EXPECT_FALSE(frmcards.Timer3.enabled());
-        EXPECT_EQ(display_faults(), "");
-        EXPECT_EQ(play.message(), "");
-    }
-}
-
 TEST(Unplanned, ClosingDuringEverything) {
     for (const bool dialog : {false, true}) {
         Play play;
@@ -126,14 +108,6 @@ TEST(Unplanned, ClosingDuringEverything) {
         EXPECT_EQ(play.stored("games played"), "1");
         play.desktop.advance(10000);
     }
-}
-
-TEST(Unplanned, KeyThatIsHeldDownTurnsTheTabletAndNothingElse) {
-    Play play;
-    play.start(1);
-    play.space(1000);
-    EXPECT_EQ(state_faults(), "");
-    EXPECT_EQ(undo_count(), most_undo_records);
 }
 
 }  // namespace
