@@ -22,6 +22,7 @@ TEST(CommandLine, TellsWhatItTakes) {
     }
     EXPECT_EQ(help.errors(), "");
     ChildProcess version(program, {"--version"});
+    EXPECT_EQ(version.exit_code(), 0);
     EXPECT_EQ(version.output(), "tarnwick " TARNWICK_VERSION "\n");
 }
 

@@ -23,7 +23,6 @@ class EntryForTheGame : public testing::TestWithParam<std::pair<Keys, MenuEntry*
 TEST_P(EntryForTheGame, IsChosenWithKeys) {
     const auto& [keys, entry] = GetParam();
     TwinGame game({program, 26});
-    game.drag(6, 9);
     game.space();
     game.space();
     const QImage before = expected_board();
