@@ -1,6 +1,5 @@
 #include "bench/screen_watch.h"
 
-#include <X11/Xlib.h>
 #include <X11/Xutil.h>
 
 #include <algorithm>
@@ -11,20 +10,11 @@
 #include <string>
 #include <thread>
 
+#include "tools/driver/x_connection.h"
+
 namespace tarnwick {
 
-struct ScreenWatch::Connection {
-    Connection() : display(XOpenDisplay(nullptr)) {
-        if (!display) throw std::runtime_error("the display cannot be opened");
-    }
-    ~Connection() { XCloseDisplay(display); }
-    Connection(const Connection&) = delete;
-    Connection& operator=(const Connection&) = delete;
-
-    Display* display;
-};
-
-ScreenWatch::ScreenWatch() : connection_(std::make_unique<Connection>()) {}
+ScreenWatch::ScreenWatch() : connection_(std::make_unique<XConnection>()) {}
 ScreenWatch::~ScreenWatch() = default;
 
 std::vector<char> ScreenWatch::look() const {

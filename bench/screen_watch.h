@@ -31,8 +31,7 @@ class ScreenWatch {
   private:
     std::vector<char> look() const;
 
-    struct Connection;
-    std::unique_ptr<Connection> connection_;
+    std::unique_ptr<XConnection> connection_;
     XPlace part_;
     std::vector<char> before_;
     Clock::time_point start_;

@@ -1,7 +1,6 @@
 #include "tools/driver/x_driver.h"
 
 #include <X11/Xatom.h>
-#include <X11/Xlib.h>
 #include <X11/Xutil.h>
 #include <X11/extensions/XTest.h>
 #include <X11/keysym.h>
@@ -11,6 +10,7 @@
 #include <stdexcept>
 
 #include "tools/driver/eventually.h"
+#include "tools/driver/x_connection.h"
 
 namespace tarnwick {
 namespace {
@@ -37,18 +37,7 @@ KeySym symbol_of(const std::string& name) {
 
 }  // namespace
 
-struct XDriver::Connection {
-    Connection() : display(XOpenDisplay(nullptr)) {
-        if (!display) throw std::runtime_error("the display cannot be opened");
-    }
-    ~Connection() { XCloseDisplay(display); }
-    Connection(const Connection&) = delete;
-    Connection& operator=(const Connection&) = delete;
-
-    Display* display;
-};
-
-XDriver::XDriver() : connection_(std::make_unique<Connection>()) {
+XDriver::XDriver() : connection_(std::make_unique<XConnection>()) {
     int ignored = 0;
     if (!XTestQueryExtension(connection_->display, &ignored, &ignored, &ignored, &ignored)) {
         throw std::runtime_error("the display takes no events from programs");

@@ -9,6 +9,8 @@
 
 namespace tarnwick {
 
+struct XConnection;
+
 using XWindow = unsigned long;
 
 /// A place on the screen, in device pixels.
@@ -78,8 +80,7 @@ class XDriver {
     bool is_down(XButton button) const;
     void key_event(unsigned long symbol, bool down);
 
-    struct Connection;
-    std::unique_ptr<Connection> connection_;
+    std::unique_ptr<XConnection> connection_;
 };
 
 }  // namespace tarnwick
