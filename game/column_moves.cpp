@@ -116,8 +116,6 @@ bool from_ace_to_column(const Integer& c) {
         if (!then.holds([&] { return column_takes_card(c, ace_pile_card(p)); })) return;
         then([&] { push_on_column(c, ace_pile_card(p)); });
         then([&] { frmcards.Image1(ace_pile_card(p).picture).hide(); });
-        // An ace that will be alone is shown by another image than the plain ace beneath another card.
-        then([&] { frmcards.Image1(aces(p, beneath_picture_field)).hide(); });
         then([&] { pop_ace_pile(p); });
         then([] { score -= 1; });
         then([] { show_score(); });

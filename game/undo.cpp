@@ -33,8 +33,6 @@ void reverse_newest_record() {
 
 void do_undo() {
     if (frmcards.Timer3.enabled()) land_slide();
-    // A winning move that is taken back ends no game.
-    animation(slide_wins_game) = 0;
     reverse_newest_record();
     remove_undo_record(0);
     if (undo_count() < 1) frmcards.mnuUndo.set_visible(false);

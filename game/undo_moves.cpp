@@ -35,8 +35,6 @@ void take_back_from_ace_pile(int p) {
         if (empty_ace_piles() == 1) add_to_score(-fourth_ace_bonus);
         return;
     }
-    // An ace that will be alone is shown by another image than the plain ace beneath another card.
-    frmcards.Image1(aces(p, beneath_picture_field)).hide();
     pop_ace_pile(p);
     redisplay_aces(p, ace_pile_mode(p));
 }

@@ -62,11 +62,13 @@ TEST(Restart, BringsTheSameDealBackWhateverHasHappened) {
     ASSERT_TRUE(frmcards.Timer2.enabled() && frmcards.Timer3.enabled());
     frmcards.mouse().press(top_image(0).left() + 9, top_image(0).top() + 9);
     ASSERT_NE(frmcards.mouse().dragged(), nullptr);
+    animation(slide_wins_game) = 1;
     for (int i = 0; i < 2; ++i) {
         frmcards.mnuRestart.choose();
         EXPECT_FALSE(frmcards.Timer2.enabled() || frmcards.Timer3.enabled());
         EXPECT_EQ(frmcards.mouse().dragged(), nullptr);
         EXPECT_EQ(frmcards.Timer1.interval(), 1000);
+        EXPECT_EQ(animation(slide_wins_game), 0);
         EXPECT_EQ(position_text(), deal);
         EXPECT_EQ(display_faults() + undo_records(), "");
     }

@@ -27,6 +27,8 @@ TEST(DropPreview, APointerThatMovesOnTellsTheReceiver) {
     EXPECT_EQ(mouse.receiver(), nullptr) << "a drag that was given up";
     const Image& zone = top_image(ace_pile(1));
     mouse.press(top_image(4).left() + 30, top_image(4).top() + 30);
+    mouse.move(top_image(4).left() + 60, top_image(4).top() + 30);
+    EXPECT_EQ(mouse.receiver(), nullptr) << "the ace goes up and not to its neighbour, the 2 of Hearts";
     mouse.move(zone.left() + 5, zone.top() + 50);
     EXPECT_EQ(mouse.receiver(), &frmcards.Shape1(1))
         << "the ace of Clubs on an empty pile, seen by its outline";

@@ -92,9 +92,10 @@ TEST(Move, ToAnAcePile) {
         {"4: 2♥\nace 0: A♠", "drag 4 ace 0", refused, "",
          "Only a 2 of Spades can be placed on the Ace of Spades"},
         {"4: 3♠\nace 0: A♠ 2♠", "drag 4 ace 0", refused, "", "Place the other 2 of Spades on top"},
-        {"4: 4♠\nace 0: .. 2♠ 2♠'", "drag 4 ace 0", refused, "", "Place a 3 of Spades on top"},
+        {"4: Q♦\nace 0: .. 10♦ 10♦'", "drag 4 ace 0", refused, "", "Place a Jack of Diamonds on top"},
         {"4: K♣\nace 0: .. Q♣", "drag 4 ace 0", refused, "", "Place the other Queen of Clubs on top"},
         {"4: K♥\nace 0: .. Q♣ Q♣'", "drag 4 ace 0", refused, "", "Place a King of Clubs on top"},
+        {"4: K♥\nace 0: .. K♣ K♣'", "drag 4 ace 0", refused},
     };
     for (const Situation& situation : situations) expect_outcome(situation);
 }

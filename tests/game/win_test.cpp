@@ -75,7 +75,12 @@ TEST(Won, AndDealtAnewLeavesNoUndoRecord) {
         play.start(last_king);
         play.save("anamate", slides);
         play.click(2);
+        // While the winning card slides, another can be taken up.
+        frmcards.mouse().press(top_image(ace_pile(1)).left() + 30, 40);
+        frmcards.mouse().move(300, 300);
+        EXPECT_EQ(frmcards.mouse().dragged() != nullptr, frmcards.Timer3.enabled());
         play.desktop.advance(1000);
+        EXPECT_EQ(frmcards.mouse().dragged(), nullptr);
         EXPECT_EQ(undo_records(), "");
         EXPECT_EQ(state_faults() + display_faults(), "");
         EXPECT_EQ(play.stored("games played"), "1");

@@ -103,13 +103,20 @@ TEST_F(EndOfGame, WithoutANameKeepsTheScoreAndLetsThePlayerOn) {
     EXPECT_EQ(state_faults(), "");
 }
 
-TEST_F(EndOfGame, IsCountedOnceWhenTheGameIsClosedBehindTheWinDialog) {
+class ClosedBehindADialog : public EndOfGame, public testing::WithParamInterface<bool> {};
+
+TEST_P(ClosedBehindADialog, CountsTheGameOnce) {
+    const bool is_named = GetParam();
     start({}, 40);
     frmcards.mnuNew.choose();
+    if (is_named) enter_name("New");
+    ASSERT_TRUE(is_named ? frmBestScore.visible() : frmyouwin.visible());
     redisplay_column(10);
     frmError.Command2.click();
     EXPECT_EQ(play.stored("games played"), "1");
 }
+
+INSTANTIATE_TEST_SUITE_P(Dialogs, ClosedBehindADialog, testing::Bool());
 
 TEST_F(EndOfGame, ByShutDownCountsTheGameAndStillAsksForTheName) {
     start({}, 40);

@@ -6,8 +6,8 @@
 
 namespace tarnwick {
 
-/// A connection to the display that the environment names. Apart from the headers of those who have one, so that
-/// the display's macros stay out of their users' way.
+/// A connection to the display that the environment names. Apart from the headers of those who have one, so
+/// that the display's macros stay out of their users' way.
 struct XConnection {
     /// Throws std::runtime_error when there is no such display.
     XConnection() : display(XOpenDisplay(nullptr)) {
