@@ -17,11 +17,6 @@ std::optional<Color> HeadlessDesktop::pick_color() {
     return color;
 }
 
-bool HeadlessDesktop::show_help(const std::string& file_name) {
-    if (help_found_) help_shown_.push_back(file_name);
-    return help_found_;
-}
-
 MessageAnswer HeadlessDesktop::show_message(const Message& message) {
     messages_.push_back(message);
     if (answers_.empty()) return MessageAnswer::ok;

@@ -22,7 +22,8 @@ class HeadlessDesktop : public Desktop {
     std::string short_date() const override { return date_; }
     std::unique_ptr<FormView> make_view(Form&) override { return nullptr; }
     std::optional<Color> pick_color() override;
-    bool show_help(const std::string& file_name) override;
+    /// There are no help files.
+    bool show_help(const std::string&) override { return false; }
 
     /// Moves the clock on by so many milliseconds, every timer ticking when it is due.
     void advance(std::int64_t milliseconds);
@@ -30,15 +31,13 @@ class HeadlessDesktop : public Desktop {
     void sleep(std::int64_t milliseconds);
 
     void set_date(const std::string& date) { date_ = date; }
-    void set_help_found(bool found) { help_found_ = found; }
     /// Answers for the message boxes and colour pickers to come, in order; without one, OK and cancel.
     void answer_message(MessageAnswer answer) { answers_.push_back(answer); }
     void answer_color(Color color) { colors_.push_back(color); }
 
-    /// The messages shown so far, and the help files asked for.
+    /// The messages shown so far.
     const std::vector<Message>& messages() const { return messages_; }
     void forget_messages() { messages_.clear(); }
-    const std::vector<std::string>& help_shown() const { return help_shown_; }
 
   protected:
     MessageAnswer show_message(const Message& message) override;
@@ -50,8 +49,6 @@ class HeadlessDesktop : public Desktop {
     std::deque<MessageAnswer> answers_;
     std::deque<Color> colors_;
     std::vector<Message> messages_;
-    std::vector<std::string> help_shown_;
-    bool help_found_ = true;
 };
 
 }  // namespace tarnwick

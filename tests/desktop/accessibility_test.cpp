@@ -117,6 +117,15 @@ TEST_F(BoardAccessibility, ScrollsItsChildren) {
 }
 
 TEST_F(BoardAccessibility, PlaysByPresses) {
+    const Image& ace = frmcards.Image1(top_card(column_of_ace).picture);
+    frmcards.mouse().press(ace.left() + 30, ace.top() + 40);
+    press(image(stock_image));
+    settle();
+    EXPECT_TRUE(frmcards.mouse().dragged()) << "no press comes between a drag and its drop";
+    frmcards.mouse().cancel();
+    frmcards.set_enabled(false);
+    EXPECT_TRUE(image(stock_image).state().disabled) << "behind a dialog";
+    frmcards.set_enabled(true);
     press(image(stock_image));
     EXPECT_TRUE(comes_true([] { return turned_slot() == 4; }));
     press(image(face_down_image(5, 2)));

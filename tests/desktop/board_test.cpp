@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <sstream>
-
 #include "desktop/picture_cache.h"
 #include "state/variables.h"
 #include "tools/driver/board_picture.h"
@@ -32,40 +30,6 @@ TEST(Board, IsThereFromTheStart) {
     const XPlace screen = game.screen().screen();
     EXPECT_TRUE(window.x >= 0 && window.x + window.width <= screen.width) << window.x;
     EXPECT_TRUE(window.y >= 0 && window.y + window.height <= screen.height) << window.y;
-}
-
-// How often the board was painted, by the toolkit's own account.
-long paintings_of_the_board(const std::string& log) {
-    std::istringstream lines(log);
-    long count = 0;
-    for (std::string line; std::getline(lines, line);) {
-        const bool of_the_board = line.find("name=\"board\") at") != std::string::npos;
-        if (of_the_board && line.find(": Drawing ") != std::string::npos) ++count;
-    }
-    return count;
-}
-
-TEST(Board, IsPaintedOnceAtTheStart) {
-    TwinGame game({.program = program,
-                   .deal = deal,
-                   .settings = {},
-                   .environment = {{"QT_LOGGING_RULES", "qt.widgets.painting=true"},
-                                   {"QT_FORCE_STDERR_LOGGING", "1"}}});
-    EXPECT_EQ(board_faults(game), "");
-    // A key's effect is painted after all that the start has left to be painted.
-    game.space();
-    EXPECT_EQ(board_faults(game), "");
-    EXPECT_EQ(paintings_of_the_board(game.program().errors()), 2) << "the start, and the turned card";
-}
-
-TEST(Board, TurnsTheTabletOnceForEveryClick) {
-    TwinGame game({program, deal});
-    game.click_stock();
-    EXPECT_EQ(turned_slot(), 4);
-    EXPECT_EQ(board_faults(game), "");
-    game.space();
-    EXPECT_EQ(turned_slot(), 9);
-    EXPECT_EQ(board_faults(game), "");
 }
 
 TEST(Board, APeekLastsAMomentAndAHalf) {
@@ -122,7 +86,7 @@ TEST(Board, ComesBackFromBeingMinimisedInTheSizeItWasGiven) {
     game.screen().restore(game.window());
     ASSERT_TRUE(game.gets_keyboard(game.window()));
     EXPECT_EQ(board_faults(game), "");
-    game.space();
+    game.click_stock();
     EXPECT_EQ(turned_slot(), 4);
     EXPECT_EQ(board_faults(game), "");
 }

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QTimer>
+
 #include "state/variables.h"
 #include "tests/desktop/inner_game.h"
 #include "windows/frmBestScore.h"
@@ -90,6 +92,14 @@ TEST(DialogAccessibility, PressesPicturesAndDescribesSwatches) {
 
     QAccessibleInterface& swatch = *find_child(accessible(frmFeatures), "Background Color");
     EXPECT_EQ(swatch.text(QAccessible::Description), "#008000");
+    bool opened = false;
+    QTimer closer;
+    QObject::connect(&closer, &QTimer::timeout, &closer, [&opened] {
+        if (QWidget* picker = QApplication::activeModalWidget()) opened = picker->close();
+    });
+    closer.start(10);
+    press(swatch);
+    EXPECT_TRUE(comes_true([&opened] { return opened; })) << "the colour picker";
 }
 
 }  // namespace

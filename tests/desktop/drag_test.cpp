@@ -14,6 +14,7 @@ constexpr const char* program = TARNWICK_PROGRAM;
 // The columns of this deal end in Q♦ 10♥ K♦ 6♠ A♣ 2♥ J♦ 9♣ 6♦ Q♣.
 constexpr std::uint32_t deal = 26;
 constexpr int column_of_king = 2;
+constexpr int column_of_ace = 4;
 constexpr int column_of_jack = 6;
 constexpr int column_of_queen = 9;
 
@@ -62,10 +63,17 @@ TEST(Drag, TheReceiverIsMarkedWhileThePointerIsOverIt) {
     EXPECT_EQ(board_faults(game), "") << "over the King, who takes no Jack";
     game.move(below_first_column);
     EXPECT_EQ(expected_board(), unmarked);
+    game.press(below_first_column, XButton::right);
+    game.release(below_first_column, XButton::right);
     EXPECT_EQ(board_faults(game), "") << "over the bare table";
     game.move(queen);
     game.release(queen);
     EXPECT_EQ(board_faults(game), "") << "put down";
+    game.press(TwinGame::spot_on(top_image(column_of_ace)));
+    game.move(TwinGame::spot_on(top_image(ace_pile(2))));
+    ASSERT_EQ(frmcards.mouse().receiver(), &frmcards.Shape1(2));
+    EXPECT_EQ(board_faults(game), "") << "over an empty pile";
+    game.release(below_first_column);
 }
 
 TEST(Drag, ARefusedCardIsSeenToGlideBack) {

@@ -18,6 +18,19 @@ void score_two(TwinGame& game) {
     ASSERT_EQ(board_faults(game), "");
 }
 
+TEST(Endings, AClosedGameWithABestScoreStillAsksForTheName) {
+    TwinGame game({program, 26});
+    score_two(game);
+    game.screen().key("ctrl+q");
+    const XWindow dialog = game.wait_for(win_title);
+    EXPECT_TRUE(game.goes(main_title));
+    ASSERT_TRUE(game.gets_keyboard(dialog));
+    game.screen().close(dialog);
+    ASSERT_TRUE(game.gets_keyboard(game.wait_for("Scores")));
+    game.screen().key("Return");
+    EXPECT_EQ(game.program().exit_code(), 0);
+}
+
 // A number of games that is no number makes the end of a game fail.
 const std::map<std::string, std::string> broken{{"games played", "many"}};
 

@@ -4,7 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <iterator>
 #include <set>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -22,21 +24,18 @@
 namespace tarnwick {
 namespace {
 
-const std::set<std::string> resumable_routines{
-    "column_to_column", "from_tablet_to",     "from_ace_to",           "from_column_to",
-    "to_ace",           "from_ace_to_column", "from_tablet_to_column", "from_column_to_column",
-    "next_tablet_card", "take_from_tablet",   "tablet_to_ace",         "layout_to_ace"};
-const std::set<std::string> reporting_routines{"redisplay_aces",
-                                               "ace_score",
-                                               "redisplay_column",
-                                               "display_column",
-                                               "change_back",
-                                               "end_game",
-                                               "add_undo",
-                                               "undo_from_tablet_to_column",
-                                               "undo_from_tablet_to_ace",
-                                               "undo_next_tablet_card",
-                                               "undo_from_column_to_ace"};
+std::set<std::string> words_of(const std::string& text) {
+    std::istringstream words(text);
+    return {std::istream_iterator<std::string>(words), {}};
+}
+
+const std::set<std::string> resumable_routines = words_of(
+    "column_to_column from_tablet_to from_ace_to from_column_to to_ace from_ace_to_column "
+    "from_tablet_to_column "
+    "from_column_to_column next_tablet_card take_from_tablet tablet_to_ace layout_to_ace");
+const std::set<std::string> reporting_routines = words_of(
+    "redisplay_aces ace_score redisplay_column display_column change_back end_game add_undo "
+    "undo_from_tablet_to_column undo_from_tablet_to_ace undo_next_tablet_card undo_from_column_to_ace");
 
 struct Situation {
     const char* name;

@@ -4,6 +4,7 @@
 #include "state/soundness.h"
 #include "state/variables.h"
 #include "tools/driver/play.h"
+#include "windows/frmBestScore.h"
 #include "windows/frmcards.h"
 #include "windows/frmyouwin.h"
 
@@ -49,8 +50,14 @@ TEST_F(WonBySlide, NotWhenTheDropThatLandsItTakesAKingBack) {
     play.desktop.advance(1000);
     EXPECT_FALSE(frmyouwin.visible());
     play.click(5);
-    play.desktop.advance(1000);
-    EXPECT_TRUE(frmyouwin.visible());
+    play.act("drag ace 1 ace 2");
+    EXPECT_TRUE(frmyouwin.visible()) << "another drop lands the King";
+}
+
+TEST_F(WonBySlide, BeforeADialogOpens) {
+    slide(last_king, 2);
+    frmcards.mnuScore.choose();
+    EXPECT_TRUE(frmyouwin.visible() && !frmBestScore.visible());
 }
 
 TEST_F(WonBySlide, NotWhenItIsUndone) {

@@ -25,33 +25,24 @@ void play_wildly(Play& play, std::mt19937& random) {
     const auto any_pile = [&] {
         return below(5) == 0 ? tablet_pile : below(4) == 0 ? ace_pile(below(4)) : below(10);
     };
-    const int choice = below(100);
-    if (choice < 50) {
-        play.drag(any_pile(), any_pile(), static_cast<float>(below(70)) * card_scale);
-    } else if (choice < 60) {
-        play.click(any_pile());
-    } else if (choice < 70) {
-        play.click_stock();
-    } else if (choice < 80) {
-        play.space();
-    } else if (choice < 88) {
-        play.desktop.advance(below(300));
-    } else if (choice < 94) {
-        frmcards.mnuUndo.choose();
-    } else if (choice < 98) {
-        frmcards.user_resized({500 + below(1200), 400 + below(700)});
-    } else {
-        (choice == 98 ? frmcards.mnuRestart : frmcards.mnuNew).choose();
-    }
     if (frmyouwin.visible()) frmyouwin.txtYourName.key_down(13);
     if (frmBestScore.visible()) frmBestScore.cmdOk.click();
+    const int choice = below(100);
+    if (choice < 50) return play.drag(any_pile(), any_pile(), static_cast<float>(below(70)) * card_scale);
+    if (choice < 60) return play.click(any_pile());
+    if (choice < 70) return play.click_stock();
+    if (choice < 80) return play.space();
+    if (choice < 88) return play.desktop.advance(below(300));
+    if (choice < 94) return frmcards.mnuUndo.choose();
+    if (choice < 98) return frmcards.user_resized({500 + below(1200), 400 + below(700)});
+    (choice == 98 ? frmcards.mnuRestart : frmcards.mnuNew).choose();
 }
 
 TEST(GameRecorder, WritesAGameThatComesOutTheSame) {
     const ScratchFolder folder("record");
     const std::string name = folder / "game.txt";
     for (std::uint32_t seed = 1; seed <= 20; ++seed) {
-        std::filesystem::remove(name);
+        ScratchFolder::write(name, "# an older game\n");
         std::string end;
         {
             GameRecorder recorder(name);
@@ -63,6 +54,7 @@ TEST(GameRecorder, WritesAGameThatComesOutTheSame) {
             play.space();  // A deal of the last moment is written with its first action.
             end = position_text();
         }
+        EXPECT_TRUE(ScratchFolder::contents(name).starts_with("# an older game\n")) << "it is kept";
         RecordPlayer player;
         for (const Action& action : parse_record(ScratchFolder::contents(name))) player.play(action);
         ASSERT_EQ(position_text(), end) << "seed " << seed;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <vector>
 
 #include "platform/form.h"
@@ -60,6 +61,20 @@ TEST_F(TimerTest, TicksOnceAfterASleepAndNeverWithinAnEvent) {
     });
     desktop.sleep(0);
     EXPECT_EQ(ticks, (Times{1050, 1550}));
+}
+
+TEST(Event, IsFollowedByWhatWasLeftForLaterAndFailsWithAMessage) {
+    HeadlessDesktop desktop;
+    std::string order;
+    desktop.event([&] {
+        desktop.after_event([&order] { order += "later "; });
+        desktop.event([&order] { order += "inner "; });
+        order += "outer ";
+        throw std::runtime_error("no such card");
+    });
+    desktop.after_event([&order] { order += "at once"; });
+    EXPECT_EQ(order, "inner outer later at once");
+    EXPECT_EQ(desktop.messages().size(), 1U);
 }
 
 }  // namespace

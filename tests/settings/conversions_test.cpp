@@ -25,7 +25,7 @@ TEST(Conversion, OfStoredTexts) {
     } cases[] = {
         {"0", "0", "0", "0", "False"},
         {"-1", "-1", "-1", "-1", "True"},
-        {"+7", "7", "7", "7", "True"},
+        {" +7 ", "7", "7", "7", "True"},
         {"32768", "-", "32768", "32768", "True"},
         {"-32769", "-", "-32769", "-32769", "True"},
         {"2147483648", "-", "-", "2147483648", "True"},
@@ -46,7 +46,6 @@ TEST(Conversion, OfStoredTexts) {
         EXPECT_EQ(converted([](const char* t) { return to_double(t); }, text), number) << text;
         EXPECT_EQ(converted([](const char* t) { return to_boolean(t); }, text), boolean) << text;
     }
-    EXPECT_EQ(text_of(63.5), "63.5");
     EXPECT_EQ(text_of(33.3), "33.3");
     EXPECT_EQ(text_of(1e15), "1000000000000000");
 }

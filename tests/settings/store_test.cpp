@@ -60,6 +60,17 @@ TEST_F(StoreTest, MakesATransactionOneChange) {
                  std::runtime_error);
     EXPECT_EQ(read(store, "high score 1"), "70") << "a failed one leaves nothing";
     EXPECT_EQ(read(onlooker, "high score 1"), "70");
+    save(onlooker, "high score 1", "80");
+    EXPECT_EQ(read(store, "high score 1"), "80") << "what another program has saved";
+    std::filesystem::remove(path);
+    EXPECT_EQ(read(store, "high score 1"), "-") << "the file was taken away";
+}
+
+TEST_F(StoreTest, PlaysOnInMemoryWhereItsFolderCannotBeMade) {
+    ScratchFolder::write(folder / "new", "a file where the folder should be");
+    SqliteStore store(path);
+    save(store, "games played", "3");
+    EXPECT_EQ(read(store, "games played"), "3");
 }
 
 TEST_F(StoreTest, WritesWhatCouldNotBeWrittenOnceTheDiskHasRoomAgain) {

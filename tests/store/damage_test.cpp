@@ -48,6 +48,7 @@ class Damage : public testing::Test {
     void start_on(const std::string& contents, const std::string& what) {
         folder_.empty();
         ScratchFolder::write(path_, contents);
+        ScratchFolder::write(folder_ / "settings.damaged-1.sqlite", "an earlier one");
         int notices = 0;
         std::size_t missing = 0;
         {
@@ -68,7 +69,7 @@ class Damage : public testing::Test {
         // An empty file is an empty store: there is nothing in it that could be set aside.
         if (missing == 0 || contents.empty()) return;
         EXPECT_EQ(notices, 1) << what << ": " << missing << " values are gone and nobody was told";
-        EXPECT_TRUE(ScratchFolder::contents(folder_ / "settings.damaged-1.sqlite") == contents) << what;
+        EXPECT_TRUE(ScratchFolder::contents(folder_ / "settings.damaged-2.sqlite") == contents) << what;
         lost_ += missing == values_.size() ? 1 : 0;
         salvaged_ += missing == values_.size() ? 0 : 1;
     }

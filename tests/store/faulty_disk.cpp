@@ -2,8 +2,7 @@
 
 #include <sqlite3.h>
 
-#include <memory>
-#include <vector>
+#include <map>
 
 namespace tarnwick {
 namespace {
@@ -24,50 +23,30 @@ bool call_fails() {
     return true;
 }
 
-// An open file: SQLite's own, behind methods that may fail. The real one lies right behind this one.
-struct FaultyFile {
-    sqlite3_file base;
-    sqlite3_file* real;
+// SQLite's own methods of an open file, but for those that may fail.
+struct FaultyMethods {
+    sqlite3_io_methods base;
+    const sqlite3_io_methods* real;
 };
+// By what they take the place of: files of different kinds have different ones.
+std::map<const sqlite3_io_methods*, FaultyMethods> faulty_methods;
 
-sqlite3_file* real_of(sqlite3_file* file) { return reinterpret_cast<FaultyFile*>(file)->real; }
+const sqlite3_io_methods& real(sqlite3_file* file) {
+    return *reinterpret_cast<const FaultyMethods*>(file->pMethods)->real;
+}
 
 int write(sqlite3_file* file, const void* data, int amount, sqlite3_int64 offset) {
     if (call_fails()) return SQLITE_FULL;
-    return real_of(file)->pMethods->xWrite(real_of(file), data, amount, offset);
+    return real(file).xWrite(file, data, amount, offset);
 }
 int truncate(sqlite3_file* file, sqlite3_int64 size) {
     if (call_fails()) return SQLITE_IOERR_TRUNCATE;
-    return real_of(file)->pMethods->xTruncate(real_of(file), size);
+    return real(file).xTruncate(file, size);
 }
 int sync(sqlite3_file* file, int flags) {
     if (call_fails()) return SQLITE_IOERR_FSYNC;
-    return real_of(file)->pMethods->xSync(real_of(file), flags);
+    return real(file).xSync(file, flags);
 }
-int close(sqlite3_file* file) { return real_of(file)->pMethods->xClose(real_of(file)); }
-int read(sqlite3_file* file, void* data, int amount, sqlite3_int64 offset) {
-    return real_of(file)->pMethods->xRead(real_of(file), data, amount, offset);
-}
-int file_size(sqlite3_file* file, sqlite3_int64* size) {
-    return real_of(file)->pMethods->xFileSize(real_of(file), size);
-}
-int lock(sqlite3_file* file, int kind) { return real_of(file)->pMethods->xLock(real_of(file), kind); }
-int unlock(sqlite3_file* file, int kind) { return real_of(file)->pMethods->xUnlock(real_of(file), kind); }
-int check_lock(sqlite3_file* file, int* result) {
-    return real_of(file)->pMethods->xCheckReservedLock(real_of(file), result);
-}
-int control(sqlite3_file* file, int operation, void* argument) {
-    return real_of(file)->pMethods->xFileControl(real_of(file), operation, argument);
-}
-int sector_size(sqlite3_file* file) { return real_of(file)->pMethods->xSectorSize(real_of(file)); }
-int characteristics(sqlite3_file* file) {
-    return real_of(file)->pMethods->xDeviceCharacteristics(real_of(file));
-}
-
-const sqlite3_io_methods methods{
-    1,       close,      read,    write,       truncate,        sync,    file_size, lock,
-    unlock,  check_lock, control, sector_size, characteristics, nullptr, nullptr,   nullptr,
-    nullptr, nullptr,    nullptr};
 
 sqlite3_vfs* real_disk = nullptr;
 sqlite3_vfs faulty_disk{};
@@ -75,10 +54,16 @@ sqlite3_vfs faulty_disk{};
 int open(sqlite3_vfs*, const char* name, sqlite3_file* file, int flags, int* out_flags) {
     file->pMethods = nullptr;
     if ((flags & SQLITE_OPEN_READWRITE) != 0 && call_fails()) return SQLITE_CANTOPEN;
-    auto* own = reinterpret_cast<FaultyFile*>(file);
-    own->real = reinterpret_cast<sqlite3_file*>(own + 1);
-    const int result = real_disk->xOpen(real_disk, name, own->real, flags, out_flags);
-    if (own->real->pMethods) own->base.pMethods = &methods;
+    const int result = real_disk->xOpen(real_disk, name, file, flags, out_flags);
+    if (!file->pMethods) return result;
+    FaultyMethods& methods = faulty_methods[file->pMethods];
+    methods = {*file->pMethods, file->pMethods};
+    // The first version knows no other ways to write.
+    methods.base.iVersion = 1;
+    methods.base.xWrite = write;
+    methods.base.xTruncate = truncate;
+    methods.base.xSync = sync;
+    file->pMethods = &methods.base;
     return result;
 }
 
@@ -93,7 +78,6 @@ FaultyDisk::FaultyDisk() {
     real_disk = sqlite3_vfs_find(nullptr);
     faulty_disk = *real_disk;
     faulty_disk.zName = "faulty";
-    faulty_disk.szOsFile = static_cast<int>(sizeof(FaultyFile)) + real_disk->szOsFile;
     faulty_disk.xOpen = open;
     faulty_disk.xDelete = remove;
     sqlite3_vfs_register(&faulty_disk, 1);

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "board/display.h"
+#include "game/end_game.h"
 #include "notation/position_text.h"
 #include "state/soundness.h"
 #include "state/variables.h"
@@ -103,20 +104,16 @@ TEST_F(EndOfGame, WithoutANameKeepsTheScoreAndLetsThePlayerOn) {
     EXPECT_EQ(state_faults(), "");
 }
 
-class ClosedBehindADialog : public EndOfGame, public testing::WithParamInterface<bool> {};
-
-TEST_P(ClosedBehindADialog, CountsTheGameOnce) {
-    const bool is_named = GetParam();
+TEST_F(EndOfGame, IsCountedOnceWhenTheGameIsClosedBehindItsDialogs) {
     start({}, 40);
     frmcards.mnuNew.choose();
-    if (is_named) enter_name("New");
-    ASSERT_TRUE(is_named ? frmBestScore.visible() : frmyouwin.visible());
+    end_game();
+    enter_name("New");
+    end_game();
     redisplay_column(10);
     frmError.Command2.click();
     EXPECT_EQ(play.stored("games played"), "1");
 }
-
-INSTANTIATE_TEST_SUITE_P(Dialogs, ClosedBehindADialog, testing::Bool());
 
 TEST_F(EndOfGame, ByShutDownCountsTheGameAndStillAsksForTheName) {
     start({}, 40);

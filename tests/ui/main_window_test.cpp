@@ -24,17 +24,6 @@ TEST(MainWindow, TakesItsSizeFromTheScreen) {
     }
 }
 
-TEST(MainWindow, HasTheMenusItIsKnownFor) {
-    std::string text;
-    for (const Menu& menu : frmcards.menus()) {
-        text += menu.caption + ": ";
-        for (const MenuEntry* entry : menu.entries) text += entry->caption() + " " + entry->shortcut() + ", ";
-    }
-    EXPECT_EQ(text,
-              "&File: &New Game F2, &Restart Game F3, &Best Score , &Exit Ctrl+Q, "
-              "&Settings: &Undo Ctrl+U, &Change Settings , &Help: &Help F1, ");
-}
-
 TEST(Drag, LiftsTheRunThatLiesOnTheCard) {
     Play play;
     play.start("0: K♠ Q♥ J♠\n4: 2♠\nace 0: A♠\nace 1: A♥ 2♥ 2♥'");

@@ -60,6 +60,12 @@ class SlideUnderWay : public testing::Test {
     Play play;
 };
 
+TEST_F(SlideUnderWay, LandsWhenItsCardIsClicked) {
+    slide("0: 2♠\n4: 3♥\nace 3: A♠", 0, 95);
+    play.drag_image(frmcards.Image1(226), frmcards.Image1(226));
+    EXPECT_TRUE(shows("ace 3: A♠ 2♠"));
+}
+
 TEST_F(SlideUnderWay, TakesADropOnItsCardAlongToTheAcePile) {
     // Between tablet and ace piles it passes places that belong to no pile.
     slide("0: 2♠'\nace 3: A♠\ntablet: (2♠) ..", tablet_pile, 0);

@@ -43,6 +43,7 @@ const std::vector<Interruption>& interruptions() {
              frmcards.user_changed_state(WindowState::minimized);
              frmcards.user_changed_state(WindowState::normal);
          }},
+        {"help that is missing", [](Play&) { frmcards.mnuAbout.choose(); }},
         {"a restart", [](Play&) { frmcards.mnuRestart.choose(); }},
         {"an undo", [](Play& play) { play.undo(); }, false},
         {"the window shrinks to nothing",
