@@ -31,11 +31,9 @@ TEST(Endings, AClosedGameWithABestScoreStillAsksForTheName) {
     EXPECT_EQ(game.program().exit_code(), 0);
 }
 
-// A number of games that is no number makes the end of a game fail.
-const std::map<std::string, std::string> broken{{"games played", "many"}};
-
 TEST(Endings, AfterAnErrorThePlayerClosesTheGame) {
-    TwinGame game({program, 26, broken});
+    // A number of games that is no number makes the end of a game fail.
+    TwinGame game({program, 26, {{"games played", "many"}}});
     score_two(game);
     game.screen().key("F2");
     ASSERT_TRUE(game.gets_keyboard(game.wait_for("Error")));
