@@ -36,7 +36,7 @@ TEST(Tablet, ShowsItsStockAsItShould) {
         {"2♥ (3♥) 9♠ 10♠ J♠ Q♠", "(2♥) 9♠ 10♠ J♠ Q♠", Stock::back, false},
         {"9♠ 10♠ J♠ Q♠ 9♣ (3♥)", "9♠ 10♠ J♠ Q♠ (9♣)", Stock::hidden, false},
         {"9♠ 10♠ J♠ Q♠ 9♣ 10♣ (3♥)", "9♠ 10♠ J♠ Q♠ 9♣ (10♣)", Stock::empty_place, false},
-        {"(3♥)", "-", Stock::hidden, false},
+        {"9♠ 10♠ J♠ Q♠ (3♥)", "9♠ 10♠ J♠ (Q♠)", Stock::hidden, false},
     };
     for (const auto& [before, after, stock, turned] : cases) {
         Play play;
