@@ -74,9 +74,7 @@ TEST(Move, FromTabletAndAcePilesToAColumn) {
 
 TEST(Move, ToAnAcePile) {
     const Situation situations[] = {
-        {"3: [9♥] 2♠\nace 0: A♠", "drag 3 ace 0", "3: 9♥\nace 0: A♠ 2♠", "(3 12 1) (99 99 99)"},
         {"3: [9♥] 2♠'\nace 0: A♠ 2♠", "drag 3 ace 0", "3: 9♥\nace 0: A♠ 2♠ 2♠'", "(3 12 1) (99 99 99)"},
-        {"3: K♣'\nace 0: .. K♣", "drag 3 ace 0", "3: -\nace 0: A♣ .. K♣ K♣'", "(3 12 1)"},
         {"tablet: 2♥ (A♠) 3♥", "drag tablet ace 0", "ace 0: A♠\ntablet: (2♥) 3♥", "(16 12 1)"},
         {"tablet: 2♥ (3♠) 3♥\nace 0: A♠ 2♠' 2♠", "drag tablet ace 0", "ace 0: A♠ 2♠' 2♠ 3♠\ntablet: (2♥) 3♥",
          "(16 12 1)"},
