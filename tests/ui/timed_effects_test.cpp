@@ -108,6 +108,7 @@ TEST(Twinkle, StartsNowAndThenOnlyWhileTheAceOfSpadesLiesOnTopOfAnAcePile) {
     EXPECT_EQ(twinkles_now_and_then("ace 3: A♠"), 30);
     EXPECT_EQ(twinkles_now_and_then("ace 0: A♠ 2♠"), 0);
     EXPECT_EQ(twinkles_now_and_then("tablet: (A♠)"), 0);
+    EXPECT_EQ(twinkles_now_and_then("5: A♠"), 0);
 }
 
 class Peek : public testing::Test {
