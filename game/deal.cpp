@@ -39,6 +39,7 @@ void reset_state() {
     animation(peeked_image) = no_peek;
     animation(slide_wins_game) = 0;
     high_score_place = none;
+    phase = Phase::playing;
     closing = flag_false;
     undo_count() = 0;
     resume_after_error = flag_false;

@@ -1,47 +1,26 @@
 #include "game/end_game.h"
 
 #include "board/timed_effects.h"
+#include "game/best_scores.h"
 #include "game/deal.h"
-#include "settings/settings.h"
+#include "platform/desktop.h"
 #include "state/routine.h"
-#include "windows/frmBestScore.h"
 #include "windows/frmcards.h"
 #include "windows/frmyouwin.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr int best_scores = 5;
-
-// From the win dialog to the end of the statistics dialog after it, the game is counted but the next one is
-// not dealt yet.
-bool is_counted_already() {
-    return frmyouwin.visible() || (frmBestScore.visible() && frmBestScore.shpBestSquare.visible());
-}
-
-void add_to_setting(const char* key, int amount) {
-    settings_store().transaction([&] {
-        const double sum = to_double(read_setting(key, 0)) + amount;
-        save_setting(key, text_of(sum));
-    });
-}
-
-bool beats(int place) { return to_double(read_setting(key_high_score(place), 0)) <= score; }
-
-// The place 1 to 5 that the score takes, or none. A score equal to a stored one goes above it.
-int place_of_score() {
-    int place = none;
-    for (int i = best_scores; i >= 1 && beats(i); --i) place = i;
-    return place;
-}
-
-void count_game() {
-    add_to_setting(key_games_played, 1);
-    add_to_setting(key_average_score, score);
-    const int place = place_of_score();
+// A best score waits for the name of the player; where nobody is there to type it, it is entered without.
+void finish_counting(int place) {
     if (place == none) return;
-    frmcards.set_enabled(false);
+    if (!desktop().attended()) {
+        enter_best_score(score, "");
+        return;
+    }
+    phase = Phase::name_asked;
     high_score_place = place;
+    frmcards.set_enabled(false);
     frmyouwin.show();
 }
 
@@ -51,15 +30,25 @@ void end_game() {
     const bool slide_cut_short = frmcards.Timer3.enabled();
     bool ended = false;
     reporting("end_game", [&ended] {
-        if (!is_counted_already()) {
+        if (phase == Phase::playing) {
             stop_effects();
-            if (score != 0) count_game();
+            if (score != 0) finish_counting(count_game(score, all_ace_piles_complete()));
             if (frmcards.enabled()) new_game();
         }
         ended = true;
     });
     // After a failure the game goes on, and its cards must lie where they belong.
     if (slide_cut_short && !ended) land_slide();
+}
+
+void deal_next_game() {
+    if (closing) return;
+    // Enabled first: should the deal fail, the player must not be left with a dead table.
+    frmcards.set_enabled(true);
+    // The table went on twinkling behind the dialogs.
+    stop_effects();
+    new_game();
+    frmcards.raise();
 }
 
 void finish_slide() {

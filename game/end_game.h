@@ -7,6 +7,10 @@ namespace tarnwick {
 /// dealt when the statistics dialog after it is closed.
 void end_game();
 
+/// Deals the game after a counted one and gives the main window back to the player; nothing while the program
+/// is closing.
+void deal_next_game();
+
 /// Lays the sliding card on its pile, and ends the game if that has won it.
 void finish_slide();
 

@@ -45,8 +45,11 @@ class Desktop {
     /// Shows a help file, looked for where the program's files are; false when it is not found.
     virtual bool show_help(const std::string& file_name) = 0;
 
-    /// Shows the message and waits for its answer.
+    /// Shows the message and waits for its answer; cancelled at once where nobody is there to answer.
     MessageAnswer message_box(const Message& message);
+    /// Whether somebody is there to answer. Once the program is told to end, nobody is.
+    bool attended() const { return attended_; }
+    void leave_unattended() { attended_ = false; }
 
     /// Runs the handler of one event. A failure that leaves it is told to the player in one message, and the
     /// program goes on. Timers do not tick meanwhile.
@@ -66,6 +69,7 @@ class Desktop {
 
     std::deque<std::function<void()>> pending_;
     int depth_ = 0;
+    bool attended_ = true;
 };
 
 /// The desktop in use. Throws std::logic_error where there is none.

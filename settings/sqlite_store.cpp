@@ -95,11 +95,11 @@ void SqliteStore::save(const std::string& application, const std::string& sectio
     if (in_transaction_) {
         save_one();
     } else {
-        transaction(save_one);
+        transaction(save_one, {});
     }
 }
 
-void SqliteStore::transaction(const std::function<void()>& action) {
+void SqliteStore::carry_out(const std::function<void()>& action, const std::function<void()>& done) {
     reopen_if_moved();
     // Begun before the action reads anything: what it reads cannot change until it has written.
     begin();
@@ -116,6 +116,7 @@ void SqliteStore::transaction(const std::function<void()>& action) {
     for (const auto& [address, text] : pending_) unwritten_[address] = text;
     pending_.clear();
     write_out();
+    if (done) done();
 }
 
 void SqliteStore::begin() {

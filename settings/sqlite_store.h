@@ -22,7 +22,9 @@ class SqliteStore : public Store {
                                     const std::string& key) override;
     void save(const std::string& application, const std::string& section, const std::string& key,
               const std::string& text) override;
-    void transaction(const std::function<void()>& action) override;
+
+  protected:
+    void carry_out(const std::function<void()>& action, const std::function<void()>& done) override;
 
   private:
     void open();

@@ -36,4 +36,15 @@ void MemoryStore::save(const std::string& application, const std::string& sectio
     values_[address(application, section, key)] = text;
 }
 
+void MemoryStore::carry_out(const std::function<void()>& action, const std::function<void()>& done) {
+    const auto before = values_;
+    try {
+        action();
+    } catch (...) {
+        values_ = before;
+        throw;
+    }
+    if (done) done();
+}
+
 }  // namespace tarnwick

@@ -16,6 +16,7 @@ Integer drag_source;
 float x_scale = 0;
 float card_scale = 0;
 Integer high_score_place;
+Phase phase = Phase::playing;
 Integer closing;
 Integer suppress_help;
 Integer resume_after_error;

@@ -67,6 +67,10 @@ extern float x_scale;
 extern float card_scale;
 /// Place 1 to 5 that the finished game takes among the best scores; 99 for none.
 extern Integer high_score_place;
+/// How far the game in hand is. One that is counted and has entered the best scores waits for the player's
+/// name, then for the end of the table that shows the entry; the next game is dealt after that.
+enum class Phase { playing, name_asked, table_shown };
+extern Phase phase;
 /// Flag: the main window is closing.
 extern Integer closing;
 /// Flag: the running drop is an automatic move to an ace pile, which gives no help messages.

@@ -1,5 +1,7 @@
 #include "ui/program.h"
 
+#include <array>
+
 #include "platform/desktop.h"
 #include "settings/settings.h"
 #include "settings/stored_settings.h"
@@ -13,6 +15,13 @@
 #include "windows/frmyouwin.h"
 
 namespace tarnwick {
+namespace {
+
+std::array<Form*, 6> all_windows() {
+    return {&frmcards, &frmyouwin, &frmBestScore, &frmFeatures, &frmError, &frmCommon};
+}
+
+}  // namespace
 
 void start_program(Store& store) {
     use_store(&store);
@@ -33,10 +42,18 @@ void start_program(Store& store) {
     });
 }
 
+void shut_down_program() {
+    desktop().leave_unattended();
+    desktop().event([] {
+        // The name typed so far is recorded before the main window ends the game: that is counted already.
+        frmyouwin.unload();
+        frmcards.unload();
+        for (Form* form : all_windows()) form->unload();
+    });
+}
+
 void end_program() {
-    for (Form* form :
-         {static_cast<Form*>(&frmcards), static_cast<Form*>(&frmyouwin), static_cast<Form*>(&frmBestScore),
-          static_cast<Form*>(&frmFeatures), static_cast<Form*>(&frmError), static_cast<Form*>(&frmCommon)}) {
+    for (Form* form : all_windows()) {
         form->on_unload = nullptr;
         form->unload();
     }
@@ -46,6 +63,7 @@ void end_program() {
     layout = {};
     tablet = {};
     aces = {};
+    phase = Phase::playing;
     x_scale = card_scale = 0;
 }
 

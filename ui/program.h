@@ -8,6 +8,11 @@ namespace tarnwick {
 /// must live as long as the program. A failure on the way is told to the player.
 void start_program(Store& store);
 
+/// Ends the program as the closing of the main window does, but waits for nobody: the game in hand is
+/// counted, a best score is recorded with the name typed so far (or none), and every window goes. For signals
+/// and the end of a session or of the display.
+void shut_down_program();
+
 /// Unloads every window and forgets desktop timers and store, so that the program can be started again.
 void end_program();
 

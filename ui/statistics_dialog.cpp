@@ -1,8 +1,8 @@
 #include <cmath>
 #include <string>
 
-#include "board/timed_effects.h"
-#include "game/deal.h"
+#include "game/best_scores.h"
+#include "game/end_game.h"
 #include "platform/desktop.h"
 #include "settings/settings.h"
 #include "state/variables.h"
@@ -13,11 +13,9 @@
 namespace tarnwick {
 namespace {
 
-constexpr int last_place = 5;
-
 void mark_new_entry() {
     Outline& square = frmBestScore.shpBestSquare;
-    if (high_score_place >= 1 && high_score_place <= last_place) {
+    if (high_score_place >= 1 && high_score_place <= best_score_places) {
         square.set_top(pixels(120 + 360 * high_score_place));
         square.show();
     } else {
@@ -38,7 +36,7 @@ void load() {
     mark_new_entry();
     frmBestScore.lblGamesWon.set_caption(read_setting(key_games_won, 0));
     frmBestScore.lblGamesPlayed.set_caption(read_setting(key_games_played, 0));
-    for (int i = 1; i <= last_place; ++i) {
+    for (int i = 1; i <= best_score_places; ++i) {
         frmBestScore.lblHighScore(i).set_caption(read_setting(key_high_score(i), 0));
         frmBestScore.lblHighScoreName(i).set_caption(read_setting(key_high_score_name(i), std::string()));
         frmBestScore.lblHighScoreDate(i).set_caption(read_setting(key_high_score_date(i), std::string()));
@@ -48,14 +46,12 @@ void load() {
 
 void unload() {
     if (closing) return;
-    // Enabled first: should the deal fail, the player must not be left with a dead table.
-    frmcards.set_enabled(true);
-    if (frmBestScore.shpBestSquare.visible()) {
-        frmBestScore.shpBestSquare.hide();
-        // The table went on twinkling behind the dialogs.
-        stop_effects();
-        new_game();
+    frmBestScore.shpBestSquare.hide();
+    if (phase == Phase::table_shown) {
+        deal_next_game();
+        return;
     }
+    frmcards.set_enabled(true);
     frmcards.raise();
 }
 
@@ -66,7 +62,7 @@ void clear_score() {
     settings_store().transaction([] {
         save_setting(key_average_score, "0");
         save_setting(key_games_played, "0");
-        for (int i = 1; i <= last_place; ++i) {
+        for (int i = 1; i <= best_score_places; ++i) {
             save_setting(key_high_score(i), "0");
             save_setting(key_high_score_name(i), "");
             save_setting(key_high_score_date(i), "");
@@ -74,7 +70,7 @@ void clear_score() {
     });
     frmBestScore.lblAverageScore.set_caption("");
     frmBestScore.lblGamesPlayed.set_caption("");
-    for (int i = 1; i <= last_place; ++i) {
+    for (int i = 1; i <= best_score_places; ++i) {
         frmBestScore.lblHighScore(i).set_caption("0");
         frmBestScore.lblHighScoreName(i).set_caption("");
         frmBestScore.lblHighScoreDate(i).set_caption("");

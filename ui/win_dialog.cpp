@@ -1,7 +1,6 @@
-#include <string>
-
+#include "game/best_scores.h"
+#include "game/end_game.h"
 #include "platform/desktop.h"
-#include "settings/settings.h"
 #include "state/variables.h"
 #include "ui/handlers.h"
 #include "windows/frmBestScore.h"
@@ -11,42 +10,30 @@ namespace tarnwick {
 namespace {
 
 constexpr int enter_key = 13;
-constexpr int last_place = 5;
-
 void load() {
     const bool won = all_ace_piles_complete() && high_score_place == 1;
     frmyouwin.lblYouWin.set_visible(won);
     frmyouwin.lblNewHighScore.set_visible(!won);
-    if (!won) return;
-    settings_store().transaction(
-        [] { save_setting(key_games_won, text_of(to_double(read_setting(key_games_won, 0)) + 1)); });
 }
 
-void move_entry_down(int place) {
-    const std::string best = read_setting(key_high_score(place), 0);
-    const std::string name = read_setting(key_high_score_name(place), std::string());
-    const std::string date = read_setting(key_high_score_date(place), std::string());
-    save_setting(key_high_score(place + 1), best);
-    save_setting(key_high_score_name(place + 1), name);
-    save_setting(key_high_score_date(place + 1), date);
-}
-
-// All in one transaction: after a crash the table is the old one or the new one.
-void record_entry() {
-    settings_store().transaction([] {
-        const int place = high_score_place;
-        for (int i = last_place - 1; i >= place; --i) move_entry_down(i);
-        save_setting(key_high_score(place), text_of(score));
-        save_setting(key_high_score_date(place), desktop().short_date());
-        save_setting(key_high_score_name(place), frmyouwin.txtYourName.text());
-    });
+// Shows where the entry stands, in a table that may be open already.
+void show_table() {
+    if (!desktop().attended()) return;
+    if (high_score_place == none) {
+        deal_next_game();
+        return;
+    }
+    if (frmBestScore.loaded()) frmBestScore.on_load();
+    frmBestScore.show();
 }
 
 // However the dialog is closed, the score is not lost and the player gets on.
 void unload() {
-    if (high_score_place == none) return;
-    desktop().after_event([] { frmBestScore.show(); });
-    record_entry();
+    if (phase != Phase::name_asked) return;
+    phase = Phase::table_shown;
+    high_score_place = none;
+    desktop().after_event(show_table);
+    high_score_place = enter_best_score(score, frmyouwin.txtYourName.text());
 }
 
 bool key_down(int key_code) {

@@ -1,11 +1,14 @@
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "board/display.h"
 #include "game/end_game.h"
 #include "notation/position_text.h"
 #include "state/soundness.h"
 #include "state/variables.h"
 #include "tools/driver/play.h"
+#include "ui/program.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmError.h"
 #include "windows/frmcards.h"
@@ -125,6 +128,111 @@ TEST_F(EndOfGame, ByShutDownCountsTheGameAndStillAsksForTheName) {
     EXPECT_EQ(table().substr(0, 7), "40 Last");
     frmBestScore.cmdOk.click();
     EXPECT_FALSE(frmBestScore.loaded() || frmcards.loaded()) << "nothing is dealt any more";
+}
+
+TEST_F(EndOfGame, WithoutThePlayerCountsTheGameAndRecordsTheNameTypedSoFar) {
+    struct {
+        const char* name;
+        std::function<void()> before;
+        const char* table;
+    } const cases[] = {
+        {"a game in hand", [] {}, "40 "},
+        {"a low score", [] { score = 9; }, "90 A"},
+        {"behind the settings", [] { frmcards.mnuSetings.choose(); }, "40 "},
+        {"behind an error", [] { redisplay_column(10); }, "40 "},
+        {"a name half typed",
+         [] {
+             frmcards.mnuNew.choose();
+             frmyouwin.txtYourName.type("Ann");
+         },
+         "40 Ann"},
+        {"a name half typed after the main window",
+         [] {
+             frmcards.mnuExit.choose();
+             frmyouwin.txtYourName.type("Ann");
+         },
+         "40 Ann"},
+        {"the table of the entry",
+         [] {
+             frmcards.mnuNew.choose();
+             enter_name("Bob");
+         },
+         "40 Bob"},
+    };
+    for (const auto& [name, before, expected] : cases) {
+        SCOPED_TRACE(name);
+        Play other;
+        const bool low = std::string(expected) == "90 A";
+        for (int place = 1; low && place <= 5; ++place) other.save(key("high score ", place), "90");
+        if (low) other.save("high score name 1", "A");
+        other.start();
+        set_position("0: 7♠\nscore: 40");
+        before();
+        shut_down_program();
+        EXPECT_FALSE(frmcards.loaded() || frmyouwin.loaded() || frmBestScore.loaded() || frmError.loaded());
+        EXPECT_EQ(other.stored("games played"), "1");
+        EXPECT_EQ(other.stored("average score"), low ? "9" : "40");
+        EXPECT_EQ(other.stored("high score 1") + ' ' + (low ? "A" : other.stored("high score name 1")),
+                  expected);
+        EXPECT_EQ(other.stored("high score 2"), low ? "90" : "0");
+        EXPECT_EQ(other.message(), "");
+    }
+}
+
+TEST_F(EndOfGame, CountsAFinishedGameOnceOrNotAtAll) {
+    start({90, 70, 50, 30, 10}, 40);
+    play.save("high score 2", "lots");
+    for (int i = 0; i < 3; ++i) {
+        frmcards.mnuNew.choose();
+        EXPECT_TRUE(frmError.visible());
+        frmError.Command1.click();
+        EXPECT_EQ(play.stored("games played") + play.stored("average score"), "--") << "nothing is counted";
+        EXPECT_TRUE(shows("0: 7♠"));
+    }
+    play.save("high score 2", "70");
+    frmcards.mnuNew.choose();
+    enter_name("New");
+    EXPECT_EQ(play.stored("games played") + ' ' + play.stored("average score"), "1 40");
+    EXPECT_EQ(table(), "90 A, 70 B, 50 C, 40 New, 30 D");
+}
+
+TEST_F(EndOfGame, FindsThePlaceOfAnEntryWhenItIsEntered) {
+    // Another window enters a score while the name is typed.
+    for (const int other : {60, 20}) {
+        start({90, 70, 50, 30, 10}, 40);
+        frmcards.mnuNew.choose();
+        play.save("high score 5", "30");
+        play.save("high score 4", other == 60 ? "50" : "30");
+        play.save("high score 3", other == 60 ? "60" : "50");
+        enter_name("New");
+        const int place = other == 60 ? 5 : 4;
+        EXPECT_EQ(play.stored(key("high score name ", place)), "New");
+        EXPECT_EQ(frmBestScore.shpBestSquare.top(), pixels(120 + 360 * place));
+        frmBestScore.cmdOk.click();
+        end_program();
+    }
+    start({90, 70, 50, 30, 10}, 20);
+    frmcards.mnuNew.choose();
+    play.save("high score 5", "21");
+    enter_name("New");
+    EXPECT_NE(play.message().find("Your score of 20 is not among the best"), std::string::npos);
+    EXPECT_FALSE(frmBestScore.loaded());
+    EXPECT_TRUE(frmcards.accepts_input());
+    EXPECT_EQ(state_faults(), "") << "the next game is dealt";
+    EXPECT_EQ(play.stored("high score 5"), "21");
+}
+
+TEST_F(EndOfGame, ShowsTheEntryInATableThatIsOpenAlready) {
+    start({}, 40);
+    frmBestScore.load();
+    frmBestScore.show();
+    frmcards.mnuNew.choose();
+    enter_name("New");
+    EXPECT_EQ(frmBestScore.lblHighScoreName(1).caption(), "New");
+    EXPECT_TRUE(frmBestScore.shpBestSquare.visible());
+    EXPECT_EQ(high_score_place, none);
+    frmBestScore.cmdOk.click();
+    EXPECT_EQ(state_faults(), "") << "the next game is dealt";
 }
 
 }  // namespace
