@@ -13,6 +13,7 @@
 #include "notation/game_recorder.h"
 #include "platform/random.h"
 #include "settings/sqlite_store.h"
+#include "settings/store_path.h"
 #include "ui/program.h"
 
 namespace {

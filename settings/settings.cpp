@@ -35,6 +35,8 @@ std::string read_setting(const std::string& key, bool default_value) {
     return read_setting(key, text_of(default_value));
 }
 
+bool setting_is_known(const std::string& key) { return settings_store().knows(application, section, key); }
+
 void save_setting(const std::string& key, const std::string& text) {
     settings_store().save(application, section, key, text);
 }

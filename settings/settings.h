@@ -20,6 +20,7 @@ inline constexpr const char* key_games_won = "games won";
 inline constexpr const char* key_average_score = "average score";
 
 // The best-score table, places 1 (the best) to 5.
+inline constexpr int best_score_places = 5;
 std::string key_high_score(int place);
 std::string key_high_score_name(int place);
 std::string key_high_score_date(int place);
@@ -39,6 +40,10 @@ std::string read_setting(const std::string& key, const std::string& default_text
 std::string read_setting(const std::string& key, const char* default_text) = delete;
 std::string read_setting(const std::string& key, int default_value);
 std::string read_setting(const std::string& key, bool default_value);
+
+/// Whether the last answer about a key was what is stored, and no default that stands in for a value out of
+/// reach.
+bool setting_is_known(const std::string& key);
 
 /// Saves the text of a key at once.
 void save_setting(const std::string& key, const std::string& text);

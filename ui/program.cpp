@@ -3,6 +3,8 @@
 #include <array>
 
 #include "platform/desktop.h"
+#include "platform/timer.h"
+#include "settings/repair.h"
 #include "settings/settings.h"
 #include "settings/stored_settings.h"
 #include "state/variables.h"
@@ -13,12 +15,36 @@
 #include "windows/frmFeatures.h"
 #include "windows/frmcards.h"
 #include "windows/frmyouwin.h"
+#include "windows/pictures.h"
 
 namespace tarnwick {
 namespace {
 
 std::array<Form*, 6> all_windows() {
     return {&frmcards, &frmyouwin, &frmBestScore, &frmFeatures, &frmError, &frmCommon};
+}
+
+// Tries again to store what could not be stored at once, as long as there is anything.
+Timer store_timer{frmcards};
+Store* store_in_use = nullptr;
+
+void attach_store_timer(Store& store) {
+    store_in_use = &store;
+    constexpr int a_second = 1000;
+    store_timer.set_interval(a_second);
+    store_timer.set_enabled(store.waits());
+    store_timer.on_tick = [&store] {
+        store.try_again();
+        store_timer.set_enabled(store.waits());
+    };
+    store.on_waiting = [] { store_timer.set_enabled(true); };
+}
+
+void detach_store_timer() {
+    store_timer.set_enabled(false);
+    store_timer.on_tick = nullptr;
+    if (store_in_use) store_in_use->on_waiting = nullptr;
+    store_in_use = nullptr;
 }
 
 }  // namespace
@@ -36,7 +62,11 @@ void start_program(Store& store) {
     attach_win_dialog();
     attach_statistics_dialog();
     attach_settings_dialog();
-    desktop().event([] { frmcards.show(); });
+    desktop().event([] {
+        repair_settings(back_count);
+        frmcards.show();
+    });
+    attach_store_timer(store);
     store.listen([](const std::string& sentence) {
         desktop().after_event([sentence] { desktop().message_box({"Tarnwick", sentence}); });
     });
@@ -57,6 +87,7 @@ void end_program() {
         form->on_unload = nullptr;
         form->unload();
     }
+    detach_store_timer();
     use_store(nullptr);
     // A program starts with its variables zero: the next one must not lay out the cards of this game at
     // first.
