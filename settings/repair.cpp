@@ -90,7 +90,7 @@ void repair_settings(int card_backs) {
         *told = true;
         tell(*damaged);
     };
-    settings_store().transaction(
+    settings_transaction(
         [=] {
             damaged->clear();
             for (const CheckedSetting& setting : settings) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "settings/conversions.h"
@@ -47,6 +48,9 @@ bool setting_is_known(const std::string& key);
 
 /// Saves the text of a key at once.
 void save_setting(const std::string& key, const std::string& text);
+
+/// Carries out what `action` reads and saves as one change of the store; see Store::transaction().
+void settings_transaction(const std::function<void()>& action, const std::function<void()>& done = {});
 
 /// Whether a setting that is on unless the player has put it off reads as true.
 bool setting_is_on(const char* key);

@@ -146,6 +146,7 @@ void SqliteFile::check_values() {
         SettingAddress address;
         std::string text;
         sound = read_row(statement, address, text);
+        values_at_opening_[address] = text;
     }
     sqlite3_finalize(statement);
     if (!sound) throw FileError(changed_by_itself, FileFault::damaged);

@@ -50,6 +50,9 @@ class SqliteFile {
     SqliteFile(const SqliteFile&) = delete;
     SqliteFile& operator=(const SqliteFile&) = delete;
 
+    /// All values that were there when the file was opened.
+    const SettingTexts& values_at_opening() const { return values_at_opening_; }
+
     /// Outside a transaction nothing is taken from memory: the file itself is asked.
     std::optional<std::string> read(const SettingAddress& address);
     /// Within a transaction.
@@ -76,6 +79,7 @@ class SqliteFile {
 
     std::string path_;
     struct stat opened_ {};
+    SettingTexts values_at_opening_;
     sqlite3* database_ = nullptr;
     sqlite3_stmt* select_ = nullptr;
     sqlite3_stmt* upsert_ = nullptr;

@@ -49,6 +49,8 @@ void SqliteStore::open() {
             std::error_code ignored;
             fs::create_directories(fs::path(path_).parent_path(), ignored);
             file_ = std::make_unique<SqliteFile>(path_, patience_);
+            keep(seen_, file_->values_at_opening());
+            has_seen_all_ = true;
         } catch (const FileError& failure) {
             if (failure.fault() == FileFault::damaged && set_aside()) continue;
             meet(failure);
@@ -149,7 +151,7 @@ std::optional<std::string> SqliteStore::read(const std::string& application, con
         }
     }
     if (const auto found = seen_.find(address); found != seen_.end()) return found->second;
-    unknown_.insert(address);
+    if (!has_seen_all_) unknown_.insert(address);
     return std::nullopt;
 }
 

@@ -78,6 +78,7 @@ class SqliteStore : public Store {
     /// Values that could not be read when they were asked for.
     std::set<SettingAddress> unknown_;
     Running running_ = Running::nothing;
+    bool has_seen_all_ = false;  ///< what seen_ does not hold has not been there
     bool locked_ = false;
     int tries_under_lock_ = 0;
     bool told_lock_ = false;

@@ -64,7 +64,7 @@ void clear_score() {
     const MessageAnswer answer = desktop().message_box(
         {"Clear Scores?", "Are you sure you want to clear the high scores?", MessageButtons::ok_cancel});
     if (answer != MessageAnswer::ok) return;
-    settings_store().transaction([] {
+    settings_transaction([] {
         save_setting(key_average_score, "0");
         save_setting(key_games_played, "0");
         for (int i = 1; i <= best_score_places; ++i) {
