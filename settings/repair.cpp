@@ -68,8 +68,8 @@ void tell(const std::vector<std::string>& keys) {
     for (const std::string& key : keys) list += (list.empty() ? "\"" : ", \"") + key + '"';
     desktop().after_event([list] {
         desktop().message_box(
-            {"Tarnwick", "These stored values could not be read and were set back to the usual ones: " + list +
-                             "; what was there is kept in the same file, marked as damaged."});
+            {"Tarnwick", "These stored values could not be read and were set back to the usual ones: " +
+                             list + "; what was there is kept in the same file, marked as damaged."});
     });
 }
 

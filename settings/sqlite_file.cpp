@@ -104,7 +104,6 @@ SqliteFile::SqliteFile(const std::string& path, LockPatience& patience) : path_(
         execute("PRAGMA synchronous = EXTRA");
         check_structure();
         prepare();
-        check_values();
     } catch (...) {
         close();
         throw;
@@ -137,20 +136,29 @@ void SqliteFile::check_structure() {
     if (answer_to("PRAGMA encoding") != "UTF-8") throw FileError("another encoding", FileFault::damaged);
 }
 
-void SqliteFile::check_values() {
+SettingTexts SqliteFile::check() {
+    check_structure();
+    return checked_values();
+}
+
+SettingTexts SqliteFile::checked_values() {
+    SettingTexts values;
     sqlite3_stmt* statement = nullptr;
-    if (sqlite3_prepare_v2(database_, select_all, -1, &statement, nullptr) != SQLITE_OK) fail();
+    if (sqlite3_prepare_v2(database_, select_all, -1, &statement, nullptr) != SQLITE_OK) {
+        fail_in_table(sqlite3_errcode(database_));
+    }
     bool sound = true;
     int stepped = SQLITE_ROW;
     while (sound && (stepped = sqlite3_step(statement)) == SQLITE_ROW) {
         SettingAddress address;
         std::string text;
         sound = read_row(statement, address, text);
-        values_at_opening_[address] = text;
+        values[address] = text;
     }
     sqlite3_finalize(statement);
     if (!sound) throw FileError(changed_by_itself, FileFault::damaged);
     if (stepped != SQLITE_DONE) fail();
+    return values;
 }
 
 void SqliteFile::prepare() {

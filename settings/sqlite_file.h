@@ -43,15 +43,12 @@ using SettingTexts = std::map<SettingAddress, std::optional<std::string>>;
 /// One open SQLite file with the table of settings. Every function throws FileError.
 class SqliteFile {
   public:
-    /// Opens or creates the file and checks that it is whole: its structure, and the checksum of every value.
-    /// `patience` is for other programs that hold it, and must live as long as this object.
+    /// Opens or creates the file. `patience` is for other programs that hold it, and must live as long as
+    /// this object.
     SqliteFile(const std::string& path, LockPatience& patience);
     ~SqliteFile();
     SqliteFile(const SqliteFile&) = delete;
     SqliteFile& operator=(const SqliteFile&) = delete;
-
-    /// All values that were there when the file was opened.
-    const SettingTexts& values_at_opening() const { return values_at_opening_; }
 
     /// Outside a transaction nothing is taken from memory: the file itself is asked.
     std::optional<std::string> read(const SettingAddress& address);
@@ -63,6 +60,8 @@ class SqliteFile {
     /// Drops what was written since begin(); never fails.
     void roll_back() noexcept;
 
+    /// Whether all is whole: the structure, and the checksum of every value. Returns the values.
+    SettingTexts check();
     /// Fails where nothing can be written.
     void try_writing();
     /// Whether the path still names the file that was opened (it may have been deleted or set aside since).
@@ -73,13 +72,12 @@ class SqliteFile {
     void prepare();
     std::string answer_to(const char* question);
     void check_structure();
-    void check_values();
+    SettingTexts checked_values();
     [[noreturn]] void fail() const;
     void close() noexcept;
 
     std::string path_;
     struct stat opened_ {};
-    SettingTexts values_at_opening_;
     sqlite3* database_ = nullptr;
     sqlite3_stmt* select_ = nullptr;
     sqlite3_stmt* upsert_ = nullptr;

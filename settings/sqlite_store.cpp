@@ -48,8 +48,9 @@ void SqliteStore::open() {
             path_ = resolved_store_path(path_);
             std::error_code ignored;
             fs::create_directories(fs::path(path_).parent_path(), ignored);
-            file_ = std::make_unique<SqliteFile>(path_, patience_);
-            keep(seen_, file_->values_at_opening());
+            auto file = std::make_unique<SqliteFile>(path_, patience_);
+            keep(seen_, file->check());
+            file_ = std::move(file);
             has_seen_all_ = true;
         } catch (const FileError& failure) {
             if (failure.fault() == FileFault::damaged && set_aside()) continue;
@@ -133,7 +134,7 @@ std::optional<std::string> SqliteStore::read(const std::string& application, con
                                              const std::string& key) {
     const SettingAddress address{application, section, key};
     if (const auto found = pending_.find(address); found != pending_.end()) return found->second;
-    if (running_ == Running::on_file) return file_->read(address);
+    if (running_ == Running::on_file) return file_->read(address);  // checked when the change began
     reopen_if_moved();
     for (const SettingTexts* texts : {&ahead_, &rescued_}) {
         if (const auto found = texts->find(address); found != texts->end()) return found->second;
@@ -141,6 +142,8 @@ std::optional<std::string> SqliteStore::read(const std::string& application, con
     for (int tries = 0; tries < 2 && file_; ++tries) {
         try {
             std::optional<std::string> text = file_->read(address);
+            // No program takes a value away: one that has gone tells of damage.
+            if (!text && has_seen(address)) file_->check();
             seen_[address] = text;
             unknown_.erase(address);
             return text;
@@ -153,6 +156,11 @@ std::optional<std::string> SqliteStore::read(const std::string& application, con
     if (const auto found = seen_.find(address); found != seen_.end()) return found->second;
     if (!has_seen_all_) unknown_.insert(address);
     return std::nullopt;
+}
+
+bool SqliteStore::has_seen(const SettingAddress& address) const {
+    const auto found = seen_.find(address);
+    return found != seen_.end() && found->second;
 }
 
 bool SqliteStore::knows(const std::string& application, const std::string& section,
@@ -205,6 +213,7 @@ void SqliteStore::run_on_file(Change& change) {
     file_->begin();
     running_ = Running::on_file;
     try {
+        file_->check();
         if (!holds_already(change.doubtful)) change.action();
         for (const auto& [address, text] : pending_) file_->write(address, *text);
         commit(change);

@@ -59,6 +59,7 @@ class SqliteStore : public Store {
     bool done_on_file(Change& change);
     void run_on_file(Change& change);
     void commit(Change& change);
+    bool has_seen(const SettingAddress& address) const;
     bool holds_already(const SettingTexts& texts);
     void run_ahead(const Change& change);
     void look_ahead();

@@ -24,8 +24,9 @@ fs::path home_folder() {
     const passwd* user = getpwuid(getuid());
     if (user) home = absolute_folder(user->pw_dir);
     if (home.empty()) {
-        throw std::runtime_error("there is no home folder to keep settings and scores in: name a file for them "
-                                 "with --store");
+        throw std::runtime_error(
+            "there is no home folder to keep settings and scores in: name a file for them "
+            "with --store");
     }
     return home;
 }

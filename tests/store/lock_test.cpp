@@ -155,7 +155,8 @@ TEST_F(Locked, AnEntryThatIsBeatenMeanwhileIsTold) {
             for (int i = 0; i < 5; ++i) enter_best_score(other, "Bob");
         }
         store.try_again();
-        EXPECT_EQ(on_disk("high score 1") + ' ' + on_disk("high score name 1"), other == 30 ? "40 Ann" : "50 Bob");
+        EXPECT_EQ(on_disk("high score 1") + ' ' + on_disk("high score name 1"),
+                  other == 30 ? "40 Ann" : "50 Bob");
         EXPECT_EQ(on_disk("high score name 5"), "Bob");
         EXPECT_EQ(desktop.messages().size(), other == 30 ? 0U : 1U);
     }
@@ -164,8 +165,11 @@ TEST_F(Locked, AnEntryThatIsBeatenMeanwhileIsTold) {
 TEST_F(Locked, TheProgramSavesWithoutThePlayerDoingAnythingAndWritesNoDefault) {
     {
         SqliteStore store(path);
-        for (const auto& [key, text] : {std::pair{"card back", "4"}, {"scale cards", "False"}, {"back color", "255"},
-                                        {"anamate", "False"}, {"games played", "many"}}) {
+        for (const auto& [key, text] : {std::pair{"card back", "4"},
+                                        {"scale cards", "False"},
+                                        {"back color", "255"},
+                                        {"anamate", "False"},
+                                        {"games played", "many"}}) {
             save(store, key, text);
         }
     }
