@@ -83,9 +83,10 @@ TEST_F(StoreFile, LiesInTheUsersFolderAndNowhereElse) {
     const std::string end = "/tarnwick/settings.sqlite";
     const std::string old_home = std::getenv("HOME") ? std::getenv("HOME") : "";
     const std::string old_data = std::getenv("XDG_DATA_HOME") ? std::getenv("XDG_DATA_HOME") : "";
-    for (const auto& [data_home, home, expected] :
-         {Variables{"/data", "/home/ann", "/data" + end}, {"data", "/home/ann", "/home/ann/.local/share" + end},
-          {"", "ann", ""}, {"", "", ""}}) {
+    for (const auto& [data_home, home, expected] : {Variables{"/data", "/home/ann", "/data" + end},
+                                                    {"data", "/home/ann", "/home/ann/.local/share" + end},
+                                                    {"", "ann", ""},
+                                                    {"", "", ""}}) {
         setenv("XDG_DATA_HOME", data_home, 1);
         setenv("HOME", home, 1);
         const std::string found = default_store_path();
@@ -109,7 +110,8 @@ TEST_F(StoreFile, ThatIsBrokenWhileTheProgramRunsIsSetAsideAndNothingIsLost) {
         {"a stump", [](const std::string& file) { return file.substr(0, 50); }},
         {"emptied", [](const std::string&) { return std::string(); }},
         {"another file", [](const std::string& file) { return std::string(file.size(), 'x'); }},
-        {"the values garbled", [](std::string file) { return file.replace(file.size() - 600, 600, 600, 'x'); }},
+        {"the values garbled",
+         [](std::string file) { return file.replace(file.size() - 600, 600, 600, 'x'); }},
     };
     for (const auto& [name, change] : cases) {
         for (const bool by_reading : {true, false}) {
