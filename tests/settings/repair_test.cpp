@@ -43,7 +43,8 @@ TEST(Repair, SetsDamagedValuesBackInOneMessageAndKeepsThem) {
         const bool listed = message.find('"' + std::string(key) + '"') != std::string::npos;
         EXPECT_EQ(listed, usual != nullptr) << key;
         EXPECT_EQ(play.stored(key), usual ? usual : text);
-        const std::string kept = key == std::string("card back") ? "card back (damaged 2)" : key + std::string(" (damaged)");
+        const std::string kept =
+            key == std::string("card back") ? "card back (damaged 2)" : key + std::string(" (damaged)");
         EXPECT_EQ(play.stored(kept) == text, usual != nullptr) << key;
     }
     EXPECT_EQ(play.stored("card back (damaged)"), "an earlier one");
