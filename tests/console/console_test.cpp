@@ -48,19 +48,21 @@ TEST(Console, TellsInOneSentenceWhatItCannotRead) {
     refuses(R"(printf 'deal 1\n\033[31mturn\n' | "$0")",
             R"(line 2: "\x1b[31mturn" is none of deal, turn, drag, undo and restart)");
     refuses(R"({ printf 'deal 1\n'; cat /dev/zero; } | "$0")",
-            "line 2: more than 4,096 characters in the line that begins with \"" + [] {
-                std::string zeros;
-                for (int i = 0; i < 40; ++i) zeros += R"(\x00)";
-                return zeros;
-            }() + "...\"");
+            "line 2: more than 4,096 characters in the line that begins with \"" +
+                [] {
+                    std::string zeros;
+                    for (int i = 0; i < 40; ++i) zeros += R"(\x00)";
+                    return zeros;
+                }() +
+                "...\"");
     ScratchFolder::write(name, "deal 1\n" + std::string(4097, 'x') + "\nturn\n");
     refuses("\"$0\" " + name, name + ", line 2: more than 4,096 characters in the line that begins with \"" +
                                   std::string(40, 'x') + "...\"");
 }
 
 TEST(Console, TellsInOneSentenceThatItsOutputIsNotWritten) {
-    for (const char* arguments : {"--help", "--random 3 5", "--random 3 2000000000",
-                                  "--signature /dev/null", "records"}) {
+    for (const char* arguments :
+         {"--help", "--random 3 5", "--signature /dev/null", "records"}) {
         std::string line = std::string("\"$0\" ") + arguments;
         if (line.ends_with("records")) line = R"(printf 'deal 1\nturn\n' | "$0")";
         const ConsoleRun full(line + " > /dev/full");
@@ -69,7 +71,8 @@ TEST(Console, TellsInOneSentenceThatItsOutputIsNotWritten) {
                   "tarnwick-console: the output cannot be written: No space left on device\n");
         const ConsoleRun closed(line + " >&-");
         EXPECT_EQ(closed.code, 1) << arguments;
-        EXPECT_EQ(closed.shell.errors(), "tarnwick-console: the output cannot be written: Bad file descriptor\n");
+        EXPECT_EQ(closed.shell.errors(),
+                  "tarnwick-console: the output cannot be written: Bad file descriptor\n");
     }
     const ConsoleRun pipe(R"({ "$0" --random 3 2000000000; echo $? >&2; } | true)");
     EXPECT_EQ(pipe.shell.errors(), "tarnwick-console: the output cannot be written: Broken pipe\n1\n");

@@ -16,7 +16,9 @@ TEST(OutsideText, IsShownWithoutWhatATerminalWouldObey) {
              {"10♦ ü \\", "10♦ ü \\"},
              {"\x1b[31m\n\x7f", R"(\x1b[31m\x0a\x7f)"},
              {"a\xff\x80z", R"(a\xff\x80z)"},
-             {"\xc2\x9b""1m", R"(\xc2\x9b1m)"},
+             {"\xc2\x9b"
+              "1m",
+              R"(\xc2\x9b1m)"},
              {"\xc0\xaf \xed\xa0\x80 \xf4\x90\x80\x80", R"(\xc0\xaf \xed\xa0\x80 \xf4\x90\x80\x80)"},
              {"\u202e\U0001f0a1", "\\xe2\\x80\\xae\U0001f0a1"},
              {"\xe2\x99", R"(\xe2\x99)"},
@@ -57,7 +59,8 @@ TEST(OutsideText, HasLinesOf4096CharactersAtMost) {
     while (suits.size() < 8 + 4088 * 3) suits += "♠";
     EXPECT_EQ(parse_record(suits).size(), 1U);
     const std::string fault =
-        "more than 4,096 characters in the line that begins with \"deal 1 #♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠...\"";
+        "more than 4,096 characters in the line that begins with \"deal 1 "
+        "#♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠...\"";
     EXPECT_EQ(refusal([&] { parse_record('\n' + suits + "x"); }), "line 2: " + fault);
     EXPECT_EQ(refusal([] { parse_position("0: 7♠\n" + std::string(5000, '9')); }).substr(0, 30),
               fault.substr(0, 30));
