@@ -82,7 +82,7 @@ RecordFile::RecordFile(const std::string& name) : name_(name) {
         throw std::runtime_error("another game is recorded in " + name +
                                  ": end that one, or name another file with --record");
     }
-    if (S_ISREG(status.st_mode) && ends_within_a_line(name)) before_next_line_ = "\n";
+    within_a_line_ = S_ISREG(status.st_mode) && ends_within_a_line(name);
 }
 
 RecordFile::~RecordFile() { close(descriptor_); }
@@ -93,8 +93,8 @@ void RecordFile::write_line(const std::string& line) {
     if (fstat(descriptor_, &before) != 0 || !named || !is_one_file(*named, before)) {
         throw std::runtime_error("The record of the game in " + name_ + " was deleted or replaced");
     }
-    if (write_whole(descriptor_, before_next_line_ + line + '\n')) {
-        before_next_line_.clear();
+    if (write_whole(descriptor_, (within_a_line_ ? "\n" : "") + line + '\n')) {
+        within_a_line_ = false;
         return;
     }
     const bool whole = !S_ISREG(before.st_mode) || ftruncate(descriptor_, before.st_size) == 0;

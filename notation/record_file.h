@@ -23,11 +23,11 @@ class RecordFile {
   private:
     std::string name_;
     int descriptor_ = -1;
-    std::string before_next_line_;
+    bool within_a_line_ = false;
 };
 
-/// Whether both names lead to one file, or would when it is made. Never throws: what leads nowhere is the same
-/// as nothing but itself.
+/// Whether both names lead to one file, or would when it is made. Never throws: what leads nowhere is the
+/// same as nothing but itself.
 bool names_one_file(const std::string& a, const std::string& b);
 
 }  // namespace tarnwick

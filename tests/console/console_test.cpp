@@ -10,9 +10,11 @@
 namespace tarnwick {
 namespace {
 
-// What the console does in a line of the shell, in which "$0" stands for it.
+// What the console does in a line of the shell, in which "$0" stands for it. It is stopped when it never
+// ends.
 struct ConsoleRun {
-    explicit ConsoleRun(const std::string& line) : shell("/bin/sh", {"-c", line, TARNWICK_CONSOLE}) {
+    explicit ConsoleRun(const std::string& line)
+        : shell("/bin/sh", {"-c", "ulimit -t 20; " + line, TARNWICK_CONSOLE}) {
         code = shell.exit_code(std::chrono::seconds(60)).value_or(-1);
     }
     ChildProcess shell;
@@ -31,6 +33,8 @@ TEST(Console, PlaysWhatItReads) {
 TEST(Console, TellsInOneSentenceWhatItCannotRead) {
     const ScratchFolder folder("console");
     const std::string name = folder / "game.txt";
+    std::string forty_zeros;
+    while (forty_zeros.size() < 40 * 4) forty_zeros += R"(\x00)";
     const auto refuses = [&](const std::string& line, const std::string& sentence) {
         const ConsoleRun run(line);
         EXPECT_EQ(run.code, 1) << line;
@@ -48,21 +52,14 @@ TEST(Console, TellsInOneSentenceWhatItCannotRead) {
     refuses(R"(printf 'deal 1\n\033[31mturn\n' | "$0")",
             R"(line 2: "\x1b[31mturn" is none of deal, turn, drag, undo and restart)");
     refuses(R"({ printf 'deal 1\n'; cat /dev/zero; } | "$0")",
-            "line 2: more than 4,096 characters in the line that begins with \"" +
-                [] {
-                    std::string zeros;
-                    for (int i = 0; i < 40; ++i) zeros += R"(\x00)";
-                    return zeros;
-                }() +
-                "...\"");
+            "line 2: more than 4,096 characters in the line that begins with \"" + forty_zeros + "...\"");
     ScratchFolder::write(name, "deal 1\n" + std::string(4097, 'x') + "\nturn\n");
     refuses("\"$0\" " + name, name + ", line 2: more than 4,096 characters in the line that begins with \"" +
                                   std::string(40, 'x') + "...\"");
 }
 
 TEST(Console, TellsInOneSentenceThatItsOutputIsNotWritten) {
-    for (const char* arguments :
-         {"--help", "--random 3 5", "--signature /dev/null", "records"}) {
+    for (const char* arguments : {"--help", "--random 3 5", "--signature /dev/null", "records"}) {
         std::string line = std::string("\"$0\" ") + arguments;
         if (line.ends_with("records")) line = R"(printf 'deal 1\nturn\n' | "$0")";
         const ConsoleRun full(line + " > /dev/full");

@@ -1,7 +1,7 @@
 #include "notation/record_file.h"
 
-#include <gtest/gtest.h>
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -39,8 +39,10 @@ struct RecordFileTest : testing::Test {
 };
 
 TEST_F(RecordFileTest, GoesOnBehindWhatIsThere) {
-    for (const auto& [before, after] : std::vector<std::pair<std::string, std::string>>{
-             {"", "deal 1\nturn\n"}, {"# old\n", "# old\ndeal 1\nturn\n"}, {"# old", "# old\ndeal 1\nturn\n"}}) {
+    for (const auto& [before, after] :
+         std::vector<std::pair<std::string, std::string>>{{"", "deal 1\nturn\n"},
+                                                          {"# old\n", "# old\ndeal 1\nturn\n"},
+                                                          {"# old", "# old\ndeal 1\nturn\n"}}) {
         ScratchFolder::write(name, before);
         RecordFile file(name);
         file.write_line("deal 1");
@@ -126,11 +128,13 @@ TEST_F(RecordFileTest, EndsWithItsReader) {
 TEST_F(RecordFileTest, EndsWhenItIsTakenAway) {
     const std::string gone = "The record of the game in " + name +
                              " was deleted or replaced: it ends here, and the game goes on without it.";
-    expect_end(name, [&] { fs::remove(name); }, gone);
+    expect_end(
+        name, [&] { fs::remove(name); }, gone);
     EXPECT_FALSE(fs::exists(name));
     const std::string other = folder / "other.txt";
     ScratchFolder::write(other, "mine\n");
-    expect_end(name, [&] { fs::rename(other, name); }, gone);
+    expect_end(
+        name, [&] { fs::rename(other, name); }, gone);
     EXPECT_EQ(ScratchFolder::contents(name), "mine\n");
 }
 
@@ -141,10 +145,12 @@ TEST_F(RecordFileTest, IsTheSameByEveryName) {
         fs::create_directory_symlink(".", folder / "here");
         fs::create_symlink("settings.sqlite", folder / "link");
         fs::create_symlink(folder / "link", folder / "far link");
-        for (const char* same : {"./settings.sqlite", "here/settings.sqlite", "link", "here/link", "far link"}) {
+        for (const char* same :
+             {"./settings.sqlite", "here/settings.sqlite", "link", "here/link", "far link"}) {
             EXPECT_TRUE(names_one_file(folder / same, store)) << same;
         }
-        for (const char* other : {"game.txt", "here", "loop", "loop/settings.sqlite", "far/settings.sqlite"}) {
+        for (const char* other :
+             {"game.txt", "here", "loop", "loop/settings.sqlite", "far/settings.sqlite"}) {
             EXPECT_FALSE(names_one_file(folder / other, store)) << other;
         }
         if (exists) {
