@@ -9,14 +9,14 @@
 namespace tarnwick {
 namespace {
 
-// Long options have the numbers of letters that are no short options.
+// Only h and v are short options as well; the other letters are numbers for the long ones.
 constexpr std::array<option, 6> options{{{"deal", required_argument, nullptr, 'd'},
                                          {"store", required_argument, nullptr, 's'},
                                          {"record", required_argument, nullptr, 'r'},
                                          {"help", no_argument, nullptr, 'h'},
                                          {"version", no_argument, nullptr, 'v'},
                                          {nullptr, 0, nullptr, 0}}};
-// Other arguments and missing values are told apart from options, and told by this program.
+// "-" gives back other arguments where they stand, ":" tells a missing value from an unknown option.
 constexpr const char* short_options = "-:hv";
 constexpr int other_argument = 1;
 
