@@ -54,9 +54,9 @@ std::uint32_t deal_number(const std::string& text) {
 CommandLine parse_command_line(const std::vector<std::string>& arguments) {
     std::vector<std::string> words{"tarnwick"};
     words.insert(words.end(), arguments.begin(), arguments.end());
-    std::vector<char*> pointers;
-    for (std::string& word : words) pointers.push_back(word.data());
-    pointers.push_back(nullptr);
+    std::vector<char*> pointers(words.size() + 1, nullptr);
+    std::transform(words.begin(), words.end(), pointers.begin(),
+                   [](std::string& word) { return word.data(); });
     const int count = static_cast<int>(words.size());
 
     CommandLine result;

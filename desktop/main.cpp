@@ -84,8 +84,10 @@ int main(int argc, char** argv) {
         const CommandLine command = parse_command_line({argv + 1, argv + argc});
         if (command.help) std::cout << command_line_help();
         if (command.version) std::cout << "tarnwick " TARNWICK_VERSION "\n";
-        flush_standard_output();
-        if (command.help || command.version) return EXIT_SUCCESS;
+        if (command.help || command.version) {
+            flush_standard_output();
+            return EXIT_SUCCESS;
+        }
         return run(command, argc, argv);
     } catch (const CommandLineError& error) {
         std::cerr << "tarnwick: " << printable(error.what()) << '\n';

@@ -26,7 +26,7 @@ bool is_one_file(const struct stat& a, const struct stat& b) {
 }
 
 std::string why_not_opened(const std::string& name, int error) {
-    const std::string sentence = "the record of the game cannot be written to " + name;
+    std::string sentence = "the record of the game cannot be written to " + name;
     if (error == ELOOP) return sentence + ": the symbolic link leads round in a circle";
     const auto status = status_of(name);
     if (error == ENXIO && status && S_ISFIFO(status->st_mode)) {

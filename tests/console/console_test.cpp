@@ -34,7 +34,7 @@ TEST(Console, TellsInOneSentenceWhatItCannotRead) {
     const ScratchFolder folder("console");
     const std::string name = folder / "game.txt";
     std::string forty_zeros;
-    while (forty_zeros.size() < 40 * 4) forty_zeros += R"(\x00)";
+    while (forty_zeros.size() < 40 * std::string_view(R"(\x00)").size()) forty_zeros += R"(\x00)";
     const auto refuses = [&](const std::string& line, const std::string& sentence) {
         const ConsoleRun run(line);
         EXPECT_EQ(run.code, 1) << line;

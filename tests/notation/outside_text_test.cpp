@@ -42,12 +42,12 @@ std::string refusal(const std::function<void()>& reading) {
 TEST(OutsideText, IsRefusedInWordsThatCanBeShown) {
     const std::string bad = "\x1b" + std::string(60, 'x');
     const std::string shown = "\"\\x1b" + std::string(39, 'x') + "...\"";
-    for (const std::string line : {"", "deal ", "drag ", "turn "}) {
-        const std::string fault = refusal([&] { parse_record("deal 1\n" + line + bad); });
+    for (const std::string line : {"deal 1\n", "deal ", "deal 1\ndrag ", "deal 1\nturn "}) {
+        const std::string fault = refusal([&] { parse_record(line + bad); });
         EXPECT_NE(fault.find(shown), std::string::npos) << fault;
     }
     for (const std::string line : {"0: ", "score: ", "ace ", "", "\x1b 1: 7♠\n\x1b"}) {
-        const std::string fault = refusal([&] { parse_position(line + bad + (line == "" ? ":" : ": ")); });
+        const std::string fault = refusal([&] { parse_position(line + bad + (line.empty() ? ":" : ": ")); });
         EXPECT_EQ(fault.find('\x1b'), std::string::npos) << fault;
         EXPECT_NE(fault.find(R"(\x1b)"), std::string::npos) << fault;
         EXPECT_LT(fault.size(), 120U);
