@@ -123,7 +123,7 @@ bool fail_at(const Situation& situation, int n, bool resume, std::set<std::strin
     }
     const bool forced = points_to_fault == 0;
     points_to_fault = 0;
-    EXPECT_EQ(used_between_statements, nullptr) << "uses state or widgets between its statements";
+    EXPECT_STREQ(used_between_statements, nullptr) << "uses state or widgets between its statements";
     if (!forced) return false;
     EXPECT_TRUE(frmError.visible() || !play.desktop.messages().empty()) << "nobody was told";
     if (frmError.visible()) {

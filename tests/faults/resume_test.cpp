@@ -206,7 +206,7 @@ Outcome outcome_of(const Situation& situation, Fault fault, std::size_t n = 0) {
     };
     const std::string result = situation.play();
     before_statement = nullptr;
-    EXPECT_EQ(used_between_statements, nullptr) << "uses state or widgets between its statements";
+    EXPECT_STREQ(used_between_statements, nullptr) << "uses state or widgets between its statements";
     outcome.state = result + '\n' + state_text(play);
     if (outcome.after_fault.empty()) outcome.after_fault = state_text(play);
     if (frmError.visible()) outcome.error = frmError.LblError.caption();
