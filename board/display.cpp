@@ -1,5 +1,6 @@
 #include "board/display.h"
 
+#include <algorithm>
 #include <string>
 
 #include "state/rounding.h"
@@ -109,8 +110,11 @@ void redisplay_aces(const Integer& p, const Integer& mode) {
         } else if (mode == stacked_mode) {
             place_top_two(p);
         }
+        // Where cards keep their size in a wide window, the zone reaches to the end of the outline all the
+        // same.
+        const float zone_width = std::max(120 * card_scale, 25 * x_scale + card_width * card_scale);
         frmcards.Image1(first_ace_zone + p)
-            .move(static_cast<float>(158 * p + 216) * x_scale, 5, 120 * card_scale, 106 * card_scale);
+            .move(static_cast<float>(158 * p + 216) * x_scale, 5, zone_width, 106 * card_scale);
         frmcards.Shape1(p).move(static_cast<float>(ace_pile_left(p)) * x_scale, top_row,
                                 card_width * card_scale, card_height * card_scale);
     });

@@ -34,12 +34,14 @@ std::optional<QPointF> free_spot(const Widget& widget) {
     return std::nullopt;
 }
 
-void click(const Widget& widget, int times) {
+void click(BoardWidget& board, const Widget& widget, int times) {
     Form& form = widget.form();
     for (int i = 0; i < times; ++i) {
         if (!takes_clicks(form)) return;
         const std::optional<QPointF> spot = free_spot(widget);
         if (!spot) return;
+        // What is not seen takes no clicks.
+        board.reveal(*spot);
         form.mouse().press(static_cast<float>(spot->x()), static_cast<float>(spot->y()));
         form.mouse().release(static_cast<float>(spot->x()), static_cast<float>(spot->y()));
     }
@@ -70,8 +72,12 @@ QRect BoardItemAccessible::rect() const {
     const BoardWidget& board = board_.board();
     const bool is_image = widget_.kind() == WidgetKind::image;
     // A label may be drawn larger than it is placed.
-    const QRect place = is_image ? to_qt(widget_.place()).toAlignedRect()
-                                 : BoardPainter(board.form()).area_of(widget_, widget_.place());
+    QRect place = to_qt(widget_.place()).toAlignedRect();
+    if (!is_image) {
+        BoardPainter painter(board.form());
+        painter.set_scrolled(board.scroll_offset());
+        place = painter.area_of(widget_, widget_.place());
+    }
     return place.translated(board.mapToGlobal(QPoint(0, -board.scroll_offset())));
 }
 
@@ -109,8 +115,9 @@ void BoardItemAccessible::doAction(const QString& action) {
     const int clicks = item().clicks;
     if (action != pressAction() || clicks == 0) return;
     // Later: a move may bring up a message, and whoever asks for it does not wait for the answer.
+    BoardWidget& board = board_.board();
     QMetaObject::invokeMethod(
-        &board_.board(), [&widget = widget_, clicks] { click(widget, clicks); }, Qt::QueuedConnection);
+        &board, [&board, &widget = widget_, clicks] { click(board, widget, clicks); }, Qt::QueuedConnection);
 }
 
 QVariant BoardItemAccessible::currentValue() const { return item().value.value_or(0); }

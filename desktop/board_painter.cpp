@@ -12,13 +12,6 @@
 namespace tarnwick {
 namespace {
 
-// A row of labels at the lower left corner grows to the right and upwards, and keeps its order.
-QRectF label_place(const Rect& place, qreal scale) {
-    const QRectF given = to_qt(place);
-    const qreal height = given.height() * scale;
-    return QRectF(given.left() * scale, given.bottom() - height, given.width() * scale, height);
-}
-
 int text_flags(const Label& label) {
     switch (label.alignment()) {
         case Alignment::right:
@@ -39,6 +32,13 @@ void for_each_visible(const Form& form, WidgetKind kind, Action action) {
 }
 
 }  // namespace
+
+// A row of labels at the lower left corner grows to the right and upwards, and keeps its order.
+QRectF BoardPainter::label_place(const Rect& place, qreal scale) const {
+    const QRectF given = to_qt(place);
+    const qreal height = given.height() * scale;
+    return QRectF(given.left() * scale, given.bottom() - height + scrolled_, given.width() * scale, height);
+}
 
 QRect BoardPainter::area_of(const Widget& widget, const Rect& place) const {
     if (widget.kind() == WidgetKind::image) {
@@ -64,13 +64,11 @@ void BoardPainter::paint(QPainter& painter, const QRegion& area) {
     painter.save();
     painter.scale(1 / ratio, 1 / ratio);
     paint_outlines(painter, area, ratio);
-    painter.restore();
-    paint_labels(painter, area);
-    painter.save();
-    painter.scale(1 / ratio, 1 / ratio);
     paint_images(painter, area, ratio);
     drag_.paint(painter, area, ratio, pictures_);
     painter.restore();
+    // Above all cards: the score can always be read.
+    if (area.intersects(plate())) paint_labels(painter, area);
 }
 
 void BoardPainter::paint_outlines(QPainter& painter, const QRegion& area, qreal ratio) const {
@@ -102,14 +100,41 @@ qreal BoardPainter::label_scale() const {
 
 void BoardPainter::paint_labels(QPainter& painter, const QRegion& area) const {
     const qreal scale = label_scale();
+    paint_plate(painter);
     painter.setFont(QApplication::font());
     for_each_visible<Label>(form_, WidgetKind::label, [&](const Label& label) {
         const QRectF place = label_place(label.place(), scale);
         if (!area.intersects(touched(place))) return;
-        if (label.has_colors()) painter.fillRect(place, to_qt(label.back_color()));
         painter.setPen(to_qt(label.text_color()));
         painter.drawText(place, text_flags(label), to_qt(label.caption()));
     });
+}
+
+QRect BoardPainter::plate() const {
+    constexpr qreal margin = 4;
+    const qreal scale = label_scale();
+    QRectF row;
+    for_each_visible<Label>(form_, WidgetKind::label,
+                            [&](const Label& label) { row |= label_place(label.place(), scale); });
+    return row.isEmpty() ? QRect() : row.adjusted(-margin, -1, margin, 1).toAlignedRect();
+}
+
+bool BoardPainter::is_seen_within(const QRectF& place) const {
+    bool found = false;
+    for_each_visible<Image>(form_, WidgetKind::image, [&](const Image& image) {
+        found = found || (is_seen(image) && picture_place(image, image.place()).intersects(place));
+    });
+    return found || QRectF(drag_.area()).intersects(place);
+}
+
+// Where cards lie under the labels, the colour of the table is laid between them.
+void BoardPainter::paint_plate(QPainter& painter) const {
+    const QRectF place(plate());
+    if (!is_seen_within(place)) return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(to_qt(form_.back_color()));
+    painter.drawRoundedRect(place, corner_radius, corner_radius);
 }
 
 void BoardPainter::sort_images() {

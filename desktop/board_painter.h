@@ -21,6 +21,9 @@ class BoardPainter {
     explicit BoardPainter(const Form& form, const GlideBack* glide = nullptr)
         : form_(form), drag_(form, glide) {}
 
+    /// How far the board is scrolled down, in pixels: the labels keep their places in the window.
+    void set_scrolled(int offset) { scrolled_ = offset; }
+
     /// Paints what lies in `area` (pixels of the window's client area). Pictures may reach beyond it:
     /// clipping is up to the painter.
     void paint(QPainter& painter, const QRegion& area);
@@ -32,6 +35,8 @@ class BoardPainter {
     QRect area_of(const Widget& widget, const Rect& place) const;
     /// The lower edge of the lowest picture, in pixels.
     int lower_edge() const;
+    /// What of the labels' surroundings changes when something else moves below them, in pixels.
+    QRect plate() const;
     /// How much larger than given the labels are drawn, so that their texts fit; about 1.
     qreal label_scale() const;
 
@@ -46,11 +51,15 @@ class BoardPainter {
 
     void paint_outlines(QPainter& painter, const QRegion& area, qreal ratio) const;
     void paint_labels(QPainter& painter, const QRegion& area) const;
+    void paint_plate(QPainter& painter) const;
+    bool is_seen_within(const QRectF& place) const;
+    QRectF label_place(const Rect& place, qreal scale) const;
     void collect_sprites(const QRegion& area, qreal ratio);
     void paint_images(QPainter& painter, const QRegion& area, qreal ratio);
     void sort_images();
 
     const Form& form_;
+    int scrolled_ = 0;
     PictureCache pictures_;
     DragPainter drag_;
     std::vector<const Image*> images_;  ///< from the lowest one up

@@ -1,6 +1,7 @@
 #include "desktop/board_widget.h"
 
 #include <QCoreApplication>
+#include <QCursor>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -42,7 +43,7 @@ BoardWidget::BoardWidget(Form& form)
     scroll_bar_.hide();
     scroll_bar_.setSingleStep(scroll_step);
     connect(&scroll_bar_, &QScrollBar::valueChanged, this, [this](int value) {
-        offset_ = value / scroll_grain * scroll_grain;
+        show_part(value / scroll_grain * scroll_grain);
         repaint_all();
         // Under a pointer that holds cards another part of the board lies now.
         if (form_.mouse().dragged()) move_pointer(pointer_);
@@ -72,7 +73,16 @@ void BoardWidget::drag_changed() {
     repaint_lifted();
     repaint_mark();
     scroll_at_edge();
-    setMouseTracking(form_.mouse().dragged() != nullptr);
+    const bool holds = form_.mouse().dragged() != nullptr;
+    setMouseTracking(holds);
+    scroll_bar_.set_out_of_the_way(holds);
+}
+
+void BoardWidget::show_part(int offset) {
+    offset_ = offset;
+    painter_.set_scrolled(offset);
+    form_.mouse().set_seen_area(
+        {0, static_cast<float>(offset), static_cast<float>(width()), static_cast<float>(height())});
 }
 
 void BoardWidget::take_up_or_put_down() {
@@ -155,6 +165,9 @@ void BoardWidget::repaint_area(const QRect& area) {
         update();
     } else {
         update(area.translated(0, -offset_));
+        // With a card below them, the labels are painted on a plate.
+        const QRect plate = painter_.plate();
+        if (area.intersects(plate)) update(plate.translated(0, -offset_));
     }
 }
 
@@ -182,10 +195,12 @@ void BoardWidget::resizeEvent(QResizeEvent*) {
     settling_.start(settling_time, this);
     glide_.end();
     repaint_all();
-    const int bar_width = scroll_bar_.sizeHint().width();
-    scroll_bar_.setGeometry(width() - bar_width, 0, bar_width, height());
+    scroll_bar_.settle();
+    show_part(offset_);
     update_scrolling_later();
     form_.user_resized({width(), height()});
+    // The window may have been moved as well, from under a pointer that holds a card.
+    if (form_.mouse().dragged()) move_pointer(mapFromGlobal(QPointF(QCursor::pos())));
 }
 
 void BoardWidget::update_scrolling_later() {
@@ -258,12 +273,22 @@ void BoardWidget::keyPressEvent(QKeyEvent* event) {
         form_.mouse().cancel();
         return;
     }
-    if (event->key() == Qt::Key_PageDown || event->key() == Qt::Key_PageUp) {
-        const int page = event->key() == Qt::Key_PageDown ? height() / 2 : -height() / 2;
-        if (form_.accepts_input()) scroll_bar_.setValue(scroll_bar_.value() + page);
-    }
+    if (form_.accepts_input()) scroll_with(event->key());
     const int code = key_code_of(event->key());
     event->setAccepted(code != 0 && form_.key_down(code));
+}
+
+void BoardWidget::reveal(QPointF spot) {
+    const int y = qRound(spot.y());
+    if (y < offset_) scroll_bar_.setValue(y - edge_reach);
+    if (y >= offset_ + height()) scroll_bar_.setValue(y + edge_reach - height());
+}
+
+void BoardWidget::scroll_with(int key) {
+    if (key == Qt::Key_PageDown) scroll_bar_.setValue(scroll_bar_.value() + height() / 2);
+    if (key == Qt::Key_PageUp) scroll_bar_.setValue(scroll_bar_.value() - height() / 2);
+    if (key == Qt::Key_Home) scroll_bar_.setValue(0);
+    if (key == Qt::Key_End) scroll_bar_.setValue(scroll_bar_.maximum());
 }
 
 // Nor do these paint.

@@ -1,12 +1,12 @@
 #pragma once
 
 #include <QBasicTimer>
-#include <QScrollBar>
 #include <QWidget>
 
 #include "desktop/board_accessible.h"
 #include "desktop/board_painter.h"
 #include "desktop/glide_back.h"
+#include "desktop/slim_scroll_bar.h"
 
 namespace tarnwick {
 
@@ -22,6 +22,9 @@ class BoardWidget : public QWidget {
     void drag_changed();
     /// Repaints all of the board.
     void repaint_all();
+
+    /// Scrolls the board as far as it takes to see this spot of it, in its pixels.
+    void reveal(QPointF spot);
 
     Form& form() const { return form_; }
     /// How far the board is scrolled down, in pixels.
@@ -48,6 +51,9 @@ class BoardWidget : public QWidget {
     void repaint_mark();
     void take_up_or_put_down();
     void move_pointer(QPointF place);
+    /// Tells the window which part of the board is seen.
+    void show_part(int offset);
+    void scroll_with(int key);
     void scroll_at_edge();
     /// Which way a drag scrolls the board now: -1 up, 1 down, 0 not at all.
     int edge_ahead() const;
@@ -59,7 +65,7 @@ class BoardWidget : public QWidget {
     Form& form_;
     GlideBack glide_;
     BoardPainter painter_;
-    QScrollBar scroll_bar_{Qt::Vertical, this};
+    SlimScrollBar scroll_bar_{this};
     QRect lifted_area_;
     std::vector<Image*> lifted_;  ///< the images of the drag
     QRect mark_area_;

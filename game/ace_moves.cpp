@@ -48,6 +48,9 @@ void start_slide(Statements& then, const Integer& target, bool first_card, int (
     then("slide: start the clock", [] { frmcards.Timer3.set_enabled(true); });
 }
 
+// What has just been shown at the place that the card leaves must not cover it.
+void bring_to_front(int p) { frmcards.Image1(aces(p, picture_field)).bring_to_front(); }
+
 bool slides(bool animate) { return animate && setting_is_on(key_anamate); }
 
 }  // namespace
@@ -106,6 +109,7 @@ void tablet_to_ace(const Integer& target, bool animate) {
                  [&] { redisplay_aces(p(), first_card ? single_card_mode : stacked_mode); });
         }
         then("take the card from the tablet", [] { take_from_tablet(); });
+        if (slide) then("slide: keep the card in front", [&] { bring_to_front(p()); });
         // Recorded before it is scored: the move that wins may deal a new game, whose list begins empty.
         then("record the move", [&] { add_undo(tablet_pile, target, 1); });
         then("score it", [&] { ace_score(p(), animate); });
@@ -131,6 +135,7 @@ void layout_to_ace(const Integer& target, bool animate) {
                  [&] { redisplay_aces(p(), first_card ? single_card_mode : stacked_mode); });
         }
         then("redisplay the column", [] { redisplay_column(drag_source); });
+        if (slide) then("slide: keep the card in front", [&] { bring_to_front(p()); });
         // Recorded before it is scored, as in tablet_to_ace.
         then("record the move", [&] { add_undo(drag_source, target, 1); });
         then("score it", [&] { ace_score(p(), animate); });

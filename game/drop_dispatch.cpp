@@ -85,17 +85,13 @@ int ace_pile_for(const Card& card) {
 
 Drop drop_of(const Image& source, const Image& target, float x) {
     const int from = pile_of(source);
+    // A card in flight passes places that it does not belong to.
+    if (is_sliding(target)) return {from, first_ace_pile + animation(slide_pile)};
     if (target.top() >= column_area_top) {
-        // A click on a card in flight is no move to the column that it happens to pass.
-        if (&target == &source && is_sliding(source)) return {from, from};
         const int c = column_at(target.left());
         return {from, c, neighbour_in_reach(c, x / twips_per_pixel)};
     }
-    if (target.left() > tablet_target_limit * x_scale) {
-        // A card in flight passes places that belong to no pile.
-        return {from,
-                is_sliding(target) ? first_ace_pile + animation(slide_pile) : ace_pile_at(target.left())};
-    }
+    if (target.left() > tablet_target_limit * x_scale) return {from, ace_pile_at(target.left())};
     return {from, from == tablet_pile ? tablet_pile : none};
 }
 

@@ -12,13 +12,15 @@ namespace tarnwick {
 namespace {
 
 // A best score waits for the name of the player; where nobody is there to type it, it is entered without.
-void finish_counting(int place) {
+void finish_counting(int place, bool slide_cut_short) {
     if (place == none) return;
     if (!desktop().attended()) {
         enter_best_score(score, "");
         return;
     }
     phase = Phase::name_asked;
+    // The table is seen behind the dialog, and its cards must lie where they belong.
+    if (slide_cut_short) land_slide();
     high_score_place = place;
     frmcards.set_enabled(false);
     frmyouwin.show();
@@ -29,10 +31,12 @@ void finish_counting(int place) {
 void end_game() {
     const bool slide_cut_short = frmcards.Timer3.enabled();
     bool ended = false;
-    reporting("end_game", [&ended] {
+    reporting("end_game", [&ended, slide_cut_short] {
         if (phase == Phase::playing) {
             stop_effects();
-            if (score != 0) finish_counting(count_game(score, all_ace_piles_complete()));
+            if (score != 0) {
+                finish_counting(count_game(score, all_ace_piles_complete()), slide_cut_short);
+            }
             if (frmcards.enabled()) new_game();
         }
         ended = true;

@@ -128,6 +128,7 @@ void Form::resize(PixelSize outer) {
     outer_ = outer;
     changed();
     if (loaded_ && (visible_ || loading_)) run(on_resize);
+    mouse_.follow_layout();
 }
 
 void Form::resize_client(PixelSize client) {
@@ -140,6 +141,7 @@ void Form::user_resized(PixelSize client) {
     const PixelSize frame = frame_of(*this);
     outer_ = {client.width + frame.width, client.height + frame.height};
     if (visible_ && on_resize) desktop().event(on_resize);
+    mouse_.follow_layout();
 }
 
 void Form::user_changed_state(WindowState state) {
@@ -147,6 +149,7 @@ void Form::user_changed_state(WindowState state) {
     state_ = state;
     if (state == WindowState::minimized) mouse_.cancel();
     if (visible_ && on_resize) desktop().event(on_resize);
+    mouse_.follow_layout();
 }
 
 bool Form::key_down(int key_code) {

@@ -57,6 +57,8 @@ bool Mouse::is_second_click(const Image& image, float x, float y) const {
 
 void Mouse::start_drag(Image& image) {
     dragged_ = &image;
+    hold_x_ = (press_x_ - image.left()) / image.width();
+    hold_y_ = (press_y_ - image.top()) / image.height();
     lifted_ = {&image};
     glides_back_ = false;
     // Asked now and not when the images are put down: a message about it would come between drag and drop.
@@ -71,8 +73,30 @@ void Mouse::move(float x, float y) {
     if (!dragged_ || (x == x_ && y == y_)) return;
     x_ = x;
     y_ = y;
-    const Image* target = on_hover ? image_at(x, y) : nullptr;
-    receiver_ = target ? on_hover(*dragged_, *target, (x - target->left()) * twips_per_pixel) : nullptr;
+    receiver_ = receiver_at(x, y);
+    drag_changed();
+}
+
+const Widget* Mouse::receiver_at(float x, float y) const {
+    const Image* target = on_hover && is_seen(x, y) ? image_at(x, y) : nullptr;
+    return target ? on_hover(*dragged_, *target, (x - target->left()) * twips_per_pixel) : nullptr;
+}
+
+bool Mouse::is_seen(float x, float y) const {
+    const PixelSize client = form_.client_size();
+    const Rect all{0, 0, static_cast<float>(client.width), static_cast<float>(client.height)};
+    return seen_area_.value_or(all).contains(x, y);
+}
+
+void Mouse::follow_layout() {
+    if (!dragged_) return;
+    const float press_x = dragged_->left() + hold_x_ * dragged_->width();
+    const float press_y = dragged_->top() + hold_y_ * dragged_->height();
+    const Widget* receiver = receiver_at(x_, y_);
+    if (press_x == press_x_ && press_y == press_y_ && receiver == receiver_) return;
+    press_x_ = press_x;
+    press_y_ = press_y;
+    receiver_ = receiver;
     drag_changed();
 }
 
@@ -87,7 +111,7 @@ void Mouse::release(float x, float y, MouseButton button) {
     } else if (pressed_) {
         Image& image = *pressed_;
         pressed_ = nullptr;
-        if (image_at(x, y) == &image) click(image);
+        if (is_seen(x, y) && image_at(x, y) == &image) click(image);
     }
 }
 
@@ -95,7 +119,7 @@ void Mouse::drop(float x, float y) {
     Image& source = *dragged_;
     // Put down first: a message that the drop raises must not show the cards still lifted.
     put_down();
-    Image* target = image_at(x, y);
+    Image* target = is_seen(x, y) ? image_at(x, y) : nullptr;
     if (target && target->events().drop) {
         const float offset_x = (x - target->left()) * twips_per_pixel;
         const float offset_y = (y - target->top()) * twips_per_pixel;

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "platform/geometry.h"
@@ -24,6 +25,12 @@ class Mouse {
     void press(float x, float y, MouseButton button = MouseButton::left);
     void move(float x, float y);
     void release(float x, float y, MouseButton button = MouseButton::left);
+    /// Only this part of the board is seen, in its pixels: what lies elsewhere is neither clicked nor dropped
+    /// on. Without it, what lies in the window's client area.
+    void set_seen_area(const Rect& area) { seen_area_ = area; }
+    /// What lies on the board may have moved under a drag: the lifted images are held where they were taken
+    /// hold of, and what would receive them is looked for anew.
+    void follow_layout();
     /// Forgets the press: a drag ends without a drop, a click does not happen.
     void cancel();
 
@@ -55,12 +62,15 @@ class Mouse {
   private:
     bool is_second_click(const Image& image, float x, float y) const;
     void start_drag(Image& image);
+    bool is_seen(float x, float y) const;
+    const Widget* receiver_at(float x, float y) const;
     void drop(float x, float y);
     void click(Image& image);
     void put_down();
     void drag_changed() const;
 
     Form& form_;
+    std::optional<Rect> seen_area_;
     Image* pressed_ = nullptr;
     Image* dragged_ = nullptr;
     std::vector<Image*> lifted_;
@@ -68,6 +78,9 @@ class Mouse {
     bool glides_back_ = false;
     float press_x_ = 0;
     float press_y_ = 0;
+    // Where the dragged image was taken hold of, as parts of its width and height.
+    float hold_x_ = 0;
+    float hold_y_ = 0;
     float x_ = 0;
     float y_ = 0;
     // The last click, as the possible first half of a two-click event.

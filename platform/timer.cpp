@@ -52,6 +52,7 @@ void TimerQueue::run_due() {
         // Ticks keep their rhythm, but those that a late clock has missed are not made up for.
         timer->due_ = std::max(timer->due_ + timer->interval_, now + 1);
         if (timer->on_tick) desktop().event(timer->on_tick);
+        timer->form_.mouse().follow_layout();
     }
 }
 

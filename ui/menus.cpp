@@ -26,6 +26,15 @@ void show_best_scores() {
     frmBestScore.show();
 }
 
+// A slide that wins the game has won it, though the player is quicker: there is nothing to restart then.
+void restart() {
+    if (frmcards.Timer3.enabled() && animation(slide_wins_game) == 1 && all_ace_piles_complete()) {
+        finish_slide();
+    } else {
+        restart_game();
+    }
+}
+
 void exit_program() {
     closing = flag_true;
     frmcards.unload();
@@ -54,7 +63,7 @@ void show_help() {
 
 void attach_menus() {
     frmcards.mnuNew.on_click = end_game;
-    frmcards.mnuRestart.on_click = restart_game;
+    frmcards.mnuRestart.on_click = restart;
     frmcards.mnuScore.on_click = show_best_scores;
     frmcards.mnuExit.on_click = exit_program;
     frmcards.mnuUndo.on_click = do_undo;

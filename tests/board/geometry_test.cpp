@@ -45,7 +45,8 @@ TEST(Board, IsLaidOutForItsWidth) {
         expect_place(frmcards.Shape1(stock_outline), {4 * x, 10, 71 * card, 96 * card});
         for (int p = 0; p <= 3; ++p) {
             const auto left = static_cast<float>(158 * p);
-            expect_place(frmcards.Image1(first_ace_zone + p), {(left + 216) * x, 5, 120 * card, 106 * card});
+            const float width = std::max(120 * card, 25 * x + 71 * card);
+            expect_place(frmcards.Image1(first_ace_zone + p), {(left + 216) * x, 5, width, 106 * card});
             expect_place(frmcards.Shape1(p), {(left + 241) * x, 10, 71 * card, 96 * card});
         }
         for (int c = 0; c <= 9; ++c) {

@@ -50,6 +50,7 @@ from_tablet_to_column
   hide the card
   redisplay the column
   take the card from the tablet
+  slide: keep the card in front
   record the move
   a move was made
 from_column_to_column
@@ -117,6 +118,7 @@ tablet_to_ace
   slide: start the clock
   redisplay the pile
   take the card from the tablet
+  slide: keep the card in front
   record the move
   score it
 layout_to_ace
@@ -133,6 +135,7 @@ layout_to_ace
   slide: start the clock
   redisplay the pile
   redisplay the column
+  slide: keep the card in front
   record the move
   score it
 next_tablet_card
