@@ -96,11 +96,11 @@ Drop drop_of(const Image& source, const Image& target, float x) {
 }
 
 void drop_on_image(int index, const Image& source, float x) {
+    if (end_won_game()) return;
     const Drop drop = drop_of(source, frmcards.Image1(index), x);
     drag_source = drop.source;
     const bool moved = drop.first != none && column_to_column(drop.first);
     if (!moved && drop.second != none) column_to_column(drop.second);
-    settle_landed_win();
 }
 
 bool column_to_column(const Integer& target) {

@@ -56,14 +56,18 @@ void deal_next_game() {
 }
 
 void finish_slide() {
+    if (end_won_game()) return;
     land_slide();
-    settle_landed_win();
+    animation(slide_wins_game) = 0;
 }
 
-void settle_landed_win() {
-    if (animation(slide_wins_game) != 1 || frmcards.Timer3.enabled()) return;
+bool end_won_game() {
+    const bool wins = frmcards.Timer3.enabled() && animation(slide_wins_game) == 1;
+    if (!wins || !all_ace_piles_complete()) return false;
+    land_slide();
     animation(slide_wins_game) = 0;
-    if (all_ace_piles_complete()) end_game();
+    end_game();
+    return true;
 }
 
 }  // namespace tarnwick

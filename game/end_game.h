@@ -14,7 +14,8 @@ void deal_next_game();
 /// Lays the sliding card on its pile, and ends the game if that has won it.
 void finish_slide();
 
-/// After a slide has landed: ends the game if that slide has won it and it is still won.
-void settle_landed_win();
+/// Where the card that slides has won the game, lays it on its pile and ends the game. True then: whatever
+/// would have cut the slide short has come too late, and is not carried out.
+bool end_won_game();
 
 }  // namespace tarnwick

@@ -2,6 +2,7 @@
 
 #include "board/display.h"
 #include "board/timed_effects.h"
+#include "game/end_game.h"
 #include "game/undo_moves.h"
 #include "game/undo_tablet.h"
 #include "state/undo_list.h"
@@ -32,6 +33,7 @@ void reverse_newest_record() {
 }  // namespace
 
 void do_undo() {
+    if (end_won_game()) return;
     if (frmcards.Timer3.enabled()) land_slide();
     reverse_newest_record();
     remove_undo_record(0);

@@ -26,13 +26,8 @@ void show_best_scores() {
     frmBestScore.show();
 }
 
-// A slide that wins the game has won it, though the player is quicker: there is nothing to restart then.
 void restart() {
-    if (frmcards.Timer3.enabled() && animation(slide_wins_game) == 1 && all_ace_piles_complete()) {
-        finish_slide();
-    } else {
-        restart_game();
-    }
+    if (!end_won_game()) restart_game();
 }
 
 void exit_program() {

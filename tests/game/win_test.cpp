@@ -1,10 +1,14 @@
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "notation/position_text.h"
 #include "state/soundness.h"
 #include "state/variables.h"
 #include "tools/driver/play.h"
+#include "ui/program.h"
 #include "windows/frmBestScore.h"
+#include "windows/frmFeatures.h"
 #include "windows/frmcards.h"
 #include "windows/frmyouwin.h"
 
@@ -43,30 +47,37 @@ class WonBySlide : public testing::Test {
     Play play;
 };
 
-TEST_F(WonBySlide, NotWhenTheDropThatLandsItTakesAKingBack) {
-    slide(last_king, 2);
-    play.act("drag ace 1 5");
-    EXPECT_TRUE(shows("5: K♥'\nace 0: A♠ .. K♠ K♠'"));
-    play.desktop.advance(1000);
-    EXPECT_FALSE(frmyouwin.visible());
-    play.click(5);
-    play.act("drag ace 1 ace 2");
-    EXPECT_TRUE(frmyouwin.visible()) << "another drop lands the King";
+TEST_F(WonBySlide, WhateverCutsTheSlideShort) {
+    const struct {
+        const char* name;
+        std::function<void()> cut;
+    } ways[] = {{"a drop that would take a King back", [this] { play.act("drag ace 1 5"); }},
+                {"a drop that nobody takes", [this] { play.act("drag ace 1 ace 2"); }},
+                {"undo", [this] { play.undo(); }},
+                {"restart", [] { frmcards.mnuRestart.choose(); }},
+                {"a new game", [] { frmcards.mnuNew.choose(); }},
+                {"the best scores", [] { frmcards.mnuScore.choose(); }},
+                {"the settings", [] { frmcards.mnuSetings.choose(); }},
+                {"the end of the program", [] { frmcards.mnuExit.choose(); }}};
+    for (const auto& [name, cut] : ways) {
+        SCOPED_TRACE(name);
+        for (const char* key : {"high score 1", "games played", "games won"}) play.save(key, "0");
+        slide(last_king, 2);
+        cut();
+        EXPECT_TRUE(frmyouwin.visible() && frmyouwin.lblYouWin.visible());
+        EXPECT_FALSE(frmBestScore.visible() || frmFeatures.visible());
+        EXPECT_TRUE(shows("ace 0: A♠ .. K♠ K♠'"));
+        const Image& landed = top_image(ace_pile(0));
+        EXPECT_EQ(landed.left(), frmcards.Shape1(0).left()) << "it has landed behind the dialog";
+        EXPECT_EQ(landed.top(), 10);
+        play.desktop.advance(1000);
+        EXPECT_EQ(play.stored("games played") + play.stored("games won"), "11") << "once";
+        end_program();
+    }
 }
 
-TEST_F(WonBySlide, BeforeADialogOpens) {
-    slide(last_king, 2);
-    frmcards.mnuScore.choose();
-    EXPECT_TRUE(frmyouwin.visible() && !frmBestScore.visible());
-}
-
-TEST_F(WonBySlide, NotWhenItIsUndone) {
+TEST_F(WonBySlide, NotByAnotherCardThatSlides) {
     slide(last_two_kings, 3);
-    play.desktop.advance(1000);
-    play.act("drag 2 2, undo");
-    play.desktop.advance(5000);
-    // Another card that slides by itself wins nothing.
-    play.act("undo, drag 3 3");
     play.desktop.advance(1000);
     EXPECT_FALSE(frmyouwin.visible());
     play.act("drag 2 ace 0");

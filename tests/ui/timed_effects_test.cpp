@@ -76,6 +76,18 @@ TEST_F(SlideUnderWay, TakesADropOnItsCardAlongToTheAcePile) {
     EXPECT_TRUE(shows("ace 3: A♠ 2♠ 2♠'"));
 }
 
+TEST_F(SlideUnderWay, IsInFrontFromItsStartAndBelongsToItsPile) {
+    slide("0: 2♠'\n6: [9♣] 2♠\nace 3: A♠", 6, 0);
+    const Image* flying = &frmcards.Image1(226);
+    EXPECT_EQ(frmcards.mouse().image_at(flying->left() + 5, flying->top() + 5), flying)
+        << "before the card that was turned up";
+    play.drag_image(top_image(0), *flying);
+    EXPECT_TRUE(shows("ace 3: A♠ 2♠ 2♠'")) << "dropped on it over its column";
+    slide("ace 3: A♠\ntablet: 9♣ (2♠) ..", tablet_pile, 0);
+    flying = &frmcards.Image1(226);
+    EXPECT_EQ(frmcards.mouse().image_at(flying->left() + 5, flying->top() + 5), flying);
+}
+
 TEST(Twinkle, PlaysTenFramesWhenTheAceOfSpadesArrives) {
     Play play;
     play.start("4: A♠");
