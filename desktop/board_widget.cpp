@@ -82,7 +82,7 @@ void BoardWidget::show_part(int offset) {
     offset_ = offset;
     painter_.set_scrolled(offset);
     form_.mouse().set_seen_area(
-        {0, static_cast<float>(offset), static_cast<float>(width()), static_cast<float>(height())});
+        Rect{0, static_cast<float>(offset), static_cast<float>(width()), static_cast<float>(height())});
 }
 
 void BoardWidget::take_up_or_put_down() {

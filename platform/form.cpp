@@ -25,7 +25,7 @@ class Finally {
 }  // namespace
 
 PixelSize frame_of(const Form& form) {
-    constexpr PixelSize sizable_with_menu{8, 50};
+    constexpr PixelSize sizable_with_menu{2, 50};
     constexpr PixelSize dialog{6, 28};
     return form.border() == FormBorder::sizable ? sizable_with_menu : dialog;
 }
@@ -52,6 +52,7 @@ void Form::load() {
     enabled_ = true;
     state_ = WindowState::normal;
     design();
+    mouse_.set_seen_area(std::nullopt);
     view_ = desktop().make_view(*this);
     timer_queue().start(*this);
     loading_ = true;

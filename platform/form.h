@@ -150,7 +150,8 @@ class Form {
 
 /// What a window's frame and menu bar take off its size, in pixels. The figures are fixed, so that a window
 /// of a given size has the same client area under every window manager; the height leaves the score labels
-/// (their lower edge lies 53 pixels above the frame's) three pixels of air.
+/// (their lower edge lies 53 pixels above the frame's) three pixels of air, and the width leaves a margin
+/// beside the last column of cards that a bar of eight pixels fits into.
 PixelSize frame_of(const Form& form);
 
 }  // namespace tarnwick

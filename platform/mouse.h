@@ -27,7 +27,7 @@ class Mouse {
     void release(float x, float y, MouseButton button = MouseButton::left);
     /// Only this part of the board is seen, in its pixels: what lies elsewhere is neither clicked nor dropped
     /// on. Without it, what lies in the window's client area.
-    void set_seen_area(const Rect& area) { seen_area_ = area; }
+    void set_seen_area(const std::optional<Rect>& area) { seen_area_ = area; }
     /// What lies on the board may have moved under a drag: the lifted images are held where they were taken
     /// hold of, and what would receive them is looked for anew.
     void follow_layout();

@@ -137,9 +137,9 @@ TEST(Drag, HeldAtTheLowerEdgeItReachesTheCardsBelow) {
     };
     EXPECT_TRUE(eventually(scrolled));
     game.screen().release();
+    game.resize(game.board().width, 900);
     game.headless().drag(column_of_jack, column_of_queen);
     ASSERT_EQ(column_top(column_of_queen), column_of_queen + 1);
-    game.resize(game.board().width, 900);
     EXPECT_EQ(board_faults(game), "");
 }
 

@@ -46,7 +46,7 @@ TEST(Restart, BringsTheSameDealBackWhateverHasHappened) {
     play.start();
     const std::string deal = position_text();
     set_position("0: 6♦\n1: 2♠\n3: [9♣] 3♥\nace 0: A♠\nace 1: A♥ 2♥'\ntablet: 9♥ ..");
-    frmcards.user_resized({792, 570});
+    frmcards.user_resized({798, 570});
     ASSERT_EQ(frmcards.Timer1.interval(), 30) << "the ace of Spades twinkles";
     play.save("anamate", "True");
     play.double_click(frmcards.Image1(face_down_image(3, 0)));

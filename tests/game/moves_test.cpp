@@ -117,7 +117,7 @@ TEST(Move, RefusedByAColumnIsTriedOnTheNeighbourNearestToThePointer) {
         {"drag 6 3 at 42", "4: 8♥ 7♠"}, {"drag 6 4 at 10", "4: 8♥ 7♠"}, {"drag 6 0 at 5", "6: 7♠"},
         {"drag 6 9 at 60", "6: 7♠"},    {"drag 6 9 at 5", "8: 8♦' 7♠"}, {"drag 6 0 at 60", "1: 8♥' 7♠"},
     };
-    for (const int width : {792, 1592}) {
+    for (const int width : {798, 1598}) {
         for (const auto& [played, lands] : cases) {
             Play play;
             play.start("0: 3♣\n1: 8♥'\n2: 8♦\n3: 3♠\n4: 8♥\n6: 7♠\n8: 8♦'\n9: 3♠'");

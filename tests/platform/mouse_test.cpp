@@ -103,5 +103,36 @@ TEST_F(MouseTest, DropsADraggedImageWithTheOffsetInTwips) {
     EXPECT_EQ(drag(210, 180, 180), "") << "no image, no drop";
 }
 
+TEST_F(MouseTest, DropsAndClicksOnlyWhereTheBoardIsSeen) {
+    window.resize_client({400, 240});
+    EXPECT_EQ(drag(210, 60, 230), "drop 3 on 2 at 900,450. ");
+    EXPECT_EQ(drag(210, 60, 245), "") << "below the window";
+    window.mouse().set_seen_area(Rect{0, 20, 400, 240});
+    EXPECT_EQ(drag(210, 60, 245), "drop 3 on 2 at 900,675. ") << "scrolled";
+    EXPECT_EQ(drag(210, 60, 10), "") << "above it";
+    window.mouse().press(25, 50);
+    window.mouse().release(25, 10);
+    EXPECT_EQ(window.log, "");
+}
+
+TEST_F(MouseTest, HoldsAnImageWhereItWasTakenHoldOfWhenTheLayoutChanges) {
+    Mouse& mouse = window.mouse();
+    mouse.on_hover = [](const Image&, const Image& target, float) -> const Widget* { return &target; };
+    window.on_resize = [this] {
+        window.images(3).move(400, 0, 200, 200);
+        window.images(1).move(100, 0, 200, 200);
+    };
+    mouse.press(220, 50);
+    mouse.move(90, 60);
+    EXPECT_EQ(mouse.receiver(), &window.images(1));
+    window.user_resized({800, 600});
+    const Image& held = window.images(3);
+    EXPECT_EQ(held.left() + mouse.drag_dx() + 0.2F * held.width(), 90) << "under the pointer";
+    EXPECT_EQ(held.top() + mouse.drag_dy() + 0.5F * held.height(), 60);
+    EXPECT_EQ(mouse.receiver(), &window.images(0)) << "what lies there now";
+    mouse.release(90, 60);
+    EXPECT_EQ(window.log, "drop 3 on 0 at 1350,900. ");
+}
+
 }  // namespace
 }  // namespace tarnwick

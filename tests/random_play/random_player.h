@@ -101,8 +101,13 @@ class RandomPlayer {
         overflowed_ = false;
     }
 
+    // The card that is on its way wins the game: whatever cuts it short ends that.
+    static bool wins_by_slide() { return slides() && animation(slide_wins_game) == 1; }
+
     void restart() {
+        const bool won = wins_by_slide();
         frmcards.mnuRestart.choose();
+        if (won) return end_won_game();
         expect(position_text() == deal_, "the restart has another deal");
         count("restart");
         begins_at(deal_);
@@ -182,7 +187,14 @@ class RandomPlayer {
         if (!frmcards.mnuUndo.visible()) return;
         if (slides()) count("undo during a slide");
         counts_[std::string("undo of ") + kind_of_record(undo_list(0, 0), undo_list(0, 1))]++;
+        const bool won = wins_by_slide();
         play_.undo();
+        if (won) end_won_game();
+    }
+
+    void end_won_game() {
+        count("game won by a slide cut short");
+        frmyouwin.visible() ? finish_dialogs() : game_begins();
     }
 
     void undo_everything() {
@@ -197,7 +209,7 @@ class RandomPlayer {
     }
 
     void change_window() {
-        constexpr std::array sizes{792, 550, 791, 550, 632, 430, 1006, 700, 1592, 1150, 452, 300};
+        constexpr std::array sizes{798, 550, 797, 550, 638, 430, 1012, 700, 1598, 1150, 458, 300};
         if (below(5) == 0) {
             frmcards.user_changed_state(WindowState::minimized);
             frmcards.user_changed_state(WindowState::normal);
@@ -250,7 +262,7 @@ class RandomPlayer {
 
     // What was just done can be taken back to the last card.
     void check_undo(int records_before, const std::string& before) {
-        if (undo_count() <= records_before) return;
+        if (undo_count() <= records_before || wins_by_slide()) return;
         check();
         for (int most = 3; most > 0 && undo_count() > records_before; --most) undo();
         expect(position_text() == before, "undo does not lead back to\n" + before);

@@ -69,7 +69,7 @@ TEST_F(SettingsDialog, ConfirmedUntouchedRewritesEverythingButTheScaling) {
 
 TEST_F(SettingsDialog, SavesAndAppliesTheChoices) {
     play.start();
-    frmcards.user_resized({1192, 700});
+    frmcards.user_resized({1198, 700});
     open();
     frmFeatures.optCardBack(2).click();
     EXPECT_EQ(bordered_back(), 2);

@@ -49,13 +49,13 @@ const std::vector<Interruption>& interruptions() {
         {"the window shrinks to nothing",
          [](Play&) {
              frmcards.user_resized({0, 0});
-             frmcards.user_resized({792, 550});
+             frmcards.user_resized({798, 550});
          },
          false},
         {"the window grows without end",
          [](Play&) {
              frmcards.user_resized({16000, 9000});
-             frmcards.user_resized({792, 550});
+             frmcards.user_resized({798, 550});
          },
          false},
         {"the space bar", [](Play& play) { play.space(3); }, false},
