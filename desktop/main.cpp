@@ -8,8 +8,11 @@
 #include <optional>
 
 #include "desktop/command_line.h"
+#include "desktop/display_loss.h"
 #include "desktop/picture_cache.h"
 #include "desktop/qt_desktop.h"
+#include "desktop/signals.h"
+#include "desktop/unattended_end.h"
 #include "notation/game_recorder.h"
 #include "platform/random.h"
 #include "settings/sqlite_store.h"
@@ -52,6 +55,15 @@ void set_icon_later() {
     });
 }
 
+// Every window goes before its desktop, whichever way the program is left.
+class EndOfProgram {
+  public:
+    EndOfProgram() = default;
+    ~EndOfProgram() { end_program(); }
+    EndOfProgram(const EndOfProgram&) = delete;
+    EndOfProgram& operator=(const EndOfProgram&) = delete;
+};
+
 int run(const CommandLine& command, int argc, char** argv) {
     if (!is_set("DISPLAY") && !is_set("WAYLAND_DISPLAY") && !is_set("QT_QPA_PLATFORM")) {
         std::cerr << "tarnwick: there is no display (neither DISPLAY nor WAYLAND_DISPLAY is set)\n";
@@ -73,10 +85,13 @@ int run(const CommandLine& command, int argc, char** argv) {
         recorder.emplace(command.record);
     }
     // Outlives the windows, which may ask for settings until they are gone.
-    SqliteStore store(store_path);
+    std::optional<SqliteStore> store(std::in_place, store_path);
     QtDesktop desktop;
+    const UnattendedEnd unattended_end(desktop);
     if (command.deal) random_generator().replay(*command.deal);
-    start_program(store);
+    const EndOfProgram end_of_program;
+    start_program(*store);
+    const DisplayLoss display_loss(desktop, store);
     if (recorder) recorder->begin();
     set_icon_later();
     return QApplication::exec();
@@ -90,7 +105,9 @@ int main(int argc, char** argv) {
         if (command.help) std::cout << command_line_help();
         if (command.version) std::cout << "tarnwick " TARNWICK_VERSION "\n";
         if (command.help || command.version) return EXIT_SUCCESS;
-        return run(command, argc, argv);
+        const int status = run(command, argc, argv);
+        end_by_caught_signal();
+        return status;
     } catch (const CommandLineError& error) {
         std::cerr << "tarnwick: " << error.what() << '\n';
         return bad_usage;

@@ -44,11 +44,13 @@ void start_program(Store& store) {
 
 void shut_down_program() {
     desktop().leave_unattended();
-    desktop().event([] {
+    // Each in an event of its own: a window that fails at its end keeps no other from its own.
+    const auto unload = [](Form& form) { desktop().event([&form] { form.unload(); }); };
+    desktop().event([&unload] {
         // The name typed so far is recorded before the main window ends the game: that is counted already.
-        frmyouwin.unload();
-        frmcards.unload();
-        for (Form* form : all_windows()) form->unload();
+        unload(frmyouwin);
+        unload(frmcards);
+        for (Form* form : all_windows()) unload(*form);
     });
 }
 

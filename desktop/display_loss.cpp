@@ -1,0 +1,59 @@
+#include "desktop/display_loss.h"
+
+#include <QCoreApplication>
+#include <QThread>
+#include <cstdlib>
+#include <string>
+#include <utility>
+
+#include "desktop/qt_desktop.h"
+#include "desktop/signals.h"
+#include "platform/headless.h"
+#include "settings/sqlite_store.h"
+#include "ui/program.h"
+
+namespace tarnwick {
+namespace {
+
+// What is to be ended; null while nothing is.
+QtDesktop* lost_desktop = nullptr;
+std::optional<SqliteStore>* open_store = nullptr;
+QtMessageHandler usual_handler = nullptr;
+
+void end_without_display() {
+    if (!lost_desktop) return;
+    QtDesktop& lost = *std::exchange(lost_desktop, nullptr);
+    lost.abandon_windows();
+    HeadlessDesktop none;
+    none.set_date(lost.short_date());
+    shut_down_program();
+    open_store->reset();
+    end_by_caught_signal();
+    // Nothing static is destroyed: the toolkit's part of it would meet the broken connection.
+    std::_Exit(EXIT_FAILURE);
+}
+
+void look_for_loss(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    usual_handler(type, context, text);
+    const bool lost = text.startsWith("The Wayland connection ");
+    if (lost && QThread::currentThread() == QCoreApplication::instance()->thread()) end_without_display();
+}
+
+}  // namespace
+
+DisplayLoss::DisplayLoss(QtDesktop& desktop, std::optional<SqliteStore>& store) {
+    // What is first used after std::atexit is destroyed before the function runs that is registered here: of the
+    // toolkit that function uses the date, which is therefore asked for now.
+    desktop.short_date();
+    lost_desktop = &desktop;
+    open_store = &store;
+    usual_handler = qInstallMessageHandler(look_for_loss);
+    std::atexit(end_without_display);
+}
+
+DisplayLoss::~DisplayLoss() {
+    lost_desktop = nullptr;
+    qInstallMessageHandler(usual_handler);
+}
+
+}  // namespace tarnwick
