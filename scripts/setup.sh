@@ -5,7 +5,7 @@
 BUILD_PACKAGES="g++ cmake ninja-build libsqlite3-dev"
 DESKTOP_PACKAGES="qt6-base-dev qt6-svg-dev libx11-dev libxtst-dev fonts-dejavu-core"
 VIRTUAL_DISPLAY_PACKAGES="xvfb xauth openbox"
-TEST_PACKAGES="libgtest-dev"
+TEST_PACKAGES="libgtest-dev libsm-dev libice-dev"
 # What looks at the installed program, as the desktop does.
 PACKAGE_CHECKS="desktop-file-utils appstream lintian man-db xdotool"
 

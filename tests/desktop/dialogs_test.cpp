@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "tests/desktop/tested_program.h"
 #include "tools/driver/board_picture.h"
 #include "tools/driver/eventually.h"
 #include "windows/frmBestScore.h"
@@ -10,7 +11,7 @@
 namespace tarnwick {
 namespace {
 
-constexpr const char* program = TARNWICK_PROGRAM;
+const char* const program = tested_program();
 constexpr const char* settings_title = "Select Settings";
 
 // Clicks in the middle of a control, wherever the dialog is and however much it is enlarged.

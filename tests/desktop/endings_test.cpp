@@ -1,13 +1,14 @@
 #include <gtest/gtest.h>
 
 #include "state/variables.h"
+#include "tests/desktop/tested_program.h"
 #include "tools/driver/board_picture.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr const char* program = TARNWICK_PROGRAM;
+const char* const program = tested_program();
 constexpr int column_of_ace = 4;
 
 // Scores a point for the ace, and one for the card under it.
