@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "game/best_scores.h"
 #include "platform/desktop.h"
 #include "settings/settings.h"
 #include "settings/stored_settings.h"
@@ -19,6 +20,16 @@ namespace {
 
 std::array<Form*, 6> all_windows() {
     return {&frmcards, &frmyouwin, &frmBestScore, &frmFeatures, &frmError, &frmCommon};
+}
+
+// The game in hand and its entry are stored in one change: whoever waits for the program to end may lose patience and
+// kill it. The main window finds a game that is over.
+void count_game_in_hand() {
+    if (!frmcards.loaded() || phase != Phase::playing || score == 0) return;
+    settings_store().transaction([points = static_cast<int>(score), complete = all_ace_piles_complete()] {
+        if (count_game(points, complete) != none) enter_best_score(points, "");
+    });
+    phase = Phase::table_shown;
 }
 
 }  // namespace
@@ -49,7 +60,7 @@ void shut_down_program() {
     desktop().event([&unload] {
         // The name typed so far is recorded before the main window ends the game: that is counted already.
         unload(frmyouwin);
-        unload(frmcards);
+        desktop().event(count_game_in_hand);
         for (Form* form : all_windows()) unload(*form);
     });
 }
