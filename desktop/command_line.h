@@ -23,7 +23,8 @@ class CommandLineError : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// Reads the arguments after the program's name. Throws CommandLineError.
+/// Reads the arguments after the program's name, as getopt_long does: the toolkit's own options are unknown.
+/// Throws CommandLineError. Not for two threads at once.
 CommandLine parse_command_line(const std::vector<std::string>& arguments);
 
 /// What --help prints.

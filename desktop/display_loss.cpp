@@ -3,13 +3,12 @@
 #include <QCoreApplication>
 #include <QThread>
 #include <cstdlib>
-#include <string>
 #include <utility>
 
 #include "desktop/qt_desktop.h"
 #include "desktop/signals.h"
 #include "platform/headless.h"
-#include "settings/sqlite_store.h"
+#include "settings/store.h"
 #include "ui/program.h"
 
 namespace tarnwick {
@@ -17,17 +16,22 @@ namespace {
 
 // What is to be ended; null while nothing is.
 QtDesktop* lost_desktop = nullptr;
-std::optional<SqliteStore>* open_store = nullptr;
+Store* open_store = nullptr;
 QtMessageHandler usual_handler = nullptr;
+
+class NoDisplay : public HeadlessDesktop {
+  protected:
+    void unheard(const Message& message) override { write_message(message); }
+};
 
 void end_without_display() {
     if (!lost_desktop) return;
     QtDesktop& lost = *std::exchange(lost_desktop, nullptr);
     lost.abandon_windows();
-    HeadlessDesktop none;
+    NoDisplay none;
     none.set_date(lost.short_date());
     shut_down_program();
-    open_store->reset();
+    open_store->close();
     end_by_caught_signal();
     // Nothing static is destroyed: the toolkit's part of it would meet the broken connection.
     std::_Exit(EXIT_FAILURE);
@@ -41,7 +45,7 @@ void look_for_loss(QtMsgType type, const QMessageLogContext& context, const QStr
 
 }  // namespace
 
-DisplayLoss::DisplayLoss(QtDesktop& desktop, std::optional<SqliteStore>& store) {
+DisplayLoss::DisplayLoss(QtDesktop& desktop, Store& store) {
     // What is first used after std::atexit is destroyed before the function runs that is registered here: of the
     // toolkit that function uses the date, which is therefore asked for now.
     desktop.short_date();

@@ -1,11 +1,9 @@
 #pragma once
 
-#include <optional>
-
 namespace tarnwick {
 
 class QtDesktop;
-class SqliteStore;
+class Store;
 
 /// When the connection to the display breaks, the toolkit ends the process from where it happens to be: on X11 with
 /// exit(), on Wayland with _exit() after a warning. While this object lives, the program ends first, with nothing of
@@ -13,7 +11,7 @@ class SqliteStore;
 class DisplayLoss {
   public:
     /// The program has been started. There is one of these at a time.
-    DisplayLoss(QtDesktop& desktop, std::optional<SqliteStore>& store);
+    DisplayLoss(QtDesktop& desktop, Store& store);
     ~DisplayLoss();
     DisplayLoss(const DisplayLoss&) = delete;
     DisplayLoss& operator=(const DisplayLoss&) = delete;

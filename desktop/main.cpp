@@ -1,21 +1,24 @@
 #include <QApplication>
 #include <QIcon>
 #include <QTimer>
+#include <csignal>
 #include <cstdlib>
 #include <exception>
-#include <filesystem>
 #include <iostream>
-#include <optional>
+#include <memory>
 
 #include "desktop/command_line.h"
 #include "desktop/display_loss.h"
 #include "desktop/picture_cache.h"
 #include "desktop/qt_desktop.h"
+#include "desktop/recording.h"
 #include "desktop/signals.h"
 #include "desktop/unattended_end.h"
-#include "notation/game_recorder.h"
+#include "notation/outside_text.h"
+#include "notation/standard_output.h"
 #include "platform/random.h"
 #include "settings/sqlite_store.h"
+#include "settings/store_path.h"
 #include "ui/program.h"
 
 namespace {
@@ -27,10 +30,6 @@ constexpr int bad_usage = 2;
 bool is_set(const char* variable) {
     const char* value = std::getenv(variable);
     return value && *value;
-}
-
-bool is_same_file(const std::string& a, const std::string& b) {
-    return std::filesystem::weakly_canonical(a) == std::filesystem::weakly_canonical(b);
 }
 
 // Where the toolkit finds no display it would end the program with a crash and a page of hints.
@@ -77,42 +76,45 @@ int run(const CommandLine& command, int argc, char** argv) {
     QGuiApplication::setDesktopFileName("tarnwick");
 
     const std::string store_path = command.store.empty() ? default_store_path() : command.store;
-    std::optional<GameRecorder> recorder;
-    if (!command.record.empty()) {
-        if (is_same_file(command.record, store_path)) {
-            throw CommandLineError("--record must not name the file of the settings, " + store_path);
-        }
-        recorder.emplace(command.record);
-    }
+    const std::unique_ptr<GameRecorder> recorder = recorder_for(command.record, store_path);
     // Outlives the windows, which may ask for settings until they are gone.
-    std::optional<SqliteStore> store(std::in_place, store_path);
+    SqliteStore store(store_path);
     QtDesktop desktop;
     const UnattendedEnd unattended_end(desktop);
     if (command.deal) random_generator().replay(*command.deal);
     const EndOfProgram end_of_program;
-    start_program(*store);
+    start_program(store);
     const DisplayLoss display_loss(desktop, store);
     if (recorder) recorder->begin();
     set_icon_later();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    // While there is a desktop to tell the player on what could not be saved.
+    store.close();
+    return status;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+    // A pipe that nobody reads any more, or a file that may not grow, is an error where it is written.
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
     try {
         const CommandLine command = parse_command_line({argv + 1, argv + argc});
         if (command.help) std::cout << command_line_help();
         if (command.version) std::cout << "tarnwick " TARNWICK_VERSION "\n";
-        if (command.help || command.version) return EXIT_SUCCESS;
+        if (command.help || command.version) {
+            flush_standard_output();
+            return EXIT_SUCCESS;
+        }
         const int status = run(command, argc, argv);
         end_by_caught_signal();
         return status;
     } catch (const CommandLineError& error) {
-        std::cerr << "tarnwick: " << error.what() << '\n';
+        std::cerr << "tarnwick: " << printable(error.what()) << '\n';
         return bad_usage;
     } catch (const std::exception& error) {
-        std::cerr << "tarnwick: " << error.what() << '\n';
+        std::cerr << "tarnwick: " << printable(error.what()) << '\n';
         return EXIT_FAILURE;
     }
 }

@@ -10,6 +10,7 @@
 #include <QWindow>
 #include <algorithm>
 #include <chrono>
+#include <iostream>
 #include <utility>
 
 #include "desktop/board_accessible.h"
@@ -19,9 +20,14 @@
 #include "desktop/help_window.h"
 #include "desktop/lean_style.h"
 #include "desktop/qt_convert.h"
+#include "notation/outside_text.h"
 #include "platform/timer.h"
 
 namespace tarnwick {
+
+void write_message(const Message& message) {
+    std::cerr << "tarnwick: " << printable(message.text) << '\n';
+}
 
 QtDesktop::QtDesktop() {
     use_desktop(this);
@@ -177,6 +183,8 @@ MessageAnswer QtDesktop::show_message(const Message& message) {
         &timer_, [this] { if (!in_event()) event_ended(); }, Qt::QueuedConnection);
     return confirmed ? MessageAnswer::ok : MessageAnswer::cancel;
 }
+
+void QtDesktop::unheard(const Message& message) { write_message(message); }
 
 std::optional<Color> QtDesktop::pick_color() {
     if (!attended()) return std::nullopt;

@@ -16,6 +16,9 @@ namespace tarnwick {
 class HelpWindow;
 class WindowView;
 
+/// Writes a message for a player who is not there to the standard error output.
+void write_message(const Message& message);
+
 /// The real desktop. Needs a QApplication, and ends its event loop when no window is left.
 class QtDesktop : public Desktop {
   public:
@@ -50,6 +53,7 @@ class QtDesktop : public Desktop {
 
   protected:
     MessageAnswer show_message(const Message& message) override;
+    void unheard(const Message& message) override;
     void event_ended() override;
 
   private:

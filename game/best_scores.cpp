@@ -55,7 +55,7 @@ int count_game(int points, bool complete) {
         bool decided = false;
     };
     const auto found = std::make_shared<Found>();
-    settings_store().transaction([=] {
+    settings_transaction([=] {
         add_to_setting(key_games_played, 1);
         add_to_setting(key_average_score, points);
         if (!found->decided) *found = {place_of(points), true};
@@ -66,7 +66,7 @@ int count_game(int points, bool complete) {
 
 int enter_best_score(int points, const std::string& name) {
     const auto place = std::make_shared<int>(none);
-    settings_store().transaction(
+    settings_transaction(
         [=, date = desktop().short_date()] {
             *place = place_of(points);
             if (*place != none) write_entry(*place, points, name, date);

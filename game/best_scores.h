@@ -4,9 +4,6 @@
 
 namespace tarnwick {
 
-/// How many scores the table holds; place 1 is the best.
-inline constexpr int best_score_places = 5;
-
 /// Counts a finished game in the statistics: the games played, the total of the scores and, where a complete
 /// game takes the first place, the games won. One change of the store or none. Returns the place 1 to 5 that
 /// the score takes by now, or none. Throws ConversionError where a stored text does not read as a number;

@@ -3,6 +3,7 @@
 #include <array>
 #include <stdexcept>
 
+#include "notation/outside_text.h"
 #include "state/cards.h"
 
 namespace tarnwick {
@@ -42,7 +43,7 @@ int card_from_text(std::string_view text) {
     if (suit == none) suit = take_one_of(suit_letters, rest);
     const bool second_pack = rest == "'";
     if (rank == none || suit == none || !(rest.empty() || (second_pack && rank != ace))) {
-        throw std::invalid_argument("\"" + std::string(text) + "\" is not a card");
+        throw std::invalid_argument("\"" + excerpt(text) + "\" is not a card");
     }
     return picture_of(rank, suit, second_pack);
 }

@@ -4,6 +4,7 @@
 
 #include "game/drop_dispatch.h"
 #include "game/tablet.h"
+#include "notation/outside_text.h"
 #include "platform/desktop.h"
 #include "platform/random.h"
 #include "windows/frmcards.h"
@@ -27,9 +28,7 @@ Action drag_of(int target, const Image& source, float x) {
 
 }  // namespace
 
-GameRecorder::GameRecorder(const std::string& file) : name_(file), file_(file, std::ios::app) {
-    if (!file_) throw std::runtime_error("the record of the game cannot be written to " + file);
-}
+GameRecorder::GameRecorder(const std::string& file) : file_(file) {}
 
 void GameRecorder::begin() {
     write_new_deal();
@@ -69,14 +68,16 @@ void GameRecorder::write_new_deal() {
 
 void GameRecorder::write(const Action& action) {
     if (action.kind != ActionKind::deal) write_new_deal();
-    if (!file_.is_open()) return;
-    file_ << text_of(action) << '\n' << std::flush;
-    if (file_) return;
-    file_.close();
-    desktop().after_event([name = name_] {
-        desktop().message_box({"Tarnwick", "The record of the game could not be written to " + name +
-                                               ": it ends here, and the game goes on without it."});
-    });
+    if (!file_) return;
+    try {
+        file_->write_line(text_of(action));
+    } catch (const std::runtime_error& failure) {
+        file_.reset();
+        desktop().after_event([happened = printable(failure.what())] {
+            desktop().message_box(
+                {"Tarnwick", happened + ": it ends here, and the game goes on without it."});
+        });
+    }
 }
 
 }  // namespace tarnwick

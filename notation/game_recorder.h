@@ -1,9 +1,10 @@
 #pragma once
 
-#include <fstream>
+#include <optional>
 #include <string>
 
 #include "notation/record.h"
+#include "notation/record_file.h"
 
 namespace tarnwick {
 
@@ -12,8 +13,7 @@ namespace tarnwick {
 /// wrong.
 class GameRecorder {
   public:
-    /// Goes on behind what the file holds. Throws std::runtime_error, in one clear sentence, when it cannot
-    /// be written.
+    /// Goes on behind what the file holds. Throws as RecordFile does.
     explicit GameRecorder(const std::string& file);
     GameRecorder(const GameRecorder&) = delete;
     GameRecorder& operator=(const GameRecorder&) = delete;
@@ -25,9 +25,8 @@ class GameRecorder {
     void write(const Action& action);
     void write_new_deal();
 
-    std::string name_;
-    std::ofstream file_;
-    std::uint64_t deals_ = 0;  ///< how many have been written, or had begun before
+    std::optional<RecordFile> file_;  ///< none any more when the record has ended before the game
+    std::uint64_t deals_ = 0;         ///< how many have been written, or had begun before
 };
 
 }  // namespace tarnwick

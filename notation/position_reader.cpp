@@ -5,6 +5,7 @@
 #include <string>
 
 #include "notation/card_text.h"
+#include "notation/outside_text.h"
 #include "notation/position_text.h"
 #include "state/variables.h"
 
@@ -35,7 +36,7 @@ int number_from(std::string_view text, int least, int most) {
     int number = 0;
     const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (error != std::errc{} || stop != text.data() + text.size() || number < least || number > most) {
-        refuse("\"" + std::string(text) + "\" is not a number from " + std::to_string(least) + " to " +
+        refuse("\"" + excerpt(text) + "\" is not a number from " + std::to_string(least) + " to " +
                std::to_string(most));
     }
     return number;
@@ -44,9 +45,10 @@ int number_from(std::string_view text, int least, int most) {
 class Reader {
   public:
     Position read(std::string_view text) {
-        for (const std::string_view line : split(text, "\n")) {
+        for (const std::string_view line : split(without_byte_order_mark(text), "\n")) {
             if (split(line, " \t\r").empty()) continue;
-            read_line(line);
+            check_length(line);
+            read_pile(line);
         }
         place_the_rest();
         for (std::size_t c = 0; c < position_.columns.size(); ++c) check_column(c);
@@ -56,20 +58,19 @@ class Reader {
   private:
     using Words = std::vector<std::string_view>;
 
-    void read_line(std::string_view line) {
+    void read_pile(std::string_view line) {
         const std::size_t colon = line.find(':');
         const Words name = split(line.substr(0, colon), " \t\r");
-        if (colon == std::string_view::npos || name.empty())
-            refuse("no pile in \"" + std::string(line) + "\"");
+        if (colon == std::string_view::npos || name.empty()) refuse("no pile in \"" + excerpt(line) + "\"");
         Words words = split(line.substr(colon + 1), " \t\r");
         std::string whole_name(name[0]);
         if (name.size() > 1) whole_name += ' ' + std::string(name[1]);
-        if (!lines_.insert(whole_name).second) refuse("two lines for " + whole_name);
+        if (!lines_.insert(whole_name).second) refuse("two lines for " + excerpt(whole_name));
         if (words == Words{"-"}) words.clear();
         if (name.size() == 2 && name[0] == "ace") {
             read_ace_pile(static_cast<std::size_t>(number_from(name[1], 0, 3)), words);
         } else if (name.size() > 1) {
-            refuse("no pile is called \"" + whole_name + "\"");
+            refuse("no pile is called \"" + excerpt(whole_name) + "\"");
         } else if (name[0] == "tablet") {
             read_tablet(words);
         } else if (name[0] == "score") {

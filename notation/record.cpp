@@ -5,6 +5,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "notation/outside_text.h"
 #include "state/cards.h"
 
 namespace tarnwick {
@@ -29,15 +30,15 @@ class Words {
         const char* end = word_.data() + word_.size();
         const auto [stop, error] = std::from_chars(word_.data(), end, number);
         if (at_end() || error != std::errc{} || stop != end || number > most) {
-            throw std::invalid_argument((at_end() ? "the line ends" : '"' + word_ + '"') + " where " + what +
-                                        " should stand");
+            throw std::invalid_argument((at_end() ? "the line ends" : '"' + excerpt(word_) + '"') +
+                                        " where " + what + " should stand");
         }
         next();
         return number;
     }
 
     void expect_end() const {
-        if (!at_end()) throw std::invalid_argument("\"" + word_ + "\" should not stand there");
+        if (!at_end()) throw std::invalid_argument("\"" + excerpt(word_) + "\" should not stand there");
     }
 
     const std::string& word() const { return word_; }
@@ -68,6 +69,7 @@ std::string pile_text(int pile) {
 }  // namespace
 
 bool parse_action(std::string_view line, Action& action) {
+    check_length(line);
     Words words(line);
     if (words.at_end()) return false;
     action = {};
@@ -88,7 +90,8 @@ bool parse_action(std::string_view line, Action& action) {
     } else if (words.take("restart")) {
         action.kind = ActionKind::restart;
     } else if (!words.take("turn")) {
-        throw std::invalid_argument("\"" + words.word() + "\" is none of deal, turn, drag, undo and restart");
+        throw std::invalid_argument("\"" + excerpt(words.word()) +
+                                    "\" is none of deal, turn, drag, undo and restart");
     }
     words.expect_end();
     return true;
@@ -96,7 +99,7 @@ bool parse_action(std::string_view line, Action& action) {
 
 std::vector<Action> parse_record(std::string_view text) {
     std::vector<Action> actions;
-    std::istringstream lines{std::string(text)};
+    std::istringstream lines{std::string(without_byte_order_mark(text))};
     std::string line;
     for (int number = 1; std::getline(lines, line); ++number) {
         Action action;

@@ -36,6 +36,17 @@ Whole to_whole(const std::string& text, const char* kind) {
 
 }  // namespace
 
+std::string beginning_of(const std::string& text, std::size_t most_characters) {
+    const auto begins_character = [](char byte) {
+        return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+    };
+    std::size_t characters = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (begins_character(text[i]) && characters++ == most_characters) return text.substr(0, i) + "…";
+    }
+    return text;
+}
+
 double to_double(const std::string& text) {
     std::string_view number = trimmed(text);
     if (number.size() > 1 && number[0] == '+' && number[1] != '-') number.remove_prefix(1);

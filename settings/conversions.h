@@ -6,11 +6,15 @@
 
 namespace tarnwick {
 
+/// The first characters of a text, with an ellipsis where there are more: what comes from outside may be of
+/// any length.
+std::string beginning_of(const std::string& text, std::size_t most_characters);
+
 /// A stored text that does not read as the wanted kind of value, or lies outside its range.
 class ConversionError : public std::runtime_error {
   public:
     ConversionError(const std::string& text, const char* kind)
-        : std::runtime_error("\"" + text + "\" is not " + kind) {}
+        : std::runtime_error("\"" + beginning_of(text, 40) + "\" is not " + kind) {}
 };
 
 // Text to value. Blanks around the text do not count; numbers may have a sign, decimals and an exponent, with

@@ -1,6 +1,7 @@
 #include "settings/settings.h"
 
 #include <stdexcept>
+#include <utility>
 
 namespace tarnwick {
 namespace {
@@ -35,8 +36,27 @@ std::string read_setting(const std::string& key, bool default_value) {
     return read_setting(key, text_of(default_value));
 }
 
+bool setting_is_known(const std::string& key) { return settings_store().knows(application, section, key); }
+
 void save_setting(const std::string& key, const std::string& text) {
     settings_store().save(application, section, key, text);
+}
+
+void settings_transaction(const std::function<void()>& action, const std::function<void()>& done) {
+    Store& store = settings_store();
+    // An action that has to wait is about the store of its time.
+    store.transaction(
+        [&store, action] {
+            Store* const before = std::exchange(in_use, &store);
+            try {
+                action();
+            } catch (...) {
+                in_use = before;
+                throw;
+            }
+            in_use = before;
+        },
+        done);
 }
 
 bool setting_is_on(const char* key) { return to_boolean(read_setting(key, true)); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "settings/conversions.h"
@@ -20,6 +21,7 @@ inline constexpr const char* key_games_won = "games won";
 inline constexpr const char* key_average_score = "average score";
 
 // The best-score table, places 1 (the best) to 5.
+inline constexpr int best_score_places = 5;
 std::string key_high_score(int place);
 std::string key_high_score_name(int place);
 std::string key_high_score_date(int place);
@@ -40,8 +42,15 @@ std::string read_setting(const std::string& key, const char* default_text) = del
 std::string read_setting(const std::string& key, int default_value);
 std::string read_setting(const std::string& key, bool default_value);
 
+/// Whether the last answer about a key was what is stored, and no default that stands in for a value out of
+/// reach.
+bool setting_is_known(const std::string& key);
+
 /// Saves the text of a key at once.
 void save_setting(const std::string& key, const std::string& text);
+
+/// Carries out what `action` reads and saves as one change of the store; see Store::transaction().
+void settings_transaction(const std::function<void()>& action, const std::function<void()>& done = {});
 
 /// Whether a setting that is on unless the player has put it off reads as true.
 bool setting_is_on(const char* key);

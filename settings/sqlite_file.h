@@ -7,20 +7,25 @@
 #include <stdexcept>
 #include <string>
 
+#include "settings/lock_patience.h"
+
 struct sqlite3;
 struct sqlite3_stmt;
 
 namespace tarnwick {
 
+/// What is wrong with the settings file: its contents are broken, another program holds it just now, or it is
+/// out of reach for another reason.
+enum class FileFault { damaged, locked, out_of_reach };
+
 /// A failure of the settings file; what() says in a few words what is wrong.
 class FileError : public std::runtime_error {
   public:
-    FileError(const std::string& what, bool damaged) : std::runtime_error(what), damaged_(damaged) {}
-    /// Whether the file's contents are broken, rather than out of reach.
-    bool damaged() const { return damaged_; }
+    FileError(const std::string& what, FileFault fault) : std::runtime_error(what), fault_(fault) {}
+    FileFault fault() const { return fault_; }
 
   private:
-    bool damaged_;
+    FileFault fault_;
 };
 
 /// The name of one stored value.
@@ -32,23 +37,33 @@ struct SettingAddress {
     auto operator<=>(const SettingAddress&) const = default;
 };
 
+/// Texts by their names; those that are known not to exist are nothing.
+using SettingTexts = std::map<SettingAddress, std::optional<std::string>>;
+
 /// One open SQLite file with the table of settings. Every function throws FileError.
 class SqliteFile {
   public:
-    /// Opens or creates the file and checks that it is whole: its structure, and the checksum of every value.
-    explicit SqliteFile(const std::string& path);
+    /// Opens or creates the file. `patience` is for other programs that hold it, and must live as long as
+    /// this object.
+    SqliteFile(const std::string& path, LockPatience& patience);
     ~SqliteFile();
     SqliteFile(const SqliteFile&) = delete;
     SqliteFile& operator=(const SqliteFile&) = delete;
 
+    /// Outside a transaction nothing is taken from memory: the file itself is asked.
     std::optional<std::string> read(const SettingAddress& address);
-    /// Outside a transaction the value is on the disk on return.
+    /// Within a transaction.
     void write(const SettingAddress& address, const std::string& text);
     void begin();
+    /// The values are on the disk on return.
     void commit();
     /// Drops what was written since begin(); never fails.
     void roll_back() noexcept;
 
+    /// Whether all is whole: the structure, and the checksum of every value. Returns the values.
+    SettingTexts check();
+    /// Fails where nothing can be written.
+    void try_writing();
     /// Whether the path still names the file that was opened (it may have been deleted or set aside since).
     bool still_in_place() const;
 
@@ -57,9 +72,7 @@ class SqliteFile {
     void prepare();
     std::string answer_to(const char* question);
     void check_structure();
-    void check_values();
-    void step(sqlite3_stmt* statement, const SettingAddress& address, const std::string* text,
-              std::optional<std::string>* result);
+    SettingTexts checked_values();
     [[noreturn]] void fail() const;
     void close() noexcept;
 
@@ -72,6 +85,6 @@ class SqliteFile {
 
 /// The values of a damaged file that can still be read and whose checksum is right. Never throws, and leaves
 /// the file as it is.
-std::map<SettingAddress, std::string> salvaged_values(const std::string& path);
+SettingTexts salvaged_values(const std::string& path);
 
 }  // namespace tarnwick

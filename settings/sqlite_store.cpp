@@ -1,39 +1,81 @@
 #include "settings/sqlite_store.h"
 
-#include <cstdlib>
+#include <algorithm>
 #include <filesystem>
+#include <utility>
+
+#include "settings/store_path.h"
 
 namespace tarnwick {
 namespace fs = std::filesystem;
+namespace {
 
-SqliteStore::SqliteStore(const std::string& path) : path_(path) { open(); }
+constexpr std::chrono::seconds last_patience{2};
+// A lock that is met so often by try_again() lasts.
+constexpr int lasting = 5;
+
+void keep(SettingTexts& texts, const SettingTexts& newer) {
+    for (const auto& [address, text] : newer) texts[address] = text;
+}
+
+}  // namespace
+
+SqliteStore::SqliteStore(const std::string& path) : path_(path) {
+    open();
+    do_what_waits();
+}
+
+SqliteStore::~SqliteStore() { SqliteStore::close(); }
+
+void SqliteStore::close() {
+    if (closed_) return;
+    if (has_to_write()) {
+        patience_.allow(last_patience);
+        do_what_waits();
+    }
+    if (has_to_write() && !told_unwritten_) {
+        notice("The file with your settings and scores, \"" + path_ +
+               "\", was held by another program to the last: what you did meanwhile could not be saved.");
+    }
+    closed_ = true;
+    file_.reset();
+}
 
 void SqliteStore::open() {
     file_.reset();
-    std::error_code ignored;
-    const fs::path folder = fs::path(path_).parent_path();
-    if (!folder.empty()) fs::create_directories(folder, ignored);
-    try {
-        file_ = std::make_unique<SqliteFile>(path_);
-    } catch (const FileError& failure) {
-        if (!failure.damaged() || !set_aside()) {
-            tell_unwritten(failure.what());
+    for (int tries = 0; tries < 2 && !file_; ++tries) {
+        try {
+            path_ = resolved_store_path(path_);
+            std::error_code ignored;
+            fs::create_directories(fs::path(path_).parent_path(), ignored);
+            auto file = std::make_unique<SqliteFile>(path_, patience_);
+            keep(seen_, file->check());
+            file_ = std::move(file);
+            has_seen_all_ = true;
+        } catch (const FileError& failure) {
+            if (failure.fault() == FileFault::damaged && set_aside()) continue;
+            meet(failure);
             return;
         }
-        try {
-            file_ = std::make_unique<SqliteFile>(path_);
-            write_out();
-        } catch (const FileError& second) {
-            tell_unwritten(second.what());
-        }
+    }
+    try {
+        if (file_ && !has_to_write()) file_->try_writing();
+    } catch (const FileError& failure) {
+        meet(failure);
     }
 }
 
 void SqliteStore::reopen_if_moved() {
-    if (file_ && !in_transaction_ && !file_->still_in_place()) open();
+    if (!file_ || running_ != Running::nothing || file_->still_in_place()) return;
+    // Whoever took the file away, or put another one in its place, has wished for what is there now.
+    seen_.clear();
+    rescued_.clear();
+    open();
+    do_what_waits();
 }
 
 bool SqliteStore::set_aside() {
+    file_.reset();
     const fs::path path(path_);
     fs::path aside;
     std::error_code failure;
@@ -47,117 +89,215 @@ bool SqliteStore::set_aside() {
     if (failure) return false;
     // A journal left behind would be played into the new file.
     fs::rename(path_ + "-journal", aside.string() + "-journal", failure);
-    for (const auto& [address, text] : salvaged_values(aside.string())) unwritten_.try_emplace(address, text);
+    keep(rescued_, seen_);
+    keep(rescued_, salvaged_values(aside.string()));
     notice("The file with your settings and scores was damaged: it was set aside as \"" + aside.string() +
            "\", and a new one was begun with what could still be read.");
     return true;
 }
 
 bool SqliteStore::recovered_from(const FileError& failure) {
-    begun_ = false;
-    file_->roll_back();
-    if (!failure.damaged()) return false;
-    file_.reset();
-    if (!set_aside()) return false;
+    if (failure.fault() != FileFault::damaged || !set_aside()) return false;
     open();
-    return file_ != nullptr;
+    return file_ && rescued();
 }
 
-void SqliteStore::tell_unwritten(const std::string& why) {
-    if (told_unwritten_) return;
-    told_unwritten_ = true;
-    notice("Settings and scores cannot be saved in \"" + path_ + "\" (" + why +
-           "): you can play on, but they will be lost when you close the game.");
+bool SqliteStore::rescued() {
+    if (rescued_.empty()) return true;
+    Change rescue{[this] {
+        for (const auto& [address, text] : rescued_) {
+            if (text && !file_->read(address)) pending_[address] = text;
+        }
+    }};
+    try {
+        run_on_file(rescue);
+        rescued_.clear();
+        return true;
+    } catch (const FileError& failure) {
+        if (failure.fault() == FileFault::damaged) file_.reset();
+        meet(failure);
+        return false;
+    }
+}
+
+void SqliteStore::meet(const FileError& failure) {
+    if (failure.fault() == FileFault::locked) {
+        locked_ = true;
+    } else if (!std::exchange(told_unwritten_, true)) {
+        notice("Settings and scores cannot be saved in \"" + path_ + "\" (" + failure.what() +
+               "): you can play on, but unless that changes they will be lost when you close the game.");
+    }
+    call_waiter();
 }
 
 std::optional<std::string> SqliteStore::read(const std::string& application, const std::string& section,
                                              const std::string& key) {
     const SettingAddress address{application, section, key};
-    for (const auto* values : {&pending_, &unwritten_}) {
-        if (const auto found = values->find(address); found != values->end()) return found->second;
-    }
+    if (const auto found = pending_.find(address); found != pending_.end()) return found->second;
+    if (running_ == Running::on_file) return file_->read(address);  // checked when the change began
     reopen_if_moved();
-    if (!file_) return std::nullopt;
-    try {
-        return file_->read(address);
-    } catch (const FileError& failure) {
-        if (recovered_from(failure)) return read(application, section, key);
-        // Without its old values the file must not be written again: counts would start anew from nothing.
-        tell_unwritten(failure.what());
-        file_.reset();
-        return std::nullopt;
+    for (const SettingTexts* texts : {&ahead_, &rescued_}) {
+        if (const auto found = texts->find(address); found != texts->end()) return found->second;
     }
+    for (int tries = 0; tries < 2 && file_; ++tries) {
+        try {
+            std::optional<std::string> text = file_->read(address);
+            // No program takes a value away: one that has gone tells of damage.
+            if (!text && has_seen(address)) file_->check();
+            seen_[address] = text;
+            unknown_.erase(address);
+            return text;
+        } catch (const FileError& failure) {
+            if (running_ == Running::nothing && recovered_from(failure)) continue;
+            meet(failure);
+            break;
+        }
+    }
+    if (const auto found = seen_.find(address); found != seen_.end()) return found->second;
+    if (!has_seen_all_) unknown_.insert(address);
+    return std::nullopt;
+}
+
+bool SqliteStore::has_seen(const SettingAddress& address) const {
+    const auto found = seen_.find(address);
+    return found != seen_.end() && found->second;
+}
+
+bool SqliteStore::knows(const std::string& application, const std::string& section,
+                        const std::string& key) const {
+    return !unknown_.contains({application, section, key});
 }
 
 void SqliteStore::save(const std::string& application, const std::string& section, const std::string& key,
                        const std::string& text) {
-    const auto save_one = [&] { pending_[{application, section, key}] = text; };
-    if (in_transaction_) {
+    const SettingAddress address{application, section, key};
+    const auto save_one = [this, address, text] { pending_[address] = text; };
+    unknown_.erase(address);
+    if (running_ != Running::nothing) {
         save_one();
     } else {
-        transaction(save_one, {});
+        transaction(save_one);
     }
 }
 
 void SqliteStore::carry_out(const std::function<void()>& action, const std::function<void()>& done) {
-    reopen_if_moved();
-    // Begun before the action reads anything: what it reads cannot change until it has written.
-    begin();
-    in_transaction_ = true;
-    try {
+    if (running_ != Running::nothing) {
         action();
-    } catch (...) {
-        in_transaction_ = false;
-        pending_.clear();
-        if (file_) file_->roll_back();
-        throw;
+        return;
     }
-    in_transaction_ = false;
-    for (const auto& [address, text] : pending_) unwritten_[address] = text;
-    pending_.clear();
-    write_out();
-    if (done) done();
+    reopen_if_moved();
+    do_what_waits();
+    Change change{action, done};
+    if (!has_to_write() && done_on_file(change)) return;
+    run_ahead(change);
+    waiting_.push_back(std::move(change));
+    call_waiter();
 }
 
-void SqliteStore::begin() {
-    begun_ = false;
-    if (!file_) return;
-    try {
-        file_->begin();
-        begun_ = true;
-    } catch (const FileError& failure) {
-        // Tried again when there is something to write.
-        recovered_from(failure);
-    }
-}
-
-void SqliteStore::write_out() {
+bool SqliteStore::done_on_file(Change& change) {
     for (int tries = 0; tries < 2 && file_; ++tries) {
         try {
-            if (!begun_) file_->begin();
-            begun_ = false;
-            for (const auto& [address, text] : unwritten_) file_->write(address, text);
-            file_->commit();
-            unwritten_.clear();
-            return;
+            run_on_file(change);
+            if (change.done) change.done();
+            return true;
         } catch (const FileError& failure) {
             if (recovered_from(failure)) continue;
-            tell_unwritten(failure.what());
-            return;
+            meet(failure);
+            return false;
+        }
+    }
+    return false;
+}
+
+void SqliteStore::run_on_file(Change& change) {
+    file_->begin();
+    running_ = Running::on_file;
+    try {
+        file_->check();
+        if (!holds_already(change.doubtful)) change.action();
+        for (const auto& [address, text] : pending_) file_->write(address, *text);
+        commit(change);
+        keep(seen_, pending_);
+    } catch (...) {
+        running_ = Running::nothing;
+        pending_.clear();
+        file_->roll_back();
+        throw;
+    }
+    running_ = Running::nothing;
+    pending_.clear();
+}
+
+void SqliteStore::commit(Change& change) {
+    try {
+        file_->commit();
+    } catch (const FileError& failure) {
+        if (failure.fault() != FileFault::locked) change.doubtful = pending_;
+        throw;
+    }
+}
+
+bool SqliteStore::holds_already(const SettingTexts& texts) {
+    return !texts.empty() && std::all_of(texts.begin(), texts.end(), [this](const auto& entry) {
+        return file_->read(entry.first) == entry.second;
+    });
+}
+
+void SqliteStore::run_ahead(const Change& change) {
+    running_ = Running::ahead;
+    try {
+        change.action();
+    } catch (...) {
+        running_ = Running::nothing;
+        pending_.clear();
+        throw;
+    }
+    running_ = Running::nothing;
+    keep(ahead_, pending_);
+    pending_.clear();
+}
+
+void SqliteStore::look_ahead() {
+    ahead_.clear();
+    for (const Change& change : waiting_) {
+        try {
+            run_ahead(change);
+        } catch (const std::exception&) {
+            // Told when it is done in earnest.
         }
     }
 }
 
-std::string default_store_path() {
-    const char* data_home = std::getenv("XDG_DATA_HOME");
-    const char* home = std::getenv("HOME");
-    fs::path folder;
-    if (data_home && fs::path(data_home).is_absolute()) {
-        folder = data_home;
-    } else {
-        folder = fs::path(home ? home : ".") / ".local" / "share";
+void SqliteStore::do_what_waits() {
+    if (running_ != Running::nothing || closed_ || !waits()) return;
+    if (!file_) open();
+    while (file_ && rescued() && !waiting_.empty()) {
+        Change change = std::move(waiting_.front());
+        waiting_.pop_front();
+        try {
+            if (done_on_file(change)) continue;
+        } catch (const std::exception& failure) {
+            notice(std::string("A result that had to wait could not be entered (") + failure.what() +
+                   "): start the game anew to have the file with your settings and scores repaired.");
+            continue;
+        }
+        waiting_.push_front(std::move(change));
+        break;
     }
-    return (folder / "tarnwick" / "settings.sqlite").string();
+    look_ahead();
+    if (waits()) return;
+    locked_ = false;
+    tries_under_lock_ = 0;
+    told_lock_ = told_unwritten_ = false;
+}
+
+void SqliteStore::try_again() {
+    patience_.suspend(true);
+    do_what_waits();
+    patience_.suspend(false);
+    if (!waits() || !locked_ || ++tries_under_lock_ < lasting || std::exchange(told_lock_, true)) return;
+    notice("Another program holds the file with your settings and scores, \"" + path_ +
+           "\": you can play on, and what you do will be saved when it lets go.");
 }
 
 }  // namespace tarnwick

@@ -1,53 +1,90 @@
 #pragma once
 
-#include <map>
+#include <deque>
 #include <memory>
+#include <set>
 #include <string>
 
+#include "settings/lock_patience.h"
 #include "settings/sqlite_file.h"
 #include "settings/store.h"
 
 namespace tarnwick {
 
-/// The store in one SQLite file. Every read asks the file and every save is on the disk when it returns.
+/// The store in one SQLite file. Every read asks the file, and a save is on the disk when it returns.
 ///
-/// Values that cannot be written are kept in memory, and written with the next save that succeeds. A file
-/// that turns out to be damaged is set aside beside the new one, and never overwritten. The listener is told.
+/// Where the file is held by another program, or cannot be written, what was to be done waits, and is done
+/// anew on what the file holds when it can be written again: with the next save, when try_again() is called,
+/// and for the last time when the store is closed. Meanwhile reads tell what will come of it. A file that
+/// turns out to be damaged is set aside beside a new one, and never overwritten; what could still be read of
+/// it, or has been read or written by this object, goes into the new one. The listener is told of everything
+/// that the player has to know.
 class SqliteStore : public Store {
   public:
-    /// Opens the file, creating it and its folder. Never throws: a store without a file works in memory.
+    /// Opens the file, creating it and its folder. Never throws.
     explicit SqliteStore(const std::string& path);
+    ~SqliteStore() override;
 
     std::optional<std::string> read(const std::string& application, const std::string& section,
                                     const std::string& key) override;
     void save(const std::string& application, const std::string& section, const std::string& key,
               const std::string& text) override;
+    bool knows(const std::string& application, const std::string& section,
+               const std::string& key) const override;
+    bool waits() const override { return has_to_write() || !file_; }
+    void try_again() override;
+    void close() override;
 
   protected:
     void carry_out(const std::function<void()>& action, const std::function<void()>& done) override;
 
   private:
+    struct Change {
+        std::function<void()> action;
+        std::function<void()> done = {};
+        /// What was to be written by a commit that has failed: whether it has cannot always be told then.
+        SettingTexts doubtful = {};
+    };
+    /// What the action that runs now reads from, and what becomes of what it saves.
+    enum class Running { nothing, on_file, ahead };
+
     void open();
     void reopen_if_moved();
     bool set_aside();
     /// True when the damaged file has been replaced by a new one, so that the call is worth another try.
     bool recovered_from(const FileError& failure);
-    void begin();
-    void write_out();
-    void tell_unwritten(const std::string& why);
+    /// Writes what a damaged file has left into the new one, before anything else; true when that is done.
+    bool rescued();
+    bool has_to_write() const { return !waiting_.empty() || !rescued_.empty(); }
+    bool done_on_file(Change& change);
+    void run_on_file(Change& change);
+    void commit(Change& change);
+    bool has_seen(const SettingAddress& address) const;
+    bool holds_already(const SettingTexts& texts);
+    void run_ahead(const Change& change);
+    void look_ahead();
+    void do_what_waits();
+    void meet(const FileError& failure);
 
     std::string path_;
+    LockPatience patience_;
     std::unique_ptr<SqliteFile> file_;
-    std::map<SettingAddress, std::string> unwritten_;
-    /// What the running transaction has saved, and whether there is one.
-    std::map<SettingAddress, std::string> pending_;
-    bool in_transaction_ = false;
-    /// Whether the file itself is inside a transaction.
-    bool begun_ = false;
+    std::deque<Change> waiting_;
+    /// What this object has read or written last, what the waiting changes will make of it, what the running
+    /// action has saved so far, and what a damaged file has left that is not in the new one yet.
+    SettingTexts seen_;
+    SettingTexts ahead_;
+    SettingTexts pending_;
+    SettingTexts rescued_;
+    /// Values that could not be read when they were asked for.
+    std::set<SettingAddress> unknown_;
+    Running running_ = Running::nothing;
+    bool has_seen_all_ = false;  ///< what seen_ does not hold has not been there
+    bool locked_ = false;
+    int tries_under_lock_ = 0;
+    bool told_lock_ = false;
     bool told_unwritten_ = false;
+    bool closed_ = false;
 };
-
-/// Where the settings are kept unless --store names a file: under the user's XDG data folder.
-std::string default_store_path();
 
 }  // namespace tarnwick

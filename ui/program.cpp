@@ -4,6 +4,8 @@
 
 #include "game/best_scores.h"
 #include "platform/desktop.h"
+#include "platform/timer.h"
+#include "settings/repair.h"
 #include "settings/settings.h"
 #include "settings/stored_settings.h"
 #include "state/variables.h"
@@ -14,6 +16,7 @@
 #include "windows/frmFeatures.h"
 #include "windows/frmcards.h"
 #include "windows/frmyouwin.h"
+#include "windows/pictures.h"
 
 namespace tarnwick {
 namespace {
@@ -32,6 +35,32 @@ void count_game_in_hand() {
     phase = Phase::table_shown;
 }
 
+// Tries again to store what could not be stored at once, as long as there is anything.
+Timer store_timer{frmcards};
+Store* store_in_use = nullptr;
+
+void attach_store(Store& store) {
+    store_in_use = &store;
+    constexpr int a_second = 1000;
+    store_timer.set_interval(a_second);
+    store_timer.set_enabled(store.waits());
+    store_timer.on_tick = [&store] {
+        store.try_again();
+        store_timer.set_enabled(store.waits());
+    };
+    store.on_waiting = [] { store_timer.set_enabled(true); };
+}
+
+void detach_store() {
+    store_timer.set_enabled(false);
+    store_timer.on_tick = nullptr;
+    if (store_in_use) {
+        store_in_use->on_waiting = nullptr;
+        store_in_use->listen(nullptr);
+    }
+    store_in_use = nullptr;
+}
+
 }  // namespace
 
 void start_program(Store& store) {
@@ -47,7 +76,11 @@ void start_program(Store& store) {
     attach_win_dialog();
     attach_statistics_dialog();
     attach_settings_dialog();
-    desktop().event([] { frmcards.show(); });
+    desktop().event([] {
+        repair_settings(back_count);
+        frmcards.show();
+    });
+    attach_store(store);
     store.listen([](const std::string& sentence) {
         desktop().after_event([sentence] { desktop().message_box({"Tarnwick", sentence}); });
     });
@@ -70,6 +103,7 @@ void end_program() {
         form->on_unload = nullptr;
         form->unload();
     }
+    detach_store();
     use_store(nullptr);
     // A program starts with its variables zero: the next one must not lay out the cards of this game at
     // first.

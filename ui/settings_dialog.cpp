@@ -1,4 +1,6 @@
 #include <exception>
+#include <map>
+#include <string>
 
 #include "board/display.h"
 #include "board/scaling.h"
@@ -15,6 +17,33 @@ namespace tarnwick {
 namespace {
 
 constexpr PixelSize dialog_size{540, 350};
+
+// What was shown for a value that could not be read. It must not be saved over that value unseen.
+std::map<std::string, std::string> stand_ins;
+
+// The text that a control shows for the setting `key`, right after that was read.
+void note_shown(const char* key, const std::string& text) {
+    if (!setting_is_known(key)) stand_ins[key] = text;
+}
+
+bool is_stand_in(const char* key, const std::string& text) {
+    const auto shown = stand_ins.find(key);
+    return shown != stand_ins.end() && shown->second == text;
+}
+
+void save_shown(const char* key, const std::string& text) {
+    if (!is_stand_in(key, text)) save_setting(key, text);
+}
+
+void load_flag(CheckBox& box, const char* key) {
+    box.set_checked(stored_flag(key));
+    note_shown(key, text_of(box.checked()));
+}
+
+void load_color(TextBox& swatch, const char* key, Color color) {
+    swatch.set_colors(color, color);
+    note_shown(key, text_of(color));
+}
 
 // The backs stand in the frame in two rows of three, each with its option button below.
 void place_backs() {
@@ -41,19 +70,20 @@ void load() {
         frmFeatures.ImgCardBacks(i).set_picture(frmcards.ImgCardBacks(i).picture());
     }
     place_backs();
-    choose_back(stored_card_back(back_count));
+    stand_ins.clear();
+    const int back = stored_card_back(back_count);
+    note_shown(key_card_back, text_of(back));
+    choose_back(back);
     frmFeatures.chkAnamate.move(320, 110, 200, 35);
-    frmFeatures.chkAnamate.set_checked(stored_flag(key_anamate));
+    load_flag(frmFeatures.chkAnamate, key_anamate);
     frmFeatures.chkScaleCards.move(320, 170, 200, 35);
-    frmFeatures.chkScaleCards.set_checked(stored_flag(key_scale_cards));
+    load_flag(frmFeatures.chkScaleCards, key_scale_cards);
     frmFeatures.chkDisplayMes.move(320, 230, 200, 35);
-    frmFeatures.chkDisplayMes.set_checked(stored_flag(key_show_message));
-    const Color back = stored_back_color();
-    frmFeatures.txtBackColor.set_colors(back, back);
+    load_flag(frmFeatures.chkDisplayMes, key_show_message);
+    load_color(frmFeatures.txtBackColor, key_back_color, stored_back_color());
     frmFeatures.txtBackColor.move(320, 10, 41, 24);
     frmFeatures.lblBackColor.move(380, 10, 121, 24);
-    const Color text = stored_text_color();
-    frmFeatures.txtTextColor.set_colors(text, text);
+    load_color(frmFeatures.txtTextColor, key_text_color, stored_text_color());
     frmFeatures.txtTextColor.move(320, 60, 41, 24);
     frmFeatures.lblTextColor.move(380, 60, 121, 24);
     frmFeatures.cmdOk.move(320, 280, 81, 31);
@@ -89,7 +119,7 @@ void attach_swatch(TextBox& swatch, const char* key) {
 void save_back() {
     for (int i = 0; i < back_count; ++i) {
         if (!frmFeatures.optCardBack(i).on()) continue;
-        save_setting(key_card_back, text_of(i));
+        save_shown(key_card_back, text_of(i));
         const bool all_turned = frmcards.Image1(stock_image).picture().none();
         change_back(i);
         // An empty place stays one: there is no card whose back it could show.
@@ -99,10 +129,10 @@ void save_back() {
 
 void save_colors() {
     const Color back = frmFeatures.txtBackColor.back_color();
-    save_setting(key_back_color, text_of(back));
+    save_shown(key_back_color, text_of(back));
     set_table_color(back);
     const Color text = frmFeatures.txtTextColor.back_color();
-    save_setting(key_text_color, text_of(text));
+    save_shown(key_text_color, text_of(text));
     set_text_color(text);
 }
 
@@ -117,7 +147,7 @@ bool scaling_reads_as(bool wanted) {
 
 void save_scaling() {
     const bool wanted = frmFeatures.chkScaleCards.checked();
-    if (scaling_reads_as(wanted)) return;
+    if (is_stand_in(key_scale_cards, text_of(wanted)) || scaling_reads_as(wanted)) return;
     save_setting(key_scale_cards, text_of(wanted));
     stretch_cards();
 }
@@ -126,8 +156,8 @@ void save_and_close() {
     save_back();
     save_colors();
     save_scaling();
-    save_setting(key_show_message, text_of(frmFeatures.chkDisplayMes.checked()));
-    save_setting(key_anamate, text_of(frmFeatures.chkAnamate.checked()));
+    save_shown(key_show_message, text_of(frmFeatures.chkDisplayMes.checked()));
+    save_shown(key_anamate, text_of(frmFeatures.chkAnamate.checked()));
     frmFeatures.unload();
 }
 

@@ -1,7 +1,6 @@
 #include <cmath>
 #include <string>
 
-#include "game/best_scores.h"
 #include "game/end_game.h"
 #include "platform/desktop.h"
 #include "settings/settings.h"
@@ -32,14 +31,20 @@ void show_average() {
     frmBestScore.lblAverageScore.set_caption(text_of(std::nearbyint(average * 10) / 10));
 }
 
+// As stored, but for the end of what nobody would read: a stored text may have any length.
+void show(Label& label, const std::string& stored) {
+    constexpr std::size_t most_shown = 200;
+    label.set_caption(beginning_of(stored, most_shown));
+}
+
 void load() {
     mark_new_entry();
-    frmBestScore.lblGamesWon.set_caption(read_setting(key_games_won, 0));
-    frmBestScore.lblGamesPlayed.set_caption(read_setting(key_games_played, 0));
+    show(frmBestScore.lblGamesWon, read_setting(key_games_won, 0));
+    show(frmBestScore.lblGamesPlayed, read_setting(key_games_played, 0));
     for (int i = 1; i <= best_score_places; ++i) {
-        frmBestScore.lblHighScore(i).set_caption(read_setting(key_high_score(i), 0));
-        frmBestScore.lblHighScoreName(i).set_caption(read_setting(key_high_score_name(i), std::string()));
-        frmBestScore.lblHighScoreDate(i).set_caption(read_setting(key_high_score_date(i), std::string()));
+        show(frmBestScore.lblHighScore(i), read_setting(key_high_score(i), 0));
+        show(frmBestScore.lblHighScoreName(i), read_setting(key_high_score_name(i), std::string()));
+        show(frmBestScore.lblHighScoreDate(i), read_setting(key_high_score_date(i), std::string()));
     }
     show_average();
 }
@@ -59,7 +64,7 @@ void clear_score() {
     const MessageAnswer answer = desktop().message_box(
         {"Clear Scores?", "Are you sure you want to clear the high scores?", MessageButtons::ok_cancel});
     if (answer != MessageAnswer::ok) return;
-    settings_store().transaction([] {
+    settings_transaction([] {
         save_setting(key_average_score, "0");
         save_setting(key_games_played, "0");
         for (int i = 1; i <= best_score_places; ++i) {

@@ -59,6 +59,9 @@ TEST_F(StoreTest, MakesATransactionOneChange) {
     }),
                  std::runtime_error);
     EXPECT_EQ(read(store, "high score 1"), "70") << "a failed one leaves nothing";
+    listen(store);
+    save(store, "high score 3", "1");
+    EXPECT_TRUE(told.empty() && !store.waits()) << "and is in the way of no other";
     EXPECT_EQ(read(onlooker, "high score 1"), "70");
     save(onlooker, "high score 1", "80");
     EXPECT_EQ(read(store, "high score 1"), "80") << "what another program has saved";

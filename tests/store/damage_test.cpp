@@ -29,7 +29,7 @@ std::string read(Store& store, const std::string& key) {
 }
 
 void save(Store& store, const Values& values) {
-    store.transaction([&] {
+    store.transaction([&store, values] {
         for (const auto& [key, text] : values) store.save("Tarnwick", "setting", key, text);
     });
 }

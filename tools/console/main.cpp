@@ -2,15 +2,20 @@
 // the position after it.
 
 #include <charconv>
+#include <csignal>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <limits>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "notation/outside_text.h"
 #include "notation/position_text.h"
 #include "notation/record_player.h"
+#include "notation/standard_output.h"
 #include "tools/console/random_game.h"
 
 namespace {
@@ -26,13 +31,13 @@ constexpr const char* usage =
 constexpr int bad_usage = 2;
 
 // Plays line by line, so that a program at the other end can wait for each answer.
-void play_stream(std::istream& lines, RecordPlayer& player, std::ostream* answers, Signature& signature) {
+void play_stream(std::istream& lines, RecordPlayer& player, bool answering, Signature& signature) {
     std::string line;
-    for (int number = 1; std::getline(lines, line); ++number) {
+    for (int number = 1; read_line(lines, line); ++number) {
         std::string answer;
         try {
             Action action;
-            if (!parse_action(line, action)) continue;
+            if (!parse_action(number == 1 ? without_byte_order_mark(line) : line, action)) continue;
             player.play(action);
             answer = text_of(action) + '\n';
         } catch (const std::invalid_argument& fault) {
@@ -41,25 +46,33 @@ void play_stream(std::istream& lines, RecordPlayer& player, std::ostream* answer
         for (const std::string& message : player.messages()) answer += "message: " + message + '\n';
         answer += position_text() + '\n';
         signature.add(answer);
-        if (answers) *answers << answer << std::flush;
+        if (!answering) continue;
+        std::cout << answer;
+        flush_standard_output();
     }
 }
 
-void play_file(const std::string& name, RecordPlayer& player, std::ostream* answers, Signature& signature) {
+void play_file(const std::string& name, RecordPlayer& player, bool answering, Signature& signature) {
+    std::error_code unknown;
+    if (std::filesystem::is_directory(name, unknown)) {
+        throw std::invalid_argument(name + " is a directory, not the record of a game");
+    }
     std::ifstream file(name);
     if (!file) throw std::invalid_argument(name + " cannot be read");
     try {
-        play_stream(file, player, answers, signature);
+        play_stream(file, player, answering, signature);
     } catch (const std::invalid_argument& fault) {
         throw std::invalid_argument(name + ", " + fault.what());
     }
+    if (file.bad()) throw std::runtime_error(name + " cannot be read to its end");
 }
 
-int number_from(const std::string& text) {
-    int number = 0;
+std::uint32_t number_from(const std::string& text, std::uint32_t most) {
+    std::uint32_t number = 0;
     const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc{} || stop != text.data() + text.size() || number < 0) {
-        throw std::invalid_argument("\"" + text + "\" is not a number");
+    if (error != std::errc{} || stop != text.data() + text.size() || number > most) {
+        throw std::invalid_argument("\"" + excerpt(text) + "\" is not a number from 0 to " +
+                                    std::to_string(most));
     }
     return number;
 }
@@ -70,33 +83,39 @@ int run(const std::vector<std::string>& arguments) {
     if (first == "--help") {
         std::cout << usage;
     } else if (first == "--random" && arguments.size() == 3) {
-        write_random_game(static_cast<std::uint32_t>(number_from(arguments[1])), number_from(arguments[2]),
-                          std::cout);
+        constexpr std::uint32_t most_actions = std::numeric_limits<int>::max();
+        write_random_game(number_from(arguments[1], std::numeric_limits<std::uint32_t>::max()),
+                          static_cast<int>(number_from(arguments[2], most_actions)), std::cout);
     } else if (first == "--signature" && arguments.size() > 1) {
         RecordPlayer player;
-        for (std::size_t i = 1; i < arguments.size(); ++i)
-            play_file(arguments[i], player, nullptr, signature);
+        for (std::size_t i = 1; i < arguments.size(); ++i) play_file(arguments[i], player, false, signature);
         std::cout << signature.text() << '\n';
     } else if (arguments.empty()) {
         RecordPlayer player;
-        play_stream(std::cin, player, &std::cout, signature);
+        play_stream(std::cin, player, true, signature);
+        if (std::cin.bad()) throw std::runtime_error("standard input cannot be read to its end");
     } else if (arguments.size() == 1 && first.rfind("--", 0) != 0) {
         RecordPlayer player;
-        play_file(first, player, &std::cout, signature);
+        play_file(first, player, true, signature);
     } else {
         std::cerr << usage;
         return bad_usage;
     }
+    flush_standard_output();
     return EXIT_SUCCESS;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+    // A pipe that nobody reads any more is told like a full disk.
+    std::signal(SIGPIPE, SIG_IGN);
+    // The streams of C do not tell when standard input cannot be read.
+    std::ios::sync_with_stdio(false);
     try {
         return run({argv + 1, argv + argc});
     } catch (const std::exception& fault) {
-        std::cerr << "tarnwick-console: " << fault.what() << '\n';
+        std::cerr << "tarnwick-console: " << printable(fault.what()) << '\n';
         return EXIT_FAILURE;
     }
 }

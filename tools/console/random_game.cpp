@@ -93,7 +93,7 @@ class RandomGame {
 void write_random_game(std::uint32_t deal, int actions, std::ostream& record) {
     RandomGame game(deal, record);
     game.begin(deal);
-    for (int i = 0; i < actions && game.go_on(); ++i) {
+    for (int i = 0; i < actions && record && game.go_on(); ++i) {
     }
 }
 

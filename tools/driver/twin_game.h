@@ -93,6 +93,9 @@ class TwinGame {
     /// The stored text of a key, in the file of the real program; "-" when there is none.
     std::string stored(const std::string& key) const;
 
+    /// The file that the real program keeps its settings and scores in.
+    const std::string& store_file() const { return store_file_; }
+
     /// Waits for a window of the real program. Throws std::runtime_error when none appears.
     XWindow wait_for(const std::string& title);
     /// Whether the window with this title goes away in time.

@@ -1,0 +1,106 @@
+#include "settings/repair.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/desktop.h"
+#include "settings/settings.h"
+
+namespace tarnwick {
+namespace {
+
+struct CheckedSetting {
+    std::string key;
+    std::string usual;
+    /// Throws ConversionError, as the key's readers do.
+    std::function<void(const std::string&)> convert;
+};
+
+std::vector<CheckedSetting> checked_settings(int card_backs) {
+    const auto back = [card_backs](const std::string& text) {
+        const int number = to_integer(text);
+        if (number < 0 || number >= card_backs) throw ConversionError(text, "a card back");
+    };
+    std::vector<CheckedSetting> settings{{key_card_back, text_of(default_card_back), back},
+                                         {key_back_color, text_of(default_back_color), to_long},
+                                         {key_text_color, text_of(default_text_color), to_long}};
+    for (const char* key : {key_scale_cards, key_show_message, key_anamate}) {
+        settings.push_back({key, text_of(true), to_boolean});
+    }
+    for (const char* key : {key_games_played, key_games_won, key_average_score}) {
+        settings.push_back({key, text_of(0), to_double});
+    }
+    for (int place = 1; place <= best_score_places; ++place) {
+        settings.push_back({key_high_score(place), text_of(0), to_double});
+    }
+    return settings;
+}
+
+bool is_damaged(const CheckedSetting& setting) {
+    try {
+        setting.convert(read_setting(setting.key, setting.usual));
+        return false;
+    } catch (const ConversionError&) {
+        return true;
+    }
+}
+
+// An earlier damaged text is not lost for a later one.
+std::string free_key_for(const std::string& key, const std::string& text) {
+    std::string name = key + " (damaged)";
+    for (int number = 2;; ++number) {
+        const std::string kept = read_setting(name, std::string());
+        if (kept.empty() || kept == text) return name;
+        name = key + " (damaged " + text_of(number) + ")";
+    }
+}
+
+void set_back(const CheckedSetting& setting) {
+    const std::string text = read_setting(setting.key, setting.usual);
+    save_setting(free_key_for(setting.key, text), text);
+    save_setting(setting.key, setting.usual);
+}
+
+void tell(const std::vector<std::string>& keys) {
+    std::string list;
+    for (const std::string& key : keys) list += (list.empty() ? "\"" : ", \"") + key + '"';
+    desktop().after_event([list] {
+        desktop().message_box(
+            {"Tarnwick", "These stored values could not be read and were set back to the usual ones: " +
+                             list + "; what was there is kept in the same file, marked as damaged."});
+    });
+}
+
+}  // namespace
+
+void repair_settings(int card_backs) {
+    const std::vector<CheckedSetting> settings = checked_settings(card_backs);
+    bool sound = true;
+    for (const CheckedSetting& setting : settings) {
+        sound = !is_damaged(setting) && setting_is_known(setting.key) && sound;
+    }
+    if (sound) return;
+    // What cannot be read now may be damaged, or not: that turns out when it can.
+    const auto damaged = std::make_shared<std::vector<std::string>>();
+    const auto told = std::make_shared<bool>(false);
+    const auto tell_once = [=] {
+        if (damaged->empty() || *told) return;
+        *told = true;
+        tell(*damaged);
+    };
+    settings_transaction(
+        [=] {
+            damaged->clear();
+            for (const CheckedSetting& setting : settings) {
+                if (!is_damaged(setting)) continue;
+                set_back(setting);
+                damaged->push_back(setting.key);
+            }
+        },
+        tell_once);
+    tell_once();
+}
+
+}  // namespace tarnwick
