@@ -34,8 +34,9 @@ TEST(Endings, AClosedGameWithABestScoreStillAsksForTheName) {
 
 TEST(Endings, AfterAnErrorThePlayerClosesTheGame) {
     // A number of games that is no number makes the end of a game fail.
-    TwinGame game({program, 26, {{"games played", "many"}}});
+    TwinGame game({program, 26});
     score_two(game);
+    game.store("games played", "many");
     game.screen().key("F2");
     ASSERT_TRUE(game.gets_keyboard(game.wait_for("Error")));
     // The table is not disabled by an error.

@@ -14,6 +14,9 @@
 #include "tools/driver/board_picture.h"
 #include "tools/driver/eventually.h"
 #include "tools/driver/twin_game.h"
+#include "platform/headless.h"
+#include "windows/frmCommon.h"
+#include "windows/frmFeatures.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {
@@ -163,6 +166,43 @@ TEST(WaysToEnd, TheDisplayMayDieAsAWhole) {
     display.kill();
     EXPECT_EQ(game.program().exit_code(patience), 1);
     EXPECT_EQ(left_in_store(game), "1 2 2 Ann");
+}
+
+TEST(WaysToEnd, EveryWindowGoesBeforeItsDesktop) {
+    TwinGame game({tested_program(), 26, without_slides});
+    open(game, {"F1"}, "Help");
+    ASSERT_TRUE(game.bring_to_front(game.window()));
+    pick_a_color(game);
+    game.screen().key("Escape");
+    ASSERT_TRUE(game.goes("Select Color"));
+    game.screen().key("Escape");
+    ASSERT_TRUE(game.goes("Select Settings"));
+    ASSERT_TRUE(game.gets_keyboard(game.window()));
+    open(game, {"ctrl+q"}, win_title);
+    open(game, {"Return"}, "Scores");
+    game.screen().key("Return");
+    EXPECT_EQ(game.program().exit_code(patience), 0);
+    EXPECT_EQ(left_in_store(game), "1 2 2 ");
+    EXPECT_EQ(game.program().errors(), "");
+}
+
+TEST(WaysToEnd, ADesktopThatGoesLeavesNoViewBehind) {
+    MemoryStore store;
+    {
+        QtDesktop desktop;
+        start_program(store);
+        frmFeatures.show();
+        frmCommon.load();
+        desktop.show_help("tarnwick.html");
+    }
+    for (const Form* form : {static_cast<Form*>(&frmcards), static_cast<Form*>(&frmFeatures),
+                             static_cast<Form*>(&frmCommon)}) {
+        EXPECT_TRUE(form->loaded()) << form->name();
+        EXPECT_FALSE(form->view()) << form->name();
+    }
+    EXPECT_TRUE(QApplication::topLevelWidgets().empty());
+    const HeadlessDesktop cleaner;
+    end_program();
 }
 
 TEST(WaysToEnd, QuestionsAreTakenBack) {
