@@ -16,9 +16,8 @@
 namespace tarnwick {
 namespace {
 
-bool fits_on_ace_pile(int top, int beneath, int rank, int pile_suit, int suit) {
-    if (top == none) return rank == ace;
-    if (suit != pile_suit) return false;
+// Whether a rank comes next on an ace pile of its suit.
+bool comes_next(int top, int beneath, int rank) {
     const bool other_of_rank = top > beneath && rank == top;
     const bool next_rank = top == beneath && rank == top + 1;
     const bool two_on_ace = top == ace && rank == two;
@@ -34,16 +33,19 @@ int steps_from_column(int p) {
     return steps_for(card.left() - outline.left()) + 3 + steps_for(card.top() - outline.top());
 }
 
-// Asks for the slide of a card that lies on pile p by now, but is still seen where it came from.
-void start_slide(Statements& then, int p, bool first_card, int steps) {
-    then([=] { animation(sliding_picture) = aces(p, picture_field); });
-    then([=] {
-        animation(beneath_sliding) = first_card ? no_card_beneath : int{aces(p, beneath_picture_field)};
+int steps_from_tablet(int p) { return 2 * p + 3; }
+
+// Asks for the slide of a card that lies on ace pile `target` by now, but is still seen where it came from.
+void start_slide(Statements& then, const Integer& target, bool first_card, int (*steps)(int p)) {
+    const auto p = [&] { return target - first_ace_pile; };
+    then("slide: name the card", [&] { animation(sliding_picture) = aces(p(), picture_field); });
+    then("slide: name the card beneath", [&] {
+        animation(beneath_sliding) = first_card ? no_card_beneath : int{aces(p(), beneath_picture_field)};
     });
-    then([=] { animation(slide_source) = drag_source; });
-    then([=] { animation(slide_pile) = p; });
-    then([=] { animation(slide_steps) = steps; });
-    then([] { frmcards.Timer3.set_enabled(true); });
+    then("slide: name the source", [] { animation(slide_source) = drag_source; });
+    then("slide: name the ace pile", [&] { animation(slide_pile) = p(); });
+    then("slide: count the steps", [&] { animation(slide_steps) = steps(p()); });
+    then("slide: start the clock", [] { frmcards.Timer3.set_enabled(true); });
 }
 
 bool slides(bool animate) { return animate && setting_is_on(key_anamate); }
@@ -51,24 +53,35 @@ bool slides(bool animate) { return animate && setting_is_on(key_anamate); }
 }  // namespace
 
 bool ace_pile_takes(int p, const Card& card) {
-    return fits_on_ace_pile(aces(p, rank_field), aces(p, beneath_rank_field), card.rank, aces(p, suit_field),
-                            card.suit);
+    if (ace_pile_is_empty(p)) return card.rank == ace;
+    return card.suit == aces(p, suit_field) &&
+           comes_next(aces(p, rank_field), aces(p, beneath_rank_field), card.rank);
 }
 
 bool to_ace(const Integer& target, const Integer& top_rank, const Integer& beneath_rank,
             const Integer& card_rank, const Integer& pile_suit, const Integer& card_suit, bool animate) {
     bool placed = false;
     resumable("to_ace", [&](Statements& then) {
-        if (fits_on_ace_pile(top_rank, beneath_rank, card_rank, pile_suit, card_suit)) {
-            placed = true;
-            if (drag_source < first_ace_pile) {
-                then([&] { layout_to_ace(target, animate); });
+        bool legal = false;
+        if (then.holds("is the pile empty?", [&] { return top_rank == none; })) {
+            legal = then.holds("is the card an ace?", [&] { return card_rank == ace; });
+        } else if (!then.holds("is the card of another suit?", [&] { return card_suit != pile_suit; })) {
+            legal = then.holds("does its rank come next?",
+                               [&] { return comes_next(top_rank, beneath_rank, card_rank); });
+        }
+        if (legal) {
+            if (then.holds("does it come from a column?", [] { return drag_source < first_ace_pile; })) {
+                then("move it from its column", [&] { layout_to_ace(target, animate); });
             } else {
-                then([&] { tablet_to_ace(target, animate); });
+                then("move it from the tablet", [&] { tablet_to_ace(target, animate); });
             }
-        } else if (then.holds([] { return !suppress_help && setting_is_on(key_show_message); })) {
-            const std::string message = ace_pile_message(top_rank, beneath_rank, pile_suit);
-            if (!message.empty()) then([&] { desktop().message_box({"Tarnwick", message}); });
+            then("the card was placed", [&] { placed = true; });
+        } else if (then.holds("is help wanted?",
+                              [] { return !suppress_help && setting_is_on(key_show_message); })) {
+            std::string message;
+            then("find words for it", [&] { message = ace_pile_message(top_rank, beneath_rank, pile_suit); });
+            if (message.empty()) return;
+            then("show the message", [&] { desktop().message_box({"Tarnwick", message}); });
         }
     });
     return placed;
@@ -76,46 +89,51 @@ bool to_ace(const Integer& target, const Integer& top_rank, const Integer& benea
 
 void tablet_to_ace(const Integer& target, bool animate) {
     resumable("tablet_to_ace", [&](Statements& then) {
-        const int p = target - first_ace_pile;
-        bool first_card = false;
-        then([&] { first_card = ace_pile_is_empty(p); });
+        const auto p = [&] { return target - first_ace_pile; };
+        const bool first_card = then.holds("is the pile empty?", [&] { return ace_pile_is_empty(p()); });
         // Read before anything is changed: a stored text that does not convert must not stop the move
         // halfway.
-        const bool slide = then.holds([&] { return slides(animate); });
-        then([&] { push_on_ace_pile(p, turned_card()); });
-        if (slide) {
-            start_slide(then, p, first_card, 2 * p + 3);
+        const bool slide = then.holds("does the card slide?", [&] { return slides(animate); });
+        if (first_card) {
+            then("start the pile", [&] { start_ace_pile(p(), turned_card()); });
         } else {
-            then([&] { redisplay_aces(p, first_card ? single_card_mode : stacked_mode); });
+            then("cover the pile", [&] { cover_ace_pile(p(), turned_card()); });
         }
-        then([] { take_from_tablet(); });
+        if (slide) {
+            start_slide(then, target, first_card, steps_from_tablet);
+        } else {
+            then("redisplay the pile",
+                 [&] { redisplay_aces(p(), first_card ? single_card_mode : stacked_mode); });
+        }
+        then("take the card from the tablet", [] { take_from_tablet(); });
         // Recorded before it is scored: the move that wins may deal a new game, whose list begins empty.
-        then([&] { add_undo(tablet_pile, target, 1); });
-        then([&] { ace_score(p, animate); });
+        then("record the move", [&] { add_undo(tablet_pile, target, 1); });
+        then("score it", [&] { ace_score(p(), animate); });
     });
 }
 
 void layout_to_ace(const Integer& target, bool animate) {
     resumable("layout_to_ace", [&](Statements& then) {
-        const int p = target - first_ace_pile;
-        const int c = drag_source;
-        bool first_card = false;
-        then([&] { first_card = ace_pile_is_empty(p); });
+        const auto p = [&] { return target - first_ace_pile; };
+        const bool first_card = then.holds("is the pile empty?", [&] { return ace_pile_is_empty(p()); });
         // Read before anything is changed, as in tablet_to_ace.
-        const bool slide = then.holds([&] { return slides(animate); });
-        then([&] { push_on_ace_pile(p, top_card(c)); });
-        then([&] { column_top(c) -= 1; });
-        if (slide) {
-            int steps = 1;
-            then([&] { steps = steps_from_column(p); });
-            start_slide(then, p, first_card, steps);
+        const bool slide = then.holds("does the card slide?", [&] { return slides(animate); });
+        if (first_card) {
+            then("start the pile", [&] { start_ace_pile(p(), top_card(drag_source)); });
         } else {
-            then([&] { redisplay_aces(p, first_card ? single_card_mode : stacked_mode); });
+            then("cover the pile", [&] { cover_ace_pile(p(), top_card(drag_source)); });
         }
-        then([&] { redisplay_column(c); });
+        then("shorten the column", [] { column_top(drag_source) -= 1; });
+        if (slide) {
+            start_slide(then, target, first_card, steps_from_column);
+        } else {
+            then("redisplay the pile",
+                 [&] { redisplay_aces(p(), first_card ? single_card_mode : stacked_mode); });
+        }
+        then("redisplay the column", [] { redisplay_column(drag_source); });
         // Recorded before it is scored, as in tablet_to_ace.
-        then([&] { add_undo(c, target, 1); });
-        then([&] { ace_score(p, animate); });
+        then("record the move", [&] { add_undo(drag_source, target, 1); });
+        then("score it", [&] { ace_score(p(), animate); });
     });
 }
 

@@ -49,19 +49,38 @@ bool offer_to_ace_pile(int p, const Card& card, bool animate) {
                   aces(p, suit_field), card.suit, animate);
 }
 
-bool move_automatically(const Card& card) {
-    suppress_help = flag_true;
-    const int p = ace_pile_for(card);
-    return p != none && offer_to_ace_pile(p, card, true);
+int first_empty_ace_pile() {
+    for (int k = 0; k <= 3; ++k) {
+        if (ace_pile_is_empty(k)) return k;
+    }
+    return none;
+}
+
+int ace_pile_of_suit(int suit) {
+    for (int k = 0; k <= 3; ++k) {
+        if (aces(k, suit_field) == suit) return k;
+    }
+    return none;
+}
+
+Card top_card_of_source() { return top_card(drag_source); }
+
+void move_automatically(Statements& then, Card (*card)(), bool& moved) {
+    then("give no help", [] { suppress_help = flag_true; });
+    int p = none;
+    if (then.holds("is the card an ace?", [&] { return card().rank == ace; })) {
+        then("find an empty ace pile", [&] { p = first_empty_ace_pile(); });
+    } else {
+        then("find the ace pile of its suit", [&] { p = ace_pile_of_suit(card().suit); });
+    }
+    if (p == none) return;
+    then("send it there", [&] { moved = offer_to_ace_pile(p, card(), true); });
 }
 
 }  // namespace
 
 int ace_pile_for(const Card& card) {
-    for (int k = 0; k <= 3; ++k) {
-        if (card.rank == ace ? ace_pile_is_empty(k) : aces(k, suit_field) == card.suit) return k;
-    }
-    return none;
+    return card.rank == ace ? first_empty_ace_pile() : ace_pile_of_suit(card.suit);
 }
 
 Drop drop_of(const Image& source, const Image& target, float x) {
@@ -91,13 +110,17 @@ void drop_on_image(int index, const Image& source, float x) {
 bool column_to_column(const Integer& target) {
     bool moved = false;
     resumable("column_to_column", [&](Statements& then) {
-        if (then.holds([] { return frmcards.Timer3.enabled(); })) then([] { land_slide(); });
-        if (then.holds([] { return drag_source == tablet_pile; })) {
-            then([&] { moved = from_tablet_to(target); });
-        } else if (then.holds([] { return drag_source >= first_ace_pile; })) {
-            then([&] { moved = from_ace_to(target); });
+        then("no move was made", [&] { moved = false; });
+        if (then.holds("does a card slide?", [] { return frmcards.Timer3.enabled(); })) {
+            then("land it", [] { land_slide(); });
+        }
+        if (then.holds("does the card come from the tablet?", [] { return drag_source == tablet_pile; })) {
+            then("move it from the tablet", [&] { moved = from_tablet_to(target); });
+        } else if (then.holds("does it come from an ace pile?",
+                              [] { return drag_source >= first_ace_pile; })) {
+            then("move it from its ace pile", [&] { moved = from_ace_to(target); });
         } else {
-            then([&] { moved = from_column_to(target); });
+            then("move it from its column", [&] { moved = from_column_to(target); });
         }
     });
     return moved;
@@ -106,13 +129,14 @@ bool column_to_column(const Integer& target) {
 bool from_tablet_to(const Integer& target) {
     bool moved = false;
     resumable("from_tablet_to", [&](Statements& then) {
-        then([] { suppress_help = flag_false; });
-        if (target == tablet_pile) {
-            then([&] { moved = move_automatically(turned_card()); });
-        } else if (target >= first_ace_pile) {
-            then([&] { moved = offer_to_ace_pile(target - first_ace_pile, turned_card(), false); });
+        then("help is welcome", [] { suppress_help = flag_false; });
+        if (then.holds("is it dropped on the tablet?", [&] { return target == tablet_pile; })) {
+            move_automatically(then, turned_card, moved);
+        } else if (then.holds("is it dropped on an ace pile?", [&] { return target >= first_ace_pile; })) {
+            then("offer it to the ace pile",
+                 [&] { moved = offer_to_ace_pile(target - first_ace_pile, turned_card(), false); });
         } else {
-            then([&] { moved = from_tablet_to_column(target); });
+            then("offer it to the column", [&] { moved = from_tablet_to_column(target); });
         }
     });
     return moved;
@@ -121,13 +145,14 @@ bool from_tablet_to(const Integer& target) {
 bool from_column_to(const Integer& target) {
     bool moved = false;
     resumable("from_column_to", [&](Statements& then) {
-        then([] { suppress_help = flag_false; });
-        if (target >= first_ace_pile) {
-            then([&] { moved = offer_to_ace_pile(target - first_ace_pile, top_card(drag_source), false); });
-        } else if (target == drag_source) {
-            then([&] { moved = move_automatically(top_card(drag_source)); });
+        then("help is welcome", [] { suppress_help = flag_false; });
+        if (then.holds("is it dropped on an ace pile?", [&] { return target >= first_ace_pile; })) {
+            then("offer it to the ace pile",
+                 [&] { moved = offer_to_ace_pile(target - first_ace_pile, top_card_of_source(), false); });
+        } else if (then.holds("is it dropped on its own column?", [&] { return target == drag_source; })) {
+            move_automatically(then, top_card_of_source, moved);
         } else {
-            then([&] { moved = from_column_to_column(target); });
+            then("offer it to the column", [&] { moved = from_column_to_column(target); });
         }
     });
     return moved;
@@ -136,9 +161,10 @@ bool from_column_to(const Integer& target) {
 bool from_ace_to(const Integer& target) {
     bool moved = false;
     resumable("from_ace_to", [&](Statements& then) {
-        const int p = drag_source - first_ace_pile;
-        if (target <= last_column && then.holds([&] { return aces(p, rank_field) >= two; })) {
-            then([&] { moved = from_ace_to_column(target); });
+        if (then.holds("may the card leave for a column?", [&] {
+                return target <= last_column && aces(drag_source - first_ace_pile, rank_field) >= two;
+            })) {
+            then("offer it to the column", [&] { moved = from_ace_to_column(target); });
         }
     });
     return moved;

@@ -8,9 +8,19 @@ namespace tarnwick {
 
 /// Puts a card on top.
 void push_on_ace_pile(int p, const Card& card);
+// Its two cases: the first card, and any other.
+void start_ace_pile(int p, const Card& card);
+void cover_ace_pile(int p, const Card& card);
 
 /// Takes the top card off a pile of two cards or more.
 void pop_ace_pile(int p);
+// Its steps. Taking a two off its ace is one of its own; otherwise the card beneath comes to the top, and
+// then the cards further down move up.
+void leave_ace_alone(int p);
+bool lower_rank_is_beneath(int p);
+void uncover_lower_rank(int p);
+void uncover_same_rank(int p);
+void move_up_on_ace_pile(int p);
 
 /// Makes a pile of one card an empty one.
 void empty_ace_pile(int p);

@@ -4,6 +4,8 @@
 #include <limits>
 #include <stdexcept>
 
+#include "platform/fault_point.h"
+
 namespace tarnwick {
 
 /// A number that does not fit into 16 bits.
@@ -19,13 +21,17 @@ class Integer {
     // Implicit, so that plain numbers can be passed and stored. NOLINTNEXTLINE(google-explicit-constructor)
     constexpr Integer(int wide) : value_(narrowed(wide)) {}
     // NOLINTNEXTLINE(google-explicit-constructor)
-    constexpr operator int() const { return value_; }
+    constexpr operator int() const {
+        note_use();
+        return value_;
+    }
 
     constexpr Integer& operator+=(int amount) { return *this = Integer(value_ + amount); }
     constexpr Integer& operator-=(int amount) { return *this = Integer(value_ - amount); }
 
   private:
     static constexpr std::int16_t narrowed(int wide) {
+        note_use();
         if (wide < std::numeric_limits<std::int16_t>::min() ||
             wide > std::numeric_limits<std::int16_t>::max()) {
             throw IntegerOverflow();

@@ -37,10 +37,10 @@ TEST(BoundedArray, HasInclusiveBounds) {
 std::string run_resumable() {
     std::string done;
     resumable("to_ace", [&done](Statements& then) {
-        then([&] { done += "one "; });
-        then([] { throw std::runtime_error("failure"); });
-        then([&] { done += "two "; });
-        if (then.holds([]() -> bool { throw std::runtime_error("failure"); })) done += "branch ";
+        then("one", [&] { done += "one "; });
+        then("fail", [] { throw std::runtime_error("failure"); });
+        then("two", [&] { done += "two "; });
+        if (then.holds("fails", []() -> bool { throw std::runtime_error("failure"); })) done += "branch ";
         done += "end";
     });
     return done;
@@ -59,11 +59,15 @@ TEST(Resumable, LeavesUnlessThePlayerHasChosenToResume) {
     EXPECT_EQ(run_resumable(), "one two ") << "one answer lets one failure pass";
     EXPECT_EQ(run_resumable(), "one ");
     resumable("column_to_column", [&done](Statements& then) {
-        then([&done] { done = run_resumable(); });
+        then("inner", [&done] { done = run_resumable(); });
         done += "outer";
     });
     EXPECT_EQ(done, "one outer") << "only the routine that failed is left";
     EXPECT_EQ(frmError.LblError.caption(), "Fatel Error in Subroutine to_ace");
+    frmError.Command1.click();
+    resumable("take_from_tablet", [](Statements&) { throw std::runtime_error("between statements"); });
+    EXPECT_EQ(frmError.LblError.caption(), "Fatel Error in Subroutine take_from_tablet");
+    EXPECT_FALSE(resume_after_error) << "the answer is used up";
 }
 
 TEST(ErrorDialog, AnswerIsForgottenByANewGameAndARestart) {
