@@ -2,7 +2,9 @@
 
 #include <QCoreApplication>
 #include <QThread>
+#include <chrono>
 #include <cstdlib>
+#include <thread>
 #include <utility>
 
 #include "desktop/qt_desktop.h"
@@ -39,15 +41,23 @@ void end_without_display() {
 
 void look_for_loss(QtMsgType type, const QMessageLogContext& context, const QString& text) {
     usual_handler(type, context, text);
-    const bool lost = text.startsWith("The Wayland connection ");
-    if (lost && QThread::currentThread() == QCoreApplication::instance()->thread()) end_without_display();
+    if (!text.startsWith("The Wayland connection ")) return;
+    if (QThread::currentThread() == qApp->thread()) {
+        end_without_display();
+        return;
+    }
+    // One of the toolkit's own threads has noticed, and would end the process when it gets on: the game
+    // belongs to the main thread, which has this long.
+    constexpr std::chrono::seconds long_enough{10};
+    QMetaObject::invokeMethod(qApp, end_without_display, Qt::QueuedConnection);
+    std::this_thread::sleep_for(long_enough);
 }
 
 }  // namespace
 
 DisplayLoss::DisplayLoss(QtDesktop& desktop, Store& store) {
-    // What is first used after std::atexit is destroyed before the function runs that is registered here: of the
-    // toolkit that function uses the date, which is therefore asked for now.
+    // What is first used after std::atexit is destroyed before the function runs that is registered here: of
+    // the toolkit that function uses the date, which is therefore asked for now.
     desktop.short_date();
     lost_desktop = &desktop;
     open_store = &store;

@@ -5,9 +5,10 @@ namespace tarnwick {
 class QtDesktop;
 class Store;
 
-/// When the connection to the display breaks, the toolkit ends the process from where it happens to be: on X11 with
-/// exit(), on Wayland with _exit() after a warning. While this object lives, the program ends first, with nothing of
-/// the toolkit touched and without the destruction of anything; the exit status is 1.
+/// When the connection to the display breaks, the toolkit ends the process from where it happens to be: on
+/// X11 with exit(), on Wayland, in any thread, with _exit() after a warning. While this object lives, the
+/// program ends first, with nothing of the toolkit touched and without the destruction of anything; the exit
+/// status is 1.
 class DisplayLoss {
   public:
     /// The program has been started. There is one of these at a time.

@@ -25,9 +25,7 @@
 
 namespace tarnwick {
 
-void write_message(const Message& message) {
-    std::cerr << "tarnwick: " << printable(message.text) << '\n';
-}
+void write_message(const Message& message) { std::cerr << "tarnwick: " << printable(message.text) << '\n'; }
 
 QtDesktop::QtDesktop() {
     use_desktop(this);
@@ -180,7 +178,11 @@ MessageAnswer QtDesktop::show_message(const Message& message) {
     delete box;
     // The message may have been shown outside of any event, so that no event's end comes after it.
     QMetaObject::invokeMethod(
-        &timer_, [this] { if (!in_event()) event_ended(); }, Qt::QueuedConnection);
+        &timer_,
+        [this] {
+            if (!in_event()) event_ended();
+        },
+        Qt::QueuedConnection);
     return confirmed ? MessageAnswer::ok : MessageAnswer::cancel;
 }
 

@@ -39,8 +39,8 @@ class QtDesktop : public Desktop {
     /// Keeps track of the views; called by the views.
     void add(WindowView& view) { views_.push_back(&view); }
     void remove(WindowView& view);
-    /// Lets the forms go on without their windows, which stay as they are: the display is lost, and nothing of the
-    /// toolkit may be called any more.
+    /// Lets the forms go on without their windows, which stay as they are: the display is lost, and nothing
+    /// of the toolkit may be called any more.
     void abandon_windows();
     /// Takes back the messages and colour pickers that wait for an answer; they count as cancelled.
     void cancel_questions();

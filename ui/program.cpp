@@ -25,8 +25,8 @@ std::array<Form*, 6> all_windows() {
     return {&frmcards, &frmyouwin, &frmBestScore, &frmFeatures, &frmError, &frmCommon};
 }
 
-// The game in hand and its entry are stored in one change: whoever waits for the program to end may lose patience and
-// kill it. The main window finds a game that is over.
+// The game in hand and its entry are stored in one change: whoever waits for the program to end may lose
+// patience and kill it. The main window finds a game that is over.
 void count_game_in_hand() {
     if (!frmcards.loaded() || phase != Phase::playing || score == 0) return;
     settings_store().transaction([points = static_cast<int>(score), complete = all_ace_piles_complete()] {

@@ -24,7 +24,8 @@ constexpr int column_of_ace = 4;
 constexpr int points = 2;
 const std::map<std::string, std::string> without_slides{{"anamate", "False"}};
 
-// What is stored of the games played: how many, their total, the games won, and the best scores with their names.
+// What is stored of the games played: how many, their total, the games won, and the best scores with their
+// names.
 struct Results {
     int games = 0;
     std::array<std::string, 5> table{"-,-", "-,-", "-,-", "-,-", "-,-"};
@@ -34,7 +35,8 @@ struct Results {
         return {games, {std::to_string(points) + ',' + name, table[0], table[1], table[2], table[3]}};
     }
     std::string text() const {
-        std::string text = games == 0 ? "- - -" : std::to_string(games) + ' ' + std::to_string(points * games) + " -";
+        std::string text =
+            games == 0 ? "- - -" : std::to_string(games) + ' ' + std::to_string(points * games) + " -";
         for (const std::string& entry : table) text += ' ' + entry;
         return text;
     }
@@ -99,7 +101,8 @@ TEST(KilledAtItsEnd, TheProgramHasCountedTheGameWhollyOrNotAtAll) {
         }
         ASSERT_FALSE(HasFatalFailure());
         kill(game.program().pid(), SIGTERM);
-        std::this_thread::sleep_for(std::chrono::microseconds(engine() % static_cast<unsigned>(whole.count())));
+        std::this_thread::sleep_for(
+            std::chrono::microseconds(engine() % static_cast<unsigned>(whole.count())));
         kill(game.program().pid(), SIGKILL);
         const bool ended = game.program().exit_code() == 128 + SIGTERM;
         const Results next = (named ? results : results.counted()).entered(name);

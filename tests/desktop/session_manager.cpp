@@ -120,8 +120,9 @@ SessionManager::SessionManager() : state_(std::make_unique<State>()) {
     IceSetIOErrorHandler([](IceConn) {});
     std::array<char, 256> error{};
     const int size = static_cast<int>(error.size());
-    const bool ready = SmsInitialize("Tarnwick", "1", new_client, state_.get(), let_in, size, error.data()) &&
-                       IceListenForConnections(&state_->listener_count, &state_->listeners, size, error.data());
+    const bool ready =
+        SmsInitialize("Tarnwick", "1", new_client, state_.get(), let_in, size, error.data()) &&
+        IceListenForConnections(&state_->listener_count, &state_->listeners, size, error.data());
     if (!ready) throw std::runtime_error(std::string("no session manager: ") + error.data());
     for (int i = 0; i < state_->listener_count; ++i) IceSetHostBasedAuthProc(state_->listeners[i], let_in);
     char* ids = IceComposeNetworkIdList(state_->listener_count, state_->listeners);

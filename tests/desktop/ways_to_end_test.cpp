@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <functional>
 
+#include "platform/headless.h"
 #include "state/variables.h"
 #include "tests/desktop/inner_game.h"
 #include "tests/desktop/own_display.h"
@@ -14,7 +15,6 @@
 #include "tools/driver/board_picture.h"
 #include "tools/driver/eventually.h"
 #include "tools/driver/twin_game.h"
-#include "platform/headless.h"
 #include "windows/frmCommon.h"
 #include "windows/frmFeatures.h"
 #include "windows/frmcards.h"
@@ -28,12 +28,13 @@ const std::map<std::string, std::string> without_slides{{"anamate", "False"}};
 
 // What is told of a failed test.
 template <class Part>
-void PrintTo(const Part& part, std::ostream* out) requires requires { part.name; } {
-    *out << part.name;
+void PrintTo(const Part& part, std::ostream* out) requires requires {
+    part.name;
 }
+{ *out << part.name; }
 
-// What a game is in the middle of, and what its end must leave in the store: games played, their total, the best
-// score and its name.
+// What a game is in the middle of, and what its end must leave in the store: games played, their total, the
+// best score and its name.
 struct Situation {
     const char* name;
     std::function<void(TwinGame&)> reach;
@@ -175,6 +176,7 @@ TEST(WaysToEnd, EveryWindowGoesBeforeItsDesktop) {
     pick_a_color(game);
     game.screen().key("Escape");
     ASSERT_TRUE(game.goes("Select Color"));
+    ASSERT_TRUE(game.gets_keyboard(game.wait_for("Select Settings")));
     game.screen().key("Escape");
     ASSERT_TRUE(game.goes("Select Settings"));
     ASSERT_TRUE(game.gets_keyboard(game.window()));
@@ -195,8 +197,8 @@ TEST(WaysToEnd, ADesktopThatGoesLeavesNoViewBehind) {
         frmCommon.load();
         desktop.show_help("tarnwick.html");
     }
-    for (const Form* form : {static_cast<Form*>(&frmcards), static_cast<Form*>(&frmFeatures),
-                             static_cast<Form*>(&frmCommon)}) {
+    for (const Form* form :
+         {static_cast<Form*>(&frmcards), static_cast<Form*>(&frmFeatures), static_cast<Form*>(&frmCommon)}) {
         EXPECT_TRUE(form->loaded()) << form->name();
         EXPECT_FALSE(form->view()) << form->name();
     }
