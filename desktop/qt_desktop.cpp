@@ -7,6 +7,7 @@
 #include <QLocale>
 #include <QMessageBox>
 #include <QScreen>
+#include <QThread>
 #include <QWindow>
 #include <algorithm>
 #include <chrono>
@@ -129,7 +130,9 @@ void QtDesktop::settle_windows() {
     if (in_event()) return;
     QWidget* front = front_window();
     if (!front) {
-        QCoreApplication::exit();
+        // Where no event loop runs, the next one, a message's, would end at once. QApplication::quit() is for
+        // those who want the program to end: it asks every window.
+        if (QThread::currentThread()->loopLevel() > 0) QCoreApplication::exit();
         return;
     }
     // A dialog that has gone leaves the keyboard to the window under it. A message keeps it from all of them.

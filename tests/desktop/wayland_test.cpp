@@ -42,7 +42,8 @@ Spot place_of_ace() {
 }
 
 TEST(Wayland, ACompositorThatGoesEndsTheGameInOrder) {
-    const QString plugin = QLibraryInfo::path(QLibraryInfo::PluginsPath) + "/platforms/libqwayland-generic.so";
+    const QString plugin =
+        QLibraryInfo::path(QLibraryInfo::PluginsPath) + "/platforms/libqwayland-generic.so";
     if (!fs::exists(weston) || !fs::exists(plugin.toStdString())) GTEST_SKIP() << "no weston or qt6-wayland";
     const TemporaryFolder folder;
     const std::string store = folder.path() + "/settings.sqlite";
@@ -50,9 +51,9 @@ TEST(Wayland, ACompositorThatGoesEndsTheGameInOrder) {
     const Environment environment{
         {"XDG_RUNTIME_DIR", folder.path()}, {"WAYLAND_DISPLAY", "game"}, {"QT_QPA_PLATFORM", "wayland"}};
     ChildProcess compositor(weston,
-                            {"--backend=x11-backend.so", "--shell=kiosk-shell.so", "--socket=game", "--no-config",
-                             "--idle-time=0", "--use-pixman", "--width=" + std::to_string(width),
-                             "--height=" + std::to_string(height)},
+                            {"--backend=x11-backend.so", "--shell=kiosk-shell.so", "--socket=game",
+                             "--no-config", "--idle-time=0", "--use-pixman",
+                             "--width=" + std::to_string(width), "--height=" + std::to_string(height)},
                             {{"XDG_RUNTIME_DIR", folder.path()}, {"WAYLAND_DISPLAY", ""}});
     XDriver screen;
     XWindow window = 0;
@@ -88,8 +89,8 @@ TEST(Wayland, ACompositorThatGoesEndsTheGameInOrder) {
     };
     // More than the pointer: the ace has moved.
     constexpr int of_a_card = 3000;
-    // The compositor adds up how the pointer moves, within its screen: it knows where it is once it has been to the
-    // corners.
+    // The compositor adds up how the pointer moves, within its screen: it knows where it is once it has been
+    // to the corners.
     for (const Spot& spot : {Spot{width - 1, height - 1}, Spot{0, 0}, ace}) {
         screen.move_pointer(place.x + spot.x, place.y + spot.y);
         std::this_thread::sleep_for(std::chrono::milliseconds(100));
@@ -98,7 +99,8 @@ TEST(Wayland, ACompositorThatGoesEndsTheGameInOrder) {
     ASSERT_TRUE(eventually([&] { return changed() > of_a_card; }));
     kill(compositor.pid(), SIGKILL);
     EXPECT_EQ(program.exit_code(), 1);
-    EXPECT_EQ(stored(store, "games played") + ' ' + stored(store, "average score"), "1 2") << program.errors();
+    EXPECT_EQ(stored(store, "games played") + ' ' + stored(store, "average score"), "1 2")
+        << program.errors();
     EXPECT_EQ(stored(store, "high score 1"), "2");
 }
 
