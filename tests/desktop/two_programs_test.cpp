@@ -94,7 +94,8 @@ TEST(TwoPrograms, WaitForEachOtherWithoutStandingStill) {
     EXPECT_LT(spent.count(), 4);
     std::cout << "a game was counted and entered in " << spent.count() << " s under a lock\n";
     sqlite3_close(holder);
-    EXPECT_TRUE(eventually([&] { return game.stored("high score name 1") == "Ann"; })) << "with nobody's help";
+    EXPECT_TRUE(eventually([&] { return game.stored("high score name 1") == "Ann"; }))
+        << "with nobody's help";
     EXPECT_EQ(game.stored("games played"), "1");
 }
 
