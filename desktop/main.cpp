@@ -8,9 +8,12 @@
 #include <memory>
 
 #include "desktop/command_line.h"
+#include "desktop/display_loss.h"
 #include "desktop/picture_cache.h"
 #include "desktop/qt_desktop.h"
 #include "desktop/recording.h"
+#include "desktop/signals.h"
+#include "desktop/unattended_end.h"
 #include "notation/outside_text.h"
 #include "notation/standard_output.h"
 #include "platform/random.h"
@@ -51,6 +54,15 @@ void set_icon_later() {
     });
 }
 
+// Every window goes before its desktop, whichever way the program is left.
+class EndOfProgram {
+  public:
+    EndOfProgram() = default;
+    ~EndOfProgram() { end_program(); }
+    EndOfProgram(const EndOfProgram&) = delete;
+    EndOfProgram& operator=(const EndOfProgram&) = delete;
+};
+
 int run(const CommandLine& command, int argc, char** argv) {
     if (!is_set("DISPLAY") && !is_set("WAYLAND_DISPLAY") && !is_set("QT_QPA_PLATFORM")) {
         std::cerr << "tarnwick: there is no display (neither DISPLAY nor WAYLAND_DISPLAY is set)\n";
@@ -68,11 +80,17 @@ int run(const CommandLine& command, int argc, char** argv) {
     // Outlives the windows, which may ask for settings until they are gone.
     SqliteStore store(store_path);
     QtDesktop desktop;
+    const UnattendedEnd unattended_end(desktop);
     if (command.deal) random_generator().replay(*command.deal);
+    const EndOfProgram end_of_program;
     start_program(store);
+    const DisplayLoss display_loss(desktop, store);
     if (recorder) recorder->begin();
     set_icon_later();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    // While there is a desktop to tell the player on what could not be saved.
+    store.close();
+    return status;
 }
 
 }  // namespace
@@ -89,7 +107,9 @@ int main(int argc, char** argv) {
             flush_standard_output();
             return EXIT_SUCCESS;
         }
-        return run(command, argc, argv);
+        const int status = run(command, argc, argv);
+        end_by_caught_signal();
+        return status;
     } catch (const CommandLineError& error) {
         std::cerr << "tarnwick: " << printable(error.what()) << '\n';
         return bad_usage;

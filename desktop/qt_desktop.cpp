@@ -7,9 +7,12 @@
 #include <QLocale>
 #include <QMessageBox>
 #include <QScreen>
+#include <QThread>
 #include <QWindow>
 #include <algorithm>
 #include <chrono>
+#include <iostream>
+#include <utility>
 
 #include "desktop/board_accessible.h"
 #include "desktop/board_window.h"
@@ -18,9 +21,12 @@
 #include "desktop/help_window.h"
 #include "desktop/lean_style.h"
 #include "desktop/qt_convert.h"
+#include "notation/outside_text.h"
 #include "platform/timer.h"
 
 namespace tarnwick {
+
+void write_message(const Message& message) { std::cerr << "tarnwick: " << printable(message.text) << '\n'; }
 
 QtDesktop::QtDesktop() {
     use_desktop(this);
@@ -42,12 +48,19 @@ QtDesktop::QtDesktop() {
 }
 
 QtDesktop::~QtDesktop() {
+    // Forms may outlive the toolkit; their views and windows must not.
+    while (!views_.empty()) views_.back()->form().take_view().reset();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     use_desktop(nullptr);
-    // Forms may outlive the toolkit; their windows must not.
-    for (WindowView* view : views_) view->delete_window();
 }
 
 void QtDesktop::remove(WindowView& view) { std::erase(views_, &view); }
+
+void QtDesktop::abandon_windows() {
+    for (const WindowView* view : std::exchange(views_, {})) {
+        static_cast<void>(view->form().take_view().release());
+    }
+}
 
 void QtDesktop::detach_dialogs_of(const QWidget& window) {
     for (const WindowView* view : views_) {
@@ -85,7 +98,11 @@ void QtDesktop::timers_changed() {
     if (!in_event()) arm_timer();
 }
 
-void QtDesktop::event_ended() { arm_timer(); }
+void QtDesktop::event_ended() {
+    arm_timer();
+    // What a message has kept from being settled.
+    if (!front_window()) windows_changed();
+}
 
 void QtDesktop::arm_timer() {
     const std::optional<std::int64_t> due = timer_queue().next_due();
@@ -109,10 +126,13 @@ void QtDesktop::windows_changed() {
 }
 
 void QtDesktop::settle_windows() {
+    // A message that waits for its answer is the last window of the program, whatever happens to the others.
+    if (in_event()) return;
     QWidget* front = front_window();
     if (!front) {
-        help_.reset();
-        QApplication::quit();
+        // Where no event loop runs, the next one, a message's, would end at once. QApplication::quit() is for
+        // those who want the program to end: it asks every window.
+        if (QThread::currentThread()->loopLevel() > 0) QCoreApplication::exit();
         return;
     }
     // A dialog that has gone leaves the keyboard to the window under it. A message keeps it from all of them.
@@ -150,24 +170,49 @@ void QtDesktop::hand_on_keyboard() {
 }
 
 MessageAnswer QtDesktop::show_message(const Message& message) {
-    QMessageBox box(front_window());
-    box.setWindowTitle(to_qt(message.title));
-    box.setTextFormat(Qt::PlainText);
-    box.setText(to_qt(message.text));
+    const QPointer<QMessageBox> box = new QMessageBox(front_window());
+    box->setWindowTitle(to_qt(message.title));
+    box->setTextFormat(Qt::PlainText);
+    box->setText(to_qt(message.text));
     const bool can_cancel = message.buttons == MessageButtons::ok_cancel;
-    box.setStandardButtons(can_cancel ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
-    box.setDefaultButton(QMessageBox::Ok);
-    const bool confirmed = box.exec() == QMessageBox::Ok;
-    // The message may have been shown outside of any event, so that no event's end arms the timer.
+    box->setStandardButtons(can_cancel ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
+    box->setDefaultButton(QMessageBox::Ok);
+    const bool confirmed = ask(*box) == QMessageBox::Ok;
+    delete box;
+    // The message may have been shown outside of any event, so that no event's end comes after it.
     QMetaObject::invokeMethod(
-        &timer_, [this] { timers_changed(); }, Qt::QueuedConnection);
+        &timer_,
+        [this] {
+            if (!in_event()) event_ended();
+        },
+        Qt::QueuedConnection);
     return confirmed ? MessageAnswer::ok : MessageAnswer::cancel;
 }
 
+void QtDesktop::unheard(const Message& message) { write_message(message); }
+
 std::optional<Color> QtDesktop::pick_color() {
-    const QColor picked = QColorDialog::getColor(Qt::white, front_window());
-    if (!picked.isValid()) return std::nullopt;
-    return from_qt(picked);
+    if (!attended()) return std::nullopt;
+    const QPointer<QColorDialog> dialog = new QColorDialog(Qt::white, front_window());
+    const bool picked = ask(*dialog) == QDialog::Accepted;
+    const std::optional<Color> color =
+        picked && dialog ? std::optional(from_qt(dialog->selectedColor())) : std::nullopt;
+    delete dialog;
+    return color;
+}
+
+// Runs a dialog in an event loop of its own. It may be gone afterwards, with the window that it belongs to.
+int QtDesktop::ask(QDialog& dialog) {
+    questions_.emplace_back(&dialog);
+    const int answer = dialog.exec();
+    questions_.pop_back();
+    return answer;
+}
+
+void QtDesktop::cancel_questions() {
+    for (const QPointer<QDialog>& dialog : questions_) {
+        if (dialog) dialog->reject();
+    }
 }
 
 bool QtDesktop::show_help(const std::string& file_name) {

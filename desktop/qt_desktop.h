@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QTimer>
 #include <memory>
 #include <string>
@@ -7,12 +8,16 @@
 
 #include "platform/desktop.h"
 
+class QDialog;
 class QWidget;
 
 namespace tarnwick {
 
 class HelpWindow;
 class WindowView;
+
+/// Writes a message for a player who is not there to the standard error output.
+void write_message(const Message& message);
 
 /// The real desktop. Needs a QApplication, and ends its event loop when no window is left.
 class QtDesktop : public Desktop {
@@ -34,6 +39,11 @@ class QtDesktop : public Desktop {
     /// Keeps track of the views; called by the views.
     void add(WindowView& view) { views_.push_back(&view); }
     void remove(WindowView& view);
+    /// Lets the forms go on without their windows, which stay as they are: the display is lost, and nothing
+    /// of the toolkit may be called any more.
+    void abandon_windows();
+    /// Takes back the messages and colour pickers that wait for an answer; they count as cancelled.
+    void cancel_questions();
     /// Lets the dialogs of a window that is about to go stay on the screen without it.
     void detach_dialogs_of(const QWidget& window);
     /// The window that new dialogs belong to (not one that is about to go), and the front one of all; null
@@ -43,6 +53,7 @@ class QtDesktop : public Desktop {
 
   protected:
     MessageAnswer show_message(const Message& message) override;
+    void unheard(const Message& message) override;
     void event_ended() override;
 
   private:
@@ -50,9 +61,11 @@ class QtDesktop : public Desktop {
     void tick();
     void settle_windows();
     void hand_on_keyboard();
+    int ask(QDialog& dialog);
 
     QTimer timer_;
     std::vector<WindowView*> views_;  ///< in the order in which the windows were loaded
+    std::vector<QPointer<QDialog>> questions_;
     std::unique_ptr<HelpWindow> help_;
 };
 

@@ -17,8 +17,6 @@ WindowView::~WindowView() {
     window_->deleteLater();
 }
 
-void WindowView::delete_window() { delete window_; }
-
 void WindowView::form_changed() {
     if (!form_.visible()) return;
     if (window_) {

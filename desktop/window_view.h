@@ -20,8 +20,6 @@ class WindowView : public FormView {
     Form& form() const { return form_; }
     /// The native window; null before it is first shown.
     QWidget* window() const { return window_; }
-    /// Deletes the native window now.
-    void delete_window();
 
     void form_changed() override;
     void raise() override;

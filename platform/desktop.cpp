@@ -20,7 +20,10 @@ Desktop& desktop() {
 void use_desktop(Desktop* desktop) { in_use = desktop; }
 
 MessageAnswer Desktop::message_box(const Message& message) {
-    if (!attended_) return MessageAnswer::cancel;
+    if (!attended_) {
+        unheard(message);
+        return MessageAnswer::cancel;
+    }
     ++depth_;
     const MessageAnswer answer = show_message(message);
     --depth_;

@@ -60,6 +60,8 @@ class Desktop {
 
   protected:
     virtual MessageAnswer show_message(const Message& message) = 0;
+    /// A message was meant for a player who is not there.
+    virtual void unheard(const Message&) {}
     /// An event has ended.
     virtual void event_ended() {}
 

@@ -31,7 +31,10 @@ PixelSize frame_of(const Form& form) {
 }
 
 Form::Form(std::string name) : name_(std::move(name)), mouse_(*this) {}
-Form::~Form() = default;
+
+// The windows are static and go when no desktop is left to close them: a view that nobody has taken by then,
+// because the process was ended from within the toolkit, must not be called any more.
+Form::~Form() { static_cast<void>(view_.release()); }
 
 std::uint64_t Form::add_widget(Widget& widget) {
     widgets_.push_back(&widget);

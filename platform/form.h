@@ -113,6 +113,9 @@ class Form {
     const std::vector<Widget*>& tab_order() const { return tab_order_; }
 
     FormView* view() const { return view_.get(); }
+    /// Takes the view off the window, which is only kept in memory from then on: for a desktop that goes, or
+    /// that has broken down.
+    std::unique_ptr<FormView> take_view() { return std::move(view_); }
     std::uint64_t next_stacking() { return ++front_; }
     bool is_in_front(const Widget& widget) const { return widget.stacking() == front_; }
     std::uint64_t add_widget(Widget& widget);

@@ -16,7 +16,8 @@ import tempfile
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 DOCUMENTS = ["README.md", "CONTRIBUTING.md"]
 # What a command begins with.
-COMMAND = re.compile(r"bench/run|scripts/\S+\.sh.*|(\./|cmake |cpack |tarnwick |build/|python3 |apt )\S.*")
+COMMAND = re.compile(r"(TARNWICK_[A-Z]+=\S+ )?"
+                     r"(bench/run|scripts/\S+\.sh.*|(\./|cmake |cpack |tarnwick |build/|python3 |apt )\S.*)")
 
 # How each command is run here; SCRATCH is a folder that goes afterwards.
 RUN = {
@@ -32,6 +33,10 @@ RUN = {
     "tarnwick --version": "build/tarnwick --version",
     "build/core_tests --gtest_filter='Undo*'": None,
     "build/desktop_tests --gtest_filter='Drag*'": "build/desktop_tests --gtest_filter='Drag.Escape*'",
+    "TARNWICK_KILLS=1000 build/desktop_tests --gtest_filter='KilledAtItsEnd.*'":
+        "TARNWICK_KILLS=1 build/desktop_tests --gtest_filter='KilledAtItsEnd.*'",
+    "TARNWICK_PROGRAM=build-sanitizers/tarnwick build/desktop_tests --gtest_filter='Menus.*'":
+        "TARNWICK_PROGRAM=build/tarnwick build/desktop_tests --gtest_filter='Menus.Help*'",
     "build/tarnwick-console game.txt": "build/tarnwick-console tests/records/random-01.txt",
     "build/tarnwick-console --signature tests/records/random-*.txt": None,
     "python3 scripts/mutate.py --only game/undo.cpp": "python3 scripts/mutate.py --only game/undo.cpp --check",

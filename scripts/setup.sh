@@ -5,7 +5,9 @@
 BUILD_PACKAGES="g++ cmake ninja-build libsqlite3-dev"
 DESKTOP_PACKAGES="qt6-base-dev qt6-svg-dev libx11-dev libxtst-dev fonts-dejavu-core"
 VIRTUAL_DISPLAY_PACKAGES="xvfb xauth openbox"
-TEST_PACKAGES="libgtest-dev"
+# A Wayland compositor and the toolkit's part of it.
+WAYLAND_PACKAGES="weston qt6-wayland"
+TEST_PACKAGES="libgtest-dev libsm-dev libice-dev"
 # What looks at the installed program, as the desktop does.
 PACKAGE_CHECKS="desktop-file-utils appstream lintian man-db xdotool"
 

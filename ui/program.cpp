@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "game/best_scores.h"
 #include "platform/desktop.h"
 #include "platform/timer.h"
 #include "settings/repair.h"
@@ -24,11 +25,21 @@ std::array<Form*, 6> all_windows() {
     return {&frmcards, &frmyouwin, &frmBestScore, &frmFeatures, &frmError, &frmCommon};
 }
 
+// The game in hand and its entry are stored in one change: whoever waits for the program to end may lose
+// patience and kill it. The main window finds a game that is over.
+void count_game_in_hand() {
+    if (!frmcards.loaded() || phase != Phase::playing || score == 0) return;
+    settings_store().transaction([points = static_cast<int>(score), complete = all_ace_piles_complete()] {
+        if (count_game(points, complete) != none) enter_best_score(points, "");
+    });
+    phase = Phase::table_shown;
+}
+
 // Tries again to store what could not be stored at once, as long as there is anything.
 Timer store_timer{frmcards};
 Store* store_in_use = nullptr;
 
-void attach_store_timer(Store& store) {
+void attach_store(Store& store) {
     store_in_use = &store;
     constexpr int a_second = 1000;
     store_timer.set_interval(a_second);
@@ -40,10 +51,13 @@ void attach_store_timer(Store& store) {
     store.on_waiting = [] { store_timer.set_enabled(true); };
 }
 
-void detach_store_timer() {
+void detach_store() {
     store_timer.set_enabled(false);
     store_timer.on_tick = nullptr;
-    if (store_in_use) store_in_use->on_waiting = nullptr;
+    if (store_in_use) {
+        store_in_use->on_waiting = nullptr;
+        store_in_use->listen(nullptr);
+    }
     store_in_use = nullptr;
 }
 
@@ -66,7 +80,7 @@ void start_program(Store& store) {
         repair_settings(back_count);
         frmcards.show();
     });
-    attach_store_timer(store);
+    attach_store(store);
     store.listen([](const std::string& sentence) {
         desktop().after_event([sentence] { desktop().message_box({"Tarnwick", sentence}); });
     });
@@ -74,11 +88,13 @@ void start_program(Store& store) {
 
 void shut_down_program() {
     desktop().leave_unattended();
-    desktop().event([] {
+    // Each in an event of its own: a window that fails at its end keeps no other from its own.
+    const auto unload = [](Form& form) { desktop().event([&form] { form.unload(); }); };
+    desktop().event([&unload] {
         // The name typed so far is recorded before the main window ends the game: that is counted already.
-        frmyouwin.unload();
-        frmcards.unload();
-        for (Form* form : all_windows()) form->unload();
+        unload(frmyouwin);
+        desktop().event(count_game_in_hand);
+        for (Form* form : all_windows()) unload(*form);
     });
 }
 
@@ -87,7 +103,7 @@ void end_program() {
         form->on_unload = nullptr;
         form->unload();
     }
-    detach_store_timer();
+    detach_store();
     use_store(nullptr);
     // A program starts with its variables zero: the next one must not lay out the cards of this game at
     // first.

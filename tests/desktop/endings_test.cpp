@@ -1,13 +1,14 @@
 #include <gtest/gtest.h>
 
 #include "state/variables.h"
+#include "tests/desktop/tested_program.h"
 #include "tools/driver/board_picture.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr const char* program = TARNWICK_PROGRAM;
+const char* const program = tested_program();
 constexpr int column_of_ace = 4;
 
 // Scores a point for the ace, and one for the card under it.
@@ -33,8 +34,9 @@ TEST(Endings, AClosedGameWithABestScoreStillAsksForTheName) {
 
 TEST(Endings, AfterAnErrorThePlayerClosesTheGame) {
     // A number of games that is no number makes the end of a game fail.
-    TwinGame game({program, 26, {{"games played", "many"}}});
+    TwinGame game({program, 26});
     score_two(game);
+    game.store("games played", "many");
     game.screen().key("F2");
     ASSERT_TRUE(game.gets_keyboard(game.wait_for("Error")));
     // The table is not disabled by an error.

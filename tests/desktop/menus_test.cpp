@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "state/variables.h"
+#include "tests/desktop/tested_program.h"
 #include "tools/driver/board_picture.h"
 #include "tools/driver/eventually.h"
 #include "windows/frmcards.h"
@@ -10,7 +11,7 @@
 namespace tarnwick {
 namespace {
 
-constexpr const char* program = TARNWICK_PROGRAM;
+const char* const program = tested_program();
 
 using Keys = std::vector<std::string>;
 

@@ -168,6 +168,10 @@ void TwinGame::space() {
     frmcards.key_down(' ');
 }
 
+void TwinGame::store(const std::string& key, const std::string& text) const {
+    SqliteStore(store_file_).save("Tarnwick", "setting", key, text);
+}
+
 std::string TwinGame::stored(const std::string& key) const {
     SqliteStore store(store_file_);
     return store.read("Tarnwick", "setting", key).value_or("-");

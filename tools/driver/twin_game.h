@@ -92,6 +92,8 @@ class TwinGame {
 
     /// The stored text of a key, in the file of the real program; "-" when there is none.
     std::string stored(const std::string& key) const;
+    /// Saves a text there, as another program would.
+    void store(const std::string& key, const std::string& text) const;
 
     /// The file that the real program keeps its settings and scores in.
     const std::string& store_file() const { return store_file_; }

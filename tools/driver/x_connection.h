@@ -12,6 +12,10 @@ struct XConnection {
     /// Throws std::runtime_error when there is no such display.
     XConnection() : display(XOpenDisplay(nullptr)) {
         if (!display) throw std::runtime_error("the display cannot be opened");
+        // A display that goes must not take this program with it, as the toolkit's own handler would.
+        XSetIOErrorHandler([](Display*) { return 0; });
+        XSetIOErrorExitHandler(
+            display, [](Display*, void*) {}, nullptr);
     }
     ~XConnection() { XCloseDisplay(display); }
     XConnection(const XConnection&) = delete;

@@ -218,6 +218,11 @@ void XDriver::close(XWindow window) {
     send(window, window, "WM_PROTOCOLS", request, CurrentTime);
 }
 
+void XDriver::cut_off(XWindow window) {
+    XKillClient(connection_->display, window);
+    XSync(connection_->display, False);
+}
+
 void XDriver::minimize(XWindow window) {
     XIconifyWindow(connection_->display, window, DefaultScreen(connection_->display));
     XSync(connection_->display, False);

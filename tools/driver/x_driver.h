@@ -69,6 +69,8 @@ class XDriver {
 
     /// What the window's buttons and edges do.
     void close(XWindow window);
+    /// Breaks the connection that the window's program has to the display.
+    void cut_off(XWindow window);
     void minimize(XWindow window);
     /// Brings the window back, and to the front with the keyboard.
     void restore(XWindow window);
