@@ -6,6 +6,7 @@
 #include <QIcon>
 #include <QLocale>
 #include <QMessageBox>
+#include <QPointer>
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
@@ -13,6 +14,7 @@
 
 #include "desktop/board_accessible.h"
 #include "desktop/board_window.h"
+#include "desktop/color_picker.h"
 #include "desktop/dialog_accessible.h"
 #include "desktop/dialog_window.h"
 #include "desktop/help_window.h"
@@ -164,10 +166,13 @@ MessageAnswer QtDesktop::show_message(const Message& message) {
     return confirmed ? MessageAnswer::ok : MessageAnswer::cancel;
 }
 
-std::optional<Color> QtDesktop::pick_color() {
-    const QColor picked = QColorDialog::getColor(Qt::white, front_window());
-    if (!picked.isValid()) return std::nullopt;
-    return from_qt(picked);
+std::optional<Color> QtDesktop::pick_color(const std::string& title) {
+    const QPointer<QColorDialog> dialog = make_color_picker(Qt::white, to_qt(title), front_window());
+    const bool picked = dialog->exec() == QDialog::Accepted;
+    const std::optional<Color> color =
+        picked && dialog ? std::optional(from_qt(dialog->selectedColor())) : std::nullopt;
+    delete dialog;
+    return color;
 }
 
 bool QtDesktop::show_help(const std::string& file_name) {
