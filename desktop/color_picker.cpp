@@ -28,9 +28,8 @@ QRect beside(const QRect& other, const QSize& size, const QRect& room) {
         const QRect both = side & other;
         return both.width() * both.height();
     };
-    return *std::min_element(sides.begin(), sides.end(), [&](const QRect& a, const QRect& b) {
-        return covered(a) < covered(b);
-    });
+    return *std::min_element(sides.begin(), sides.end(),
+                             [&](const QRect& a, const QRect& b) { return covered(a) < covered(b); });
 }
 
 }  // namespace
