@@ -39,10 +39,11 @@ class ButtonControl : public DialogControl {
 
   private:
     bool fits_in(const QFont& font, const QSizeF& place) const {
-        constexpr int air = 6;
+        constexpr int air = 9;
+        constexpr int border = 6;
         const QFontMetricsF metrics(font);
         return metrics.horizontalAdvance(to_qt(button_.caption())) + 2 * air <= place.width() &&
-               metrics.height() + air <= place.height();
+               metrics.height() + border <= place.height();
     }
 
     const Button& button_;

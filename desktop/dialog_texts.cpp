@@ -98,10 +98,13 @@ class LabelControl : public DialogControl {
     }
 
     // A font with a size of its own belongs to the layout, and gives way where it is too wide. So does the
-    // desktop's where the screen has no room for a larger dialog, but only as far as it can be read, and only
-    // where this saves the text from being cut.
+    // desktop's where the screen has no room for a larger dialog, but only as far as it can be read, a value
+    // not far, and only where this saves the text from being cut.
     QFont fitting_font(const QString& text, const QFont& font, const QSizeF& place) const {
-        const int least = has_own_size() ? 1 : least_readable(font);
+        constexpr qreal least_of_value = 0.75;
+        const int least_of_text =
+            label_.label() ? qRound(least_of_value * size_of(font)) : least_readable(font);
+        const int least = has_own_size() ? 1 : least_of_text;
         const auto fits = [&](const QFont& smaller) { return text_fits(text, smaller, place); };
         const QFont smaller = shrunk(font, least, fits);
         if (fits(smaller) || takes_two_lines(smaller, place)) return smaller;

@@ -10,7 +10,7 @@ inline int size_of(const QFont& font) { return QFontInfo(font).pixelSize(); }
 
 /// The least size, in pixels, at which a text in the desktop's font can still be read.
 inline int least_readable(const QFont& font) {
-    constexpr qreal least_part = 0.75;
+    constexpr qreal least_part = 0.5;
     return qRound(least_part * size_of(font));
 }
 
