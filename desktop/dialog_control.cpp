@@ -1,6 +1,13 @@
 #include "desktop/dialog_control.h"
 
 namespace tarnwick {
+namespace {
+
+std::unique_ptr<DialogControl> make_box_control(TextBox& box, QWidget* parent) {
+    return box.is_swatch() ? make_swatch_control(box, parent) : make_text_box_control(box, parent);
+}
+
+}  // namespace
 
 std::unique_ptr<DialogControl> make_control(Widget& widget, QWidget* parent) {
     switch (widget.kind()) {
@@ -19,7 +26,7 @@ std::unique_ptr<DialogControl> make_control(Widget& widget, QWidget* parent) {
         case WidgetKind::option_button:
             return make_option_control(static_cast<OptionButton&>(widget), parent);
         case WidgetKind::text_box:
-            return make_text_box_control(static_cast<TextBox&>(widget), parent);
+            return make_box_control(static_cast<TextBox&>(widget), parent);
     }
     return nullptr;
 }

@@ -35,6 +35,7 @@ std::unique_ptr<DialogControl> make_control(Widget& widget, QWidget* parent);
 // The makers for the kinds of widgets, used by make_control.
 std::unique_ptr<DialogControl> make_label_control(const Label& label, QWidget* parent);
 std::unique_ptr<DialogControl> make_text_box_control(TextBox& box, QWidget* parent);
+std::unique_ptr<DialogControl> make_swatch_control(TextBox& box, QWidget* parent);
 std::unique_ptr<DialogControl> make_button_control(Button& button, QWidget* parent);
 std::unique_ptr<DialogControl> make_check_box_control(CheckBox& box, QWidget* parent);
 std::unique_ptr<DialogControl> make_option_control(OptionButton& option, QWidget* parent);

@@ -1,12 +1,12 @@
-#include <QFontInfo>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <algorithm>
+#include <limits>
 
-#include "desktop/dialog_accessible.h"
 #include "desktop/dialog_control.h"
+#include "desktop/fitting_font.h"
 #include "desktop/key_codes.h"
 #include "desktop/qt_convert.h"
 #include "platform/form.h"
@@ -18,12 +18,6 @@ constexpr qreal pixels_per_point = 96.0 / 72.0;
 
 // Room between a label's text and what comes after it, in pixels.
 constexpr qreal air = 2;
-
-// How small a text in the desktop's font may become.
-constexpr qreal least_of_desktop_font = 0.75;
-
-// The size of a font in pixels, whichever way it was given.
-int size_of(const QFont& font) { return QFontInfo(font).pixelSize(); }
 
 Qt::Alignment alignment_of(const Label& label) {
     switch (label.alignment()) {
@@ -51,6 +45,23 @@ bool text_fits(const QString& text, const QFont& font, const QSizeF& place) {
     return needed.width() <= place.width() && needed.height() <= place.height();
 }
 
+// A tip that has lines of a readable length, even for a text without a space.
+QString tip_of(const QString& text) {
+    constexpr int longest_word = 30;
+    const QChar may_break(0x200b);
+    QString tip;
+    int word = 0;
+    for (const QChar letter : text) {
+        word = letter.isSpace() ? 0 : word + 1;
+        if (word > longest_word && !letter.isLowSurrogate()) {
+            tip += may_break;
+            word = 1;
+        }
+        tip += letter;
+    }
+    return "<qt>" + tip.toHtmlEscaped() + "</qt>";
+}
+
 class LabelControl : public DialogControl {
   public:
     LabelControl(const Label& label, QLabel* native)
@@ -60,12 +71,8 @@ class LabelControl : public DialogControl {
 
     void sync(qreal scale) override {
         const QSizeF place = native_.size();
-        QFont font = font_at(scale);
         const QString text = to_qt(label_.caption());
-        // A font with a size of its own belongs to the layout, and gives way where it is too wide. So does
-        // the desktop's where the screen has no room for a larger dialog, but only as far as it can be read.
-        const int least = has_own_size() ? 1 : qRound(least_of_desktop_font * size_of(font));
-        while (!text_fits(text, font, place) && size_of(font) > least) font.setPixelSize(size_of(font) - 1);
+        const QFont font = fitting_font(text, font_at(scale), place);
         const bool wraps = takes_two_lines(font, place);
         native_.setFont(font);
         native_.setWordWrap(wraps);
@@ -90,12 +97,27 @@ class LabelControl : public DialogControl {
         return font;
     }
 
+    // A font with a size of its own belongs to the layout, and gives way where it is too wide. So does the
+    // desktop's where the screen has no room for a larger dialog, but only as far as it can be read, a value
+    // not far, and only where this saves the text from being cut.
+    QFont fitting_font(const QString& text, const QFont& font, const QSizeF& place) const {
+        constexpr qreal least_of_value = 0.75;
+        const int least_of_text =
+            label_.label() ? qRound(least_of_value * size_of(font)) : least_readable(font);
+        const int least = has_own_size() ? 1 : least_of_text;
+        const auto fits = [&](const QFont& smaller) { return text_fits(text, smaller, place); };
+        const QFont smaller = shrunk(font, least, fits);
+        if (fits(smaller) || takes_two_lines(smaller, place)) return smaller;
+        return shrunk(font, least,
+                      [&](const QFont& lower) { return QFontMetricsF(lower).height() <= place.height(); });
+    }
+
     // Names can be of any length: what does not fit ends in an ellipsis and can be read in full in a tip.
     void show_text(const QString& text, const QFont& font, const QSizeF& place) {
         const bool elided = !native_.wordWrap() && !text_fits(text, font, place);
         native_.setText(elided ? QFontMetricsF(font).elidedText(text, Qt::ElideRight, place.width() - air)
                                : text);
-        native_.setToolTip(elided ? text.toHtmlEscaped() : QString());
+        native_.setToolTip(elided ? tip_of(text) : QString());
         const Label* title = label_.label();
         // Read out, a value comes after what it is, and nothing is left out.
         native_.setAccessibleName(title ? to_qt(title->caption()) + ' ' + text : text);
@@ -114,10 +136,12 @@ class LabelControl : public DialogControl {
     QLabel& native_;
 };
 
-class LineEdit : public QLineEdit, public Pressable {
+class LineEdit : public QLineEdit {
   public:
     LineEdit(TextBox& box, QWidget* parent) : QLineEdit(parent), box_(box) {
-        connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
+        setMaxLength(std::numeric_limits<int>::max());
+        // Not only what is edited: screen readers and their like set the text.
+        connect(this, &QLineEdit::textChanged, this, [this](const QString& text) {
             box_.type(text.toStdString());
             show_box();
         });
@@ -126,18 +150,7 @@ class LineEdit : public QLineEdit, public Pressable {
     void show_box() {
         const QString text = to_qt(box_.text());
         if (text != this->text()) setText(text);
-        if (!box_.has_colors()) return;
-        QPalette palette = this->palette();
-        palette.setColor(QPalette::Base, to_qt(box_.back_color()));
-        palette.setColor(QPalette::Text, to_qt(box_.text_color()));
-        setPalette(palette);
-        if (is_swatch()) setAccessibleDescription(to_qt(box_.back_color()).name());
     }
-
-    bool takes_presses() const override { return is_swatch(); }
-    void press() override { box_.click(); }
-
-    bool is_swatch() const { return box_.has_colors() && box_.back_color() == box_.text_color(); }
 
   protected:
     void mouseReleaseEvent(QMouseEvent* event) override {
@@ -162,12 +175,12 @@ class TextBoxControl : public DialogControl {
     void sync(qreal) override { native_.show_box(); }
 
     bool fits(const QSizeF& place) const override {
-        return native_.is_swatch() || QFontMetricsF(native_.font()).height() <= place.height();
+        return QFontMetricsF(native_.font()).height() <= place.height();
     }
 
     int least_height() const override {
         constexpr int borders = 6;
-        return native_.is_swatch() ? 0 : native_.fontMetrics().height() + borders;
+        return native_.fontMetrics().height() + borders;
     }
 
   private:

@@ -28,19 +28,30 @@ QRect scaled(const Rect& place, qreal scale) {
                  QPoint(qRound(rect.right() * scale) - 1, qRound(rect.bottom() * scale) - 1));
 }
 
+// KDE's window manager would hide a tool window while another program is in use.
+bool tool_windows_stay() {
+    const QList<QByteArray> desktops = qgetenv("XDG_CURRENT_DESKTOP").split(':');
+    return !desktops.contains("KDE");
+}
+
+Qt::WindowFlags window_type(const Form& form) {
+    return form.border() == FormBorder::tool_dialog && tool_windows_stay() ? Qt::Tool : Qt::Dialog;
+}
+
 }  // namespace
 
 DialogWindow::DialogWindow(Form& form, QWidget* parent)
-    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                          Qt::WindowCloseButtonHint),
+    : QDialog(parent, window_type(form) | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                          Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
       form_(form) {
+    setAttribute(Qt::WA_MacAlwaysShowToolWindow);
     setObjectName(to_qt(form.name()));
     make_controls();
     choose_scale();
     sync();
+    set_tab_order();
     for (const auto& [widget, control] : controls_) widget_changed(*widget);
     name_controls();
-    set_tab_order();
     if (form.centered()) move(screen()->availableGeometry().center() - rect().center());
 }
 

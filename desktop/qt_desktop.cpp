@@ -6,6 +6,7 @@
 #include <QIcon>
 #include <QLocale>
 #include <QMessageBox>
+#include <QPointer>
 #include <QScreen>
 #include <QThread>
 #include <QWindow>
@@ -16,6 +17,7 @@
 
 #include "desktop/board_accessible.h"
 #include "desktop/board_window.h"
+#include "desktop/color_picker.h"
 #include "desktop/dialog_accessible.h"
 #include "desktop/dialog_window.h"
 #include "desktop/help_window.h"
@@ -191,9 +193,9 @@ MessageAnswer QtDesktop::show_message(const Message& message) {
 
 void QtDesktop::unheard(const Message& message) { write_message(message); }
 
-std::optional<Color> QtDesktop::pick_color() {
+std::optional<Color> QtDesktop::pick_color(const std::string& title) {
     if (!attended()) return std::nullopt;
-    const QPointer<QColorDialog> dialog = new QColorDialog(Qt::white, front_window());
+    const QPointer<QColorDialog> dialog = make_color_picker(Qt::white, to_qt(title), front_window());
     const bool picked = ask(*dialog) == QDialog::Accepted;
     const std::optional<Color> color =
         picked && dialog ? std::optional(from_qt(dialog->selectedColor())) : std::nullopt;

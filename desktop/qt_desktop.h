@@ -33,7 +33,7 @@ class QtDesktop : public Desktop {
     std::unique_ptr<FormView> make_view(Form& form) override;
     void timers_changed() override;
     void windows_changed() override;
-    std::optional<Color> pick_color() override;
+    std::optional<Color> pick_color(const std::string& title) override;
     bool show_help(const std::string& file_name) override;
 
     /// Keeps track of the views; called by the views.

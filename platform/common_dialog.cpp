@@ -10,7 +10,7 @@ void CommonDialog::show_help() {
 }
 
 void CommonDialog::show_color() {
-    const std::optional<Color> picked = desktop().pick_color();
+    const std::optional<Color> picked = desktop().pick_color(title_);
     if (picked) {
         color_ = *picked;
     } else if (cancel_error_) {

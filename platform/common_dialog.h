@@ -26,6 +26,8 @@ class CommonDialog {
     void show_help();
 
     void set_flags(int flags) { flags_ = flags; }
+    /// The title of the colour dialog: what gets the colour.
+    void set_title(const std::string& title) { title_ = title; }
     /// Lets the player pick a colour, which color() tells then. Throws CommonDialogError on cancel.
     void show_color();
     Color color() const { return color_; }
@@ -35,6 +37,7 @@ class CommonDialog {
 
   private:
     std::string help_file_;
+    std::string title_;
     int help_command_ = 0;
     int flags_ = 0;
     Color color_ = black;

@@ -138,8 +138,9 @@ class TextBox : public Widget {
     bool has_colors() const { return has_colors_; }
     Color back_color() const { return back_color_; }
     Color text_color() const { return text_color_; }
-    /// Colours of the box; a box with both the same is a swatch.
+    /// Colours of the box; a box with both the same is a swatch: nothing can be read in it.
     void set_colors(Color back, Color text);
+    bool is_swatch() const { return has_colors_ && back_color_ == text_color_; }
 
     std::function<void()> on_change;
     std::function<void()> on_click;

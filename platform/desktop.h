@@ -40,8 +40,8 @@ class Desktop {
     /// A window was shown or unloaded.
     virtual void windows_changed() {}
 
-    /// Lets the player pick a colour; nothing when the player cancels.
-    virtual std::optional<Color> pick_color() = 0;
+    /// Lets the player pick a colour, whose name is the title; nothing when the player cancels.
+    virtual std::optional<Color> pick_color(const std::string& title) = 0;
     /// Shows a help file, looked for where the program's files are; false when it is not found.
     virtual bool show_help(const std::string& file_name) = 0;
 

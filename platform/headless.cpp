@@ -10,7 +10,7 @@ HeadlessDesktop::HeadlessDesktop(PixelSize screen) : screen_(screen) { use_deskt
 
 HeadlessDesktop::~HeadlessDesktop() { use_desktop(nullptr); }
 
-std::optional<Color> HeadlessDesktop::pick_color() {
+std::optional<Color> HeadlessDesktop::pick_color(const std::string&) {
     if (colors_.empty()) return std::nullopt;
     const Color color = colors_.front();
     colors_.pop_front();

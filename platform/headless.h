@@ -21,7 +21,7 @@ class HeadlessDesktop : public Desktop {
     std::int64_t now() const override { return now_; }
     std::string short_date() const override { return date_; }
     std::unique_ptr<FormView> make_view(Form&) override { return nullptr; }
-    std::optional<Color> pick_color() override;
+    std::optional<Color> pick_color(const std::string& title) override;
     /// There are no help files.
     bool show_help(const std::string&) override { return false; }
 

@@ -94,6 +94,7 @@ void load() {
 void pick_color(TextBox& swatch, const char* key) {
     frmCommon.load();
     CommonDialog& dialog = frmCommon.CommonDialog1;
+    dialog.set_title(swatch.label()->caption());
     dialog.set_cancel_error(true);
     try {
         constexpr int start_with_color = 1;

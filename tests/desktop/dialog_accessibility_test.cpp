@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QLineEdit>
 #include <QTimer>
 
 #include "state/variables.h"
@@ -91,7 +92,10 @@ TEST(DialogAccessibility, PressesPicturesAndDescribesSwatches) {
     EXPECT_TRUE(comes_true([] { return frmFeatures.optCardBack(3).on(); }));
 
     QAccessibleInterface& swatch = *find_child(accessible(frmFeatures), "Background Color");
-    EXPECT_EQ(swatch.text(QAccessible::Description), "#008000");
+    EXPECT_EQ(swatch.role(), QAccessible::Button);
+    EXPECT_EQ(swatch.text(QAccessible::Description), "green");
+    frmFeatures.txtBackColor.set_colors(color_of(1, 2, 254), color_of(1, 2, 254));
+    EXPECT_EQ(swatch.text(QAccessible::Description), "#0102fe");
     bool opened = false;
     QTimer closer;
     QObject::connect(&closer, &QTimer::timeout, &closer, [&opened] {
@@ -100,6 +104,40 @@ TEST(DialogAccessibility, PressesPicturesAndDescribesSwatches) {
     closer.start(10);
     press(swatch);
     EXPECT_TRUE(comes_true([&opened] { return opened; })) << "the colour picker";
+}
+
+TEST(DialogAccessibility, EntersANameOfAnyLength) {
+    InnerGame game(26);
+    frmyouwin.show();
+    QWidget& box = *shown_widget("frmyouwin")->findChild<QLineEdit*>();
+    QAccessibleInterface& spoken = *QAccessible::queryAccessibleInterface(&box);
+    for (const std::string& name : {std::string("Ada"), std::string(100000, 'a')}) {
+        spoken.setText(QAccessible::Value, to_qt(name));
+        EXPECT_EQ(frmyouwin.txtYourName.text(), name);
+    }
+    spoken.editableTextInterface()->replaceText(0, 100000, "Grace");
+    EXPECT_EQ(frmyouwin.txtYourName.text(), "Grace");
+}
+
+TEST(DialogAccessibility, PressesNoButtonBehindAMessage) {
+    InnerGame game(26);
+    frmBestScore.show();
+    QAccessibleInterface& clear = *find_child(accessible(frmBestScore), "Clear Score");
+    int questions = 0;
+    QTimer answer;
+    QObject::connect(&answer, &QTimer::timeout, &answer, [&] {
+        QWidget* const question = QApplication::activeModalWidget();
+        if (!question) return;
+        ++questions;
+        if (questions == 1) press(clear);
+        if (questions == 20) answer.stop();
+        if (questions >= 20) question->close();
+    });
+    answer.start(20);
+    press(clear);
+    ASSERT_TRUE(comes_true([&] { return questions == 20; }));
+    settle();
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "one question was asked";
 }
 
 }  // namespace

@@ -13,8 +13,8 @@ namespace {
 const char* const program = tested_program();
 constexpr const char* settings_title = "Select Settings";
 
-// Clicks in the middle of a control, wherever the dialog is and however much it is enlarged.
-void click_control(TwinGame& game, XWindow dialog, const Widget& control) {
+// The middle of a control on the screen, wherever the dialog is and however much it is enlarged.
+Spot middle(TwinGame& game, XWindow dialog, const Widget& control) {
     const XPlace place = game.screen().place(dialog);
     const float scale =
         static_cast<float>(place.width) / static_cast<float>(control.form().client_size().width);
@@ -24,7 +24,12 @@ void click_control(TwinGame& game, XWindow dialog, const Widget& control) {
         x += control.container()->left();
         y += control.container()->top();
     }
-    game.screen().click(place.x + static_cast<int>(x * scale), place.y + static_cast<int>(y * scale));
+    return {place.x + static_cast<int>(x * scale), place.y + static_cast<int>(y * scale)};
+}
+
+void click_control(TwinGame& game, XWindow dialog, const Widget& control) {
+    const Spot spot = middle(game, dialog, control);
+    game.screen().click(spot.x, spot.y);
 }
 
 // Opens the settings in both games.
@@ -87,16 +92,22 @@ TEST(Settings, AreLeftAloneByCancelEscapeAndCloseBox) {
 TEST(Settings, AColorIsPickedInADialogOfItsOwn) {
     TwinGame game({program, 26});
     const XWindow dialog = open_settings(game);
+    const std::string title = "Background Color";
     click_control(game, dialog, frmFeatures.txtBackColor);
-    const XWindow picker = game.wait_for("Select Color");
+    const XWindow picker = game.wait_for(title);
     ASSERT_TRUE(game.gets_keyboard(picker));
+    const XPlace seen = game.screen().place(picker);
+    const Spot swatch = middle(game, dialog, frmFeatures.txtBackColor);
+    EXPECT_FALSE(swatch.x >= seen.x && swatch.x < seen.x + seen.width && swatch.y >= seen.y &&
+                 swatch.y < seen.y + seen.height)
+        << "the picker covers the swatch";
     game.screen().key("Escape");
-    ASSERT_TRUE(game.goes("Select Color"));
+    ASSERT_TRUE(game.goes(title));
     EXPECT_EQ(game.stored("back color"), "-");
     click_control(game, dialog, frmFeatures.txtBackColor);
-    ASSERT_TRUE(game.gets_keyboard(game.wait_for("Select Color")));
+    ASSERT_TRUE(game.gets_keyboard(game.wait_for(title)));
     game.screen().key("Return");
-    ASSERT_TRUE(game.goes("Select Color"));
+    ASSERT_TRUE(game.goes(title));
     EXPECT_TRUE(eventually([&] { return game.stored("back color") == "16777215"; }))
         << "the picker begins with white";
     ASSERT_TRUE(game.gets_keyboard(dialog));
@@ -104,6 +115,42 @@ TEST(Settings, AColorIsPickedInADialogOfItsOwn) {
     ASSERT_TRUE(game.goes(settings_title));
     frmFeatures.cmdCancel.click();
     EXPECT_EQ(board_faults(game), "") << "cancelled, the table keeps its colour";
+}
+
+TEST(Settings, AColorIsPickedWithTheKeysOfAButtonOrACharacter) {
+    TwinGame game({program, 26});
+    const XWindow dialog = open_settings(game);
+    for (const char* key : {"space", "Return", "x"}) {
+        game.screen().key("BackSpace");
+        game.screen().key(key);
+        ASSERT_TRUE(game.gets_keyboard(game.wait_for("Background Color"))) << key;
+        game.screen().key("Escape");
+        ASSERT_TRUE(game.goes("Background Color"));
+        ASSERT_TRUE(game.gets_keyboard(dialog));
+    }
+    game.screen().key("Tab");
+    game.screen().key("space");
+    EXPECT_TRUE(game.gets_keyboard(game.wait_for("Text Color")));
+}
+
+TEST(Settings, TheBackIsChosenWithArrowKeysFromOneStopOfTab) {
+    TwinGame game({program, 26});
+    const std::vector<std::pair<std::vector<std::string>, std::string>> ways{
+        {{"Left"}, "5"},
+        {{"Down", "Up", "Up"}, "4"},
+        {{"Right", "Right", "Down"}, "1"},
+        {{"Tab", "shift+Tab", "Right"}, "2"},
+        {{"shift+Tab", "Tab", "Right"}, "3"},
+    };
+    for (const auto& [keys, back] : ways) {
+        open_settings(game);
+        game.screen().key("shift+Tab");
+        for (const std::string& key : keys) game.screen().key(key);
+        game.screen().key("Return");
+        ASSERT_TRUE(game.goes(settings_title));
+        frmFeatures.unload();
+        EXPECT_EQ(game.stored("card back"), back) << keys[0];
+    }
 }
 
 TEST(Settings, OneThatCannotBeUsedIsToldAndReplaced) {

@@ -45,7 +45,7 @@ const std::map<QString, std::function<void()>>& windows() {
          [] {
              desktop().message_box({"Tarnwick", "This pile needs the other Seven of Hearts."});
          }},
-        {"colour", [] { desktop().pick_color(); }},
+        {"colour", [] { desktop().pick_color("Background Color"); }},
     };
     return all;
 }

@@ -1,0 +1,64 @@
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QTextDocument>
+
+#include "tests/desktop/inner_game.h"
+#include "windows/frmBestScore.h"
+#include "windows/frmError.h"
+#include "windows/frmcards.h"
+
+namespace tarnwick {
+namespace {
+
+QLabel* label_with_tip(const Form& form) {
+    for (QLabel* label : shown_widget(form.name())->findChildren<QLabel*>()) {
+        if (!label->toolTip().isEmpty()) return label;
+    }
+    return nullptr;
+}
+
+TEST(DialogWindow, CutsALongNameAtFullSizeAndShowsTheRestInATip) {
+    InnerGame game(26);
+    frmBestScore.show();
+    const QFont full = shown_widget(frmBestScore.name())->font();
+    const std::string words = "Wilhelmina & Grace <Featherstonehaugh> of Upper &lt; Tarnwick by the Water ";
+    for (const std::string& name : {words + words, std::string(200, 'W')}) {
+        frmBestScore.lblHighScoreName(1).set_caption(name);
+        const QLabel* label = label_with_tip(frmBestScore);
+        ASSERT_NE(label, nullptr);
+        EXPECT_EQ(label->font().pixelSize(), full.pixelSize());
+        EXPECT_EQ(label->font().pointSizeF(), full.pointSizeF());
+        EXPECT_TRUE(label->text().endsWith(QChar(0x2026))) << label->text().toStdString();
+        QTextDocument tip;
+        tip.setHtml(label->toolTip());
+        EXPECT_EQ(tip.toPlainText().remove(QChar(0x200b)).trimmed().toStdString(),
+                  to_qt(name).trimmed().toStdString());
+        constexpr qreal screen_width = 1000;
+        tip.setTextWidth(screen_width / 2);
+        EXPECT_LE(tip.size().width(), screen_width) << "the tip has lines";
+    }
+}
+
+TEST(DialogWindow, ToldOfAnErrorIsAToolWindowThatOutlivesTheMainWindow) {
+    for (const auto& [desktop_name, type] : {std::pair{"GNOME", Qt::Tool}, {"old:KDE", Qt::Dialog}}) {
+        qputenv("XDG_CURRENT_DESKTOP", desktop_name);
+        InnerGame game(26);
+        frmError.show();
+        EXPECT_EQ(shown_widget("frmError")->windowType(), type) << desktop_name;
+        frmcards.unload();
+        settle();
+        QWidget* const dialog = shown_widget("frmError");
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_EQ(dialog->windowType(), type);
+        EXPECT_FALSE(dialog->windowFlags() & Qt::WindowMinMaxButtonsHint);
+        EXPECT_TRUE(comes_true([&] { return dialog->isActiveWindow(); }));
+        press(*QAccessible::queryAccessibleInterface(dialog)->childAt(
+            dialog->mapToGlobal(QPoint(0, 0)).x() + 30, dialog->mapToGlobal(QPoint(0, 0)).y() + 75));
+        EXPECT_TRUE(comes_true([] { return !frmError.loaded(); })) << "its buttons work";
+    }
+    qunsetenv("XDG_CURRENT_DESKTOP");
+}
+
+}  // namespace
+}  // namespace tarnwick
