@@ -149,6 +149,7 @@ TEST(Settings, TheBackIsChosenWithArrowKeysFromOneStopOfTab) {
         game.screen().key("Return");
         ASSERT_TRUE(game.goes(settings_title));
         frmFeatures.unload();
+        ASSERT_TRUE(game.gets_keyboard(game.window()));
         EXPECT_EQ(game.stored("card back"), back) << keys[0];
     }
 }

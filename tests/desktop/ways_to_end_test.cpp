@@ -70,7 +70,7 @@ void open_settings(TwinGame& game) {
 
 void pick_a_color(TwinGame& game) {
     open_settings(game);
-    open(game, {"Tab", "space"}, "Select Color");
+    open(game, {"space"}, "Background Color");
 }
 
 void ask_to_clear(TwinGame& game) {
@@ -175,7 +175,7 @@ TEST(WaysToEnd, EveryWindowGoesBeforeItsDesktop) {
     ASSERT_TRUE(game.bring_to_front(game.window()));
     pick_a_color(game);
     game.screen().key("Escape");
-    ASSERT_TRUE(game.goes("Select Color"));
+    ASSERT_TRUE(game.goes("Background Color"));
     ASSERT_TRUE(game.gets_keyboard(game.wait_for("Select Settings")));
     game.screen().key("Escape");
     ASSERT_TRUE(game.goes("Select Settings"));
