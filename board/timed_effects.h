@@ -4,8 +4,8 @@ namespace tarnwick {
 
 // Ending the three timed effects of the table: twinkle, peek and slide.
 
-/// Ends all of them where they are: the ace of Spades plain, the peeked card on its face, the sliding card
-/// left where it is.
+/// Ends all of them where they are: the ace of Spades plain, the peeked card covered again, the sliding card
+/// left where it is, for whoever deals or lays out the cards anew.
 void stop_effects();
 
 /// Puts the card back on the face-down card that is being peeked at.

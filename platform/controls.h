@@ -107,7 +107,8 @@ class CheckBox : public Widget {
     bool checked_ = false;
 };
 
-/// One of several choices; putting one on puts the others of its family off (see choose_option).
+/// One of several choices. Putting one on leaves the others as they are: that is up to whoever answers its
+/// click.
 class OptionButton : public Widget {
   public:
     explicit OptionButton(Form& form) : Widget(form, WidgetKind::option_button) {}

@@ -67,7 +67,7 @@ MUTATIONS = {
         ("return card_rank == ace;", "return card_rank <= two;", "a two opens an ace pile"),
         ("return card_suit != pile_suit;", "return false;", "an ace pile takes any suit"),
         ("rank == top + 1", "rank >= top + 1", "an ace pile takes a card too high"),
-        ("top == ace && rank == two", "top == ace && rank <= three", "a three lies on an ace"),
+        ("top == ace && rank == two", "top == ace && rank <= two + 1", "a three lies on an ace"),
         ("175 * x_scale", "170 * x_scale", "slides take more steps"),
         ("+ 3 +", "+ 2 +", "slides from columns take a step less"),
         ("2 * p + 3", "2 * p + 4", "slides from the tablet take a step more"),

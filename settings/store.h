@@ -57,7 +57,7 @@ class Store {
     std::string untold_;
 };
 
-/// A store in memory: for tests, and for a player whose disk takes nothing.
+/// A store in memory, for tests and for games that are played headless.
 class MemoryStore : public Store {
   public:
     std::optional<std::string> read(const std::string& application, const std::string& section,

@@ -6,7 +6,6 @@ namespace tarnwick {
 
 inline constexpr int ace = 0;
 inline constexpr int two = 1;
-inline constexpr int three = 2;
 inline constexpr int jack = 10;
 inline constexpr int queen = 11;
 inline constexpr int king = 12;

@@ -137,6 +137,4 @@ std::string state_faults() {
     return inspection.faults();
 }
 
-bool state_is_sound() { return state_faults().empty(); }
-
 }  // namespace tarnwick

@@ -9,9 +9,6 @@ namespace tarnwick {
 /// with the cards, and the score is the one that the state earns.
 std::string state_faults();
 
-/// Whether state_faults() finds nothing.
-bool state_is_sound();
-
 /// The score that belongs to the state: a point for each card that has left the tablet, lies on an ace pile
 /// or was turned up, and the bonus once all four aces lie.
 int score_of_state();

@@ -16,7 +16,8 @@
 namespace tarnwick {
 namespace {
 
-// The window leaves this much of the screen free, and is never designed for less than the smallest screen.
+// The window leaves this much of the screen free; where the screen is narrower than the smallest window, that
+// is taken all the same.
 constexpr int screen_margin = 10;
 constexpr PixelSize smallest_window{800, 600};
 

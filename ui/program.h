@@ -13,7 +13,8 @@ void start_program(Store& store);
 /// and the end of a session or of the display.
 void shut_down_program();
 
-/// Unloads every window and forgets desktop timers and store, so that the program can be started again.
+/// Unloads every window without running what it does at its end, and forgets the store, so that the program
+/// can be started again.
 void end_program();
 
 }  // namespace tarnwick
