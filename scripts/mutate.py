@@ -129,7 +129,6 @@ MUTATIONS = {
     "game/end_game.cpp": [
         ("if (score != 0) ", "", "a game without a point is counted"),
         ("if (phase == Phase::playing) {", "{", "a game is counted again behind its dialogs"),
-        ("if (closing) return;", "", "a closing program deals"),
         ("if (all_ace_piles_complete()) end_game", "end_game", "a King taken back in time does not keep the game"),
         ("if (frmcards.enabled()) new_game", "new_game", "the next game is dealt behind the win dialog"),
     ],
