@@ -129,7 +129,8 @@ MUTATIONS = {
     "game/end_game.cpp": [
         ("if (score != 0) ", "", "a game without a point is counted"),
         ("if (phase == Phase::playing) {", "{", "a game is counted again behind its dialogs"),
-        ("if (all_ace_piles_complete()) end_game", "end_game", "a King taken back in time does not keep the game"),
+        ("    if (slide_cut_short) land_slide();\n", "", "a card hangs in the air behind the win dialog"),
+        ("    if (!wins || !all_ace_piles_complete()) return false;", "    return false;", "a slide cut short loses the win"),
         ("if (frmcards.enabled()) new_game", "new_game", "the next game is dealt behind the win dialog"),
     ],
     "game/tablet.cpp": [
