@@ -4,6 +4,7 @@
 #include "game/best_scores.h"
 #include "game/deal.h"
 #include "platform/desktop.h"
+#include "settings/settings.h"
 #include "state/routine.h"
 #include "windows/frmcards.h"
 #include "windows/frmyouwin.h"
@@ -11,13 +12,17 @@
 namespace tarnwick {
 namespace {
 
-// A best score waits for the name of the player; where nobody is there to type it, it is entered without.
-void finish_counting(int place, bool slide_cut_short) {
+// Where nobody is there to type a name, the entry is made without one, and in one change with the count:
+// whoever waits for the program to end may lose patience and kill it.
+void count_unattended() {
+    settings_transaction([points = static_cast<int>(score), complete = all_ace_piles_complete()] {
+        if (count_game(points, complete) != none) enter_best_score(points, "");
+    });
+}
+
+void count_and_ask_for_name(bool slide_cut_short) {
+    const int place = count_game(score, all_ace_piles_complete());
     if (place == none) return;
-    if (!desktop().attended()) {
-        enter_best_score(score, "");
-        return;
-    }
     phase = Phase::name_asked;
     // The table is seen behind the dialog, and its cards must lie where they belong.
     if (slide_cut_short) land_slide();
@@ -34,9 +39,8 @@ void end_game() {
     reporting("end_game", [&ended, slide_cut_short] {
         if (phase == Phase::playing) {
             stop_effects();
-            if (score != 0) {
-                finish_counting(count_game(score, all_ace_piles_complete()), slide_cut_short);
-            }
+            if (score != 0)
+                desktop().attended() ? count_and_ask_for_name(slide_cut_short) : count_unattended();
             if (frmcards.enabled()) new_game();
         }
         ended = true;

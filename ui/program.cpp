@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "game/best_scores.h"
 #include "platform/desktop.h"
 #include "platform/timer.h"
 #include "settings/repair.h"
@@ -23,16 +22,6 @@ namespace {
 
 std::array<Form*, 6> all_windows() {
     return {&frmcards, &frmyouwin, &frmBestScore, &frmFeatures, &frmError, &frmCommon};
-}
-
-// The game in hand and its entry are stored in one change: whoever waits for the program to end may lose
-// patience and kill it. The main window finds a game that is over.
-void count_game_in_hand() {
-    if (!frmcards.loaded() || phase != Phase::playing || score == 0) return;
-    settings_store().transaction([points = static_cast<int>(score), complete = all_ace_piles_complete()] {
-        if (count_game(points, complete) != none) enter_best_score(points, "");
-    });
-    phase = Phase::table_shown;
 }
 
 // Tries again to store what could not be stored at once, as long as there is anything.
@@ -93,7 +82,6 @@ void shut_down_program() {
     desktop().event([&unload] {
         // The name typed so far is recorded before the main window ends the game: that is counted already.
         unload(frmyouwin);
-        desktop().event(count_game_in_hand);
         for (Form* form : all_windows()) unload(*form);
     });
 }

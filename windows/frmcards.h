@@ -10,10 +10,11 @@
 namespace tarnwick {
 
 /// The numbers of the images in Image1: each has one fixed role.
-inline constexpr int stock_image = 0;              ///< the face-down stock of the tablet
-inline constexpr int first_ace_zone = 1;           ///< drop zones of the ace piles 0 to 3
-inline constexpr int empty_waste_image = 5;        ///< "no card turned up"
-inline constexpr int first_column_zone = 20;       ///< drop zones of columns 0 to 9, under their cards and on below them
+inline constexpr int stock_image = 0;        ///< the face-down stock of the tablet
+inline constexpr int first_ace_zone = 1;     ///< drop zones of the ace piles 0 to 3
+inline constexpr int empty_waste_image = 5;  ///< "no card turned up"
+inline constexpr int first_column_zone =
+    20;  ///< drop zones of columns 0 to 9, under their cards and on below them
 inline constexpr int first_face_down_image = 100;  ///< 100 + 10c + k: face-down card k of column c
 inline constexpr int first_face_image = 200;       ///< 200 to 299: the faces; the index is the picture number
 inline constexpr int last_face_image = 299;

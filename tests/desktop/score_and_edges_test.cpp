@@ -67,7 +67,8 @@ TEST(ScrollBar, CoversNoCardAtRest) {
     auto* bar = board->findChild<QScrollBar*>();
     for (const int width : {640, 800, 1200}) {
         board->window()->resize(width, 300);
-        ASSERT_TRUE(comes_true([&] { return board->width() == width && bar->maximum() > 0 && bar->isVisible(); }));
+        ASSERT_TRUE(
+            comes_true([&] { return board->width() == width && bar->maximum() > 0 && bar->isVisible(); }));
         ASSERT_TRUE(comes_true([&] { return bar->geometry().right() == width - 1; }));
         for (int pile : {9, 15}) {
             const Rect place = (pile == 15 ? frmcards.Shape1(3).place() : top_image(pile).place());
