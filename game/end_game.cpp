@@ -4,21 +4,12 @@
 #include "game/best_scores.h"
 #include "game/deal.h"
 #include "platform/desktop.h"
-#include "settings/settings.h"
 #include "state/routine.h"
 #include "windows/frmcards.h"
 #include "windows/frmyouwin.h"
 
 namespace tarnwick {
 namespace {
-
-// Where nobody is there to type a name, the entry is made without one, and in one change with the count:
-// whoever waits for the program to end may lose patience and kill it.
-void count_unattended() {
-    settings_transaction([points = static_cast<int>(score), complete = all_ace_piles_complete()] {
-        if (count_game(points, complete) != none) enter_best_score(points, "");
-    });
-}
 
 void count_and_ask_for_name() {
     const int place = count_game(score, all_ace_piles_complete());
@@ -29,6 +20,15 @@ void count_and_ask_for_name() {
     frmyouwin.show();
 }
 
+void count() {
+    if (desktop().attended()) {
+        count_and_ask_for_name();
+    } else {
+        // In one change: whoever waits for the program to end may lose patience and kill it.
+        count_and_enter_game(score, all_ace_piles_complete());
+    }
+}
+
 }  // namespace
 
 void end_game() {
@@ -37,7 +37,7 @@ void end_game() {
     reporting("end_game", [&ended] {
         if (phase == Phase::playing) {
             stop_effects();
-            if (score != 0) desktop().attended() ? count_and_ask_for_name() : count_unattended();
+            if (score != 0) count();
             if (frmcards.enabled()) new_game();
         }
         ended = true;
