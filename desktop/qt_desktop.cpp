@@ -41,6 +41,11 @@ QtDesktop::QtDesktop() {
     QApplication::setLayoutDirection(Qt::LeftToRight);
     install_board_accessibility();
     install_dialog_accessibility();
+    QObject::connect(&background_, &QTimer::timeout, &background_, [this] {
+        // A copy: it may end itself.
+        const std::function<void()> action = background_action_;
+        if (action) action();
+    });
     timer_.setSingleShot(true);
     timer_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { tick(); });
@@ -120,6 +125,15 @@ void QtDesktop::tick() {
     if (in_event()) return;
     timer_queue().run_due();
     arm_timer();
+}
+
+void QtDesktop::run_in_background(std::function<void()> action) {
+    background_action_ = std::move(action);
+    if (background_action_) {
+        background_.start(std::chrono::seconds(1));
+    } else {
+        background_.stop();
+    }
 }
 
 void QtDesktop::windows_changed() {

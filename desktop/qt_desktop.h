@@ -33,6 +33,7 @@ class QtDesktop : public Desktop {
     std::unique_ptr<FormView> make_view(Form& form) override;
     void timers_changed() override;
     void windows_changed() override;
+    void run_in_background(std::function<void()> action) override;
     std::optional<Color> pick_color(const std::string& title) override;
     bool show_help(const std::string& file_name) override;
 
@@ -64,6 +65,8 @@ class QtDesktop : public Desktop {
     int ask(QDialog& dialog);
 
     QTimer timer_;
+    QTimer background_;
+    std::function<void()> background_action_;
     std::vector<WindowView*> views_;  ///< in the order in which the windows were loaded
     std::vector<QPointer<QDialog>> questions_;
     std::unique_ptr<HelpWindow> help_;

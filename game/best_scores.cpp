@@ -64,6 +64,16 @@ int count_game(int points, bool complete) {
     return found->place;
 }
 
+void count_and_enter_game(int points, bool complete) {
+    settings_transaction([=, date = desktop().short_date()] {
+        add_to_setting(key_games_played, 1);
+        add_to_setting(key_average_score, points);
+        const int place = place_of(points);
+        if (complete && place == 1) add_to_setting(key_games_won, 1);
+        if (place != none) write_entry(place, points, "", date);
+    });
+}
+
 int enter_best_score(int points, const std::string& name) {
     const auto place = std::make_shared<int>(none);
     settings_transaction(

@@ -10,6 +10,10 @@ namespace tarnwick {
 /// nothing is counted then.
 int count_game(int points, bool complete);
 
+/// Counts a game and enters its score, if that has a place, without a name: one change of the store or none.
+/// Throws ConversionError as count_game does.
+void count_and_enter_game(int points, bool complete);
+
 /// Enters a score into the table at the place that it takes by now, with today's date; what it beats moves
 /// down. Returns the place, or none where other games have taken the last one meanwhile, of which the player
 /// is told. Throws ConversionError as count_game does.

@@ -4,21 +4,12 @@
 #include "game/best_scores.h"
 #include "game/deal.h"
 #include "platform/desktop.h"
-#include "settings/settings.h"
 #include "state/routine.h"
 #include "windows/frmcards.h"
 #include "windows/frmyouwin.h"
 
 namespace tarnwick {
 namespace {
-
-// Where nobody is there to type a name, the entry is made without one, and in one change with the count:
-// whoever waits for the program to end may lose patience and kill it.
-void count_unattended() {
-    settings_transaction([points = static_cast<int>(score), complete = all_ace_piles_complete()] {
-        if (count_game(points, complete) != none) enter_best_score(points, "");
-    });
-}
 
 void count_and_ask_for_name(bool slide_cut_short) {
     const int place = count_game(score, all_ace_piles_complete());
@@ -31,6 +22,15 @@ void count_and_ask_for_name(bool slide_cut_short) {
     frmyouwin.show();
 }
 
+void count(bool slide_cut_short) {
+    if (desktop().attended()) {
+        count_and_ask_for_name(slide_cut_short);
+    } else {
+        // In one change: whoever waits for the program to end may lose patience and kill it.
+        count_and_enter_game(score, all_ace_piles_complete());
+    }
+}
+
 }  // namespace
 
 void end_game() {
@@ -39,8 +39,7 @@ void end_game() {
     reporting("end_game", [&ended, slide_cut_short] {
         if (phase == Phase::playing) {
             stop_effects();
-            if (score != 0)
-                desktop().attended() ? count_and_ask_for_name(slide_cut_short) : count_unattended();
+            if (score != 0) count(slide_cut_short);
             if (frmcards.enabled()) new_game();
         }
         ended = true;

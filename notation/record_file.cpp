@@ -60,6 +60,8 @@ bool write_whole(int descriptor, const std::string& text) {
 fs::path place_of(fs::path path) {
     constexpr int most_links = 40;
     std::error_code failure;
+    // What does not exist yet would stay as it is named.
+    path = fs::absolute(path, failure);
     for (int links = 0; links < most_links && fs::is_symlink(fs::symlink_status(path, failure)); ++links) {
         path = path.parent_path() / fs::read_symlink(path, failure);
     }

@@ -42,10 +42,10 @@ void Desktop::run_guarded(const std::function<void()>& handler) {
     try {
         handler();
     } catch (const std::exception& failure) {
-        message_box({"Tarnwick",
-                     std::string("Something unexpected happened (") + failure.what() +
-                         "). You can play on, or start a new game with F2.",
-                     MessageButtons::ok});
+        const std::string what = std::string("Something unexpected happened (") + failure.what() + ")";
+        const char* advice = attended_ ? ". You can play on, or start a new game with F2."
+                                       : " while the program ended: its last game may not be counted.";
+        message_box({"Tarnwick", what + advice, MessageButtons::ok});
     }
 }
 

@@ -55,6 +55,9 @@ class Desktop {
     /// program goes on. Timers do not tick meanwhile.
     void event(const std::function<void()>& handler);
     bool in_event() const { return depth_ > 0; }
+    /// Runs an action every second, messages or not, until another one, or null, takes its place. What it
+    /// does must be no business of the windows.
+    virtual void run_in_background(std::function<void()> action) = 0;
     /// Runs an action after the current event, or at once where there is none.
     void after_event(std::function<void()> action);
 

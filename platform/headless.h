@@ -21,6 +21,7 @@ class HeadlessDesktop : public Desktop {
     std::int64_t now() const override { return now_; }
     std::string short_date() const override { return date_; }
     std::unique_ptr<FormView> make_view(Form&) override { return nullptr; }
+    void run_in_background(std::function<void()> action) override;
     std::optional<Color> pick_color(const std::string& title) override;
     /// There are no help files.
     bool show_help(const std::string&) override { return false; }
@@ -43,8 +44,12 @@ class HeadlessDesktop : public Desktop {
     MessageAnswer show_message(const Message& message) override;
 
   private:
+    void advance_timers(std::int64_t end);
+
     PixelSize screen_;
     std::int64_t now_ = 0;
+    std::function<void()> background_;
+    std::int64_t background_due_ = 0;
     std::string date_ = "1/2/2000";
     std::deque<MessageAnswer> answers_;
     std::deque<Color> colors_;

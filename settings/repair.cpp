@@ -63,14 +63,15 @@ void set_back(const CheckedSetting& setting) {
     save_setting(setting.key, setting.usual);
 }
 
-void tell(const std::vector<std::string>& keys) {
+// Where the file cannot be written, nothing is set back, but the usual values hold all the same.
+void tell(const std::vector<std::string>& keys, bool stored) {
     std::string list;
     for (const std::string& key : keys) list += (list.empty() ? "\"" : ", \"") + key + '"';
-    desktop().after_event([list] {
-        desktop().message_box(
-            {"Tarnwick", "These stored values could not be read and were set back to the usual ones: " +
-                             list + "; what was there is kept in the same file, marked as damaged."});
-    });
+    const std::string text =
+        stored ? "These stored values could not be read and were set back to the usual ones: " + list +
+                     "; what was there is kept in the same file, marked as damaged."
+               : "These stored values cannot be read, and the usual ones stand in for them: " + list + ".";
+    desktop().after_event([text] { desktop().message_box({"Tarnwick", text}); });
 }
 
 }  // namespace
@@ -85,10 +86,10 @@ void repair_settings(int card_backs) {
     // What cannot be read now may be damaged, or not: that turns out when it can.
     const auto damaged = std::make_shared<std::vector<std::string>>();
     const auto told = std::make_shared<bool>(false);
-    const auto tell_once = [=] {
+    const auto tell_once = [=](bool stored) {
         if (damaged->empty() || *told) return;
         *told = true;
-        tell(*damaged);
+        tell(*damaged, stored);
     };
     settings_transaction(
         [=] {
@@ -99,8 +100,8 @@ void repair_settings(int card_backs) {
                 damaged->push_back(setting.key);
             }
         },
-        tell_once);
-    tell_once();
+        [=] { tell_once(true); });
+    tell_once(false);
 }
 
 }  // namespace tarnwick

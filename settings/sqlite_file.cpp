@@ -2,6 +2,7 @@
 
 #include <sqlite3.h>
 
+#include <cerrno>
 #include <cstdint>
 
 namespace tarnwick {
@@ -95,6 +96,8 @@ void reset(sqlite3_stmt* statement) {
 
 SqliteFile::SqliteFile(const std::string& path, LockPatience& patience) : path_(path) {
     check_kind(path);
+    struct stat before {};
+    const bool existed = stat(path.c_str(), &before) == 0;
     const int opened =
         sqlite3_open_v2(path.c_str(), &database_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
     try {
@@ -109,6 +112,10 @@ SqliteFile::SqliteFile(const std::string& path, LockPatience& patience) : path_(
         throw;
     }
     stat(path.c_str(), &opened_);
+    if (existed && (before.st_ino != opened_.st_ino || before.st_dev != opened_.st_dev)) {
+        close();
+        throw FileError("another file has taken its place", FileFault::moved);
+    }
 }
 
 SqliteFile::~SqliteFile() { close(); }
@@ -225,6 +232,9 @@ void SqliteFile::try_writing() {
 void SqliteFile::begin() {
     sqlite3_db_release_memory(database_);
     execute("BEGIN IMMEDIATE");
+    if (still_in_place()) return;
+    roll_back();
+    throw FileError("another file has taken its place", FileFault::moved);
 }
 void SqliteFile::commit() { execute("COMMIT"); }
 
@@ -251,7 +261,9 @@ SettingTexts salvaged_values(const std::string& path) {
 
 bool SqliteFile::still_in_place() const {
     struct stat now {};
-    return stat(path_.c_str(), &now) == 0 && now.st_ino == opened_.st_ino && now.st_dev == opened_.st_dev;
+    // A path that cannot be followed just now does not tell that the file has gone.
+    if (stat(path_.c_str(), &now) != 0) return errno != ENOENT;
+    return now.st_ino == opened_.st_ino && now.st_dev == opened_.st_dev;
 }
 
 }  // namespace tarnwick

@@ -14,9 +14,9 @@ struct sqlite3_stmt;
 
 namespace tarnwick {
 
-/// What is wrong with the settings file: its contents are broken, another program holds it just now, or it is
-/// out of reach for another reason.
-enum class FileFault { damaged, locked, out_of_reach };
+/// What is wrong with the settings file: its contents are broken, another program holds it just now, another
+/// file (or none) has taken its place, or it is out of reach for another reason.
+enum class FileFault { damaged, locked, moved, out_of_reach };
 
 /// A failure of the settings file; what() says in a few words what is wrong.
 class FileError : public std::runtime_error {
@@ -54,6 +54,7 @@ class SqliteFile {
     std::optional<std::string> read(const SettingAddress& address);
     /// Within a transaction.
     void write(const SettingAddress& address, const std::string& text);
+    /// Also fails where the path does not name this file any more.
     void begin();
     /// The values are on the disk on return.
     void commit();

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "settings/set_aside.h"
 #include "settings/store_path.h"
 
 namespace tarnwick {
@@ -29,16 +30,21 @@ SqliteStore::~SqliteStore() { SqliteStore::close(); }
 
 void SqliteStore::close() {
     if (closed_) return;
-    if (has_to_write()) {
-        patience_.allow(last_patience);
-        do_what_waits();
-    }
-    if (has_to_write() && !told_unwritten_) {
+    try_for_the_last_time();
+    // Who has done nothing loses nothing: a check of the file may wait as well.
+    if (!ahead_.empty() && !told_unwritten_) {
         notice("The file with your settings and scores, \"" + path_ +
-               "\", was held by another program to the last: what you did meanwhile could not be saved.");
+               "\", is held by another program: what you did meanwhile is lost unless that lets go now.");
+        try_for_the_last_time();
     }
     closed_ = true;
     file_.reset();
+}
+
+void SqliteStore::try_for_the_last_time() {
+    if (waiting_.empty()) return;
+    patience_.allow(last_patience);
+    do_what_waits();
 }
 
 void SqliteStore::open() {
@@ -49,17 +55,18 @@ void SqliteStore::open() {
             std::error_code ignored;
             fs::create_directories(fs::path(path_).parent_path(), ignored);
             auto file = std::make_unique<SqliteFile>(path_, patience_);
-            keep(seen_, file->check());
-            file_ = std::move(file);
+            seen_ = file->check();
             has_seen_all_ = true;
+            file_ = std::move(file);
         } catch (const FileError& failure) {
+            if (failure.fault() == FileFault::moved) continue;
             if (failure.fault() == FileFault::damaged && set_aside()) continue;
             meet(failure);
             return;
         }
     }
     try {
-        if (file_ && !has_to_write()) file_->try_writing();
+        if (file_ && waiting_.empty()) file_->try_writing();
     } catch (const FileError& failure) {
         meet(failure);
     }
@@ -67,57 +74,39 @@ void SqliteStore::open() {
 
 void SqliteStore::reopen_if_moved() {
     if (!file_ || running_ != Running::nothing || file_->still_in_place()) return;
-    // Whoever took the file away, or put another one in its place, has wished for what is there now.
-    seen_.clear();
-    rescued_.clear();
-    open();
+    reopen();
     do_what_waits();
+}
+
+void SqliteStore::reopen() {
+    // Whoever took the file away, or put another one in its place, has wished for what is there now.
+    has_seen_all_ = false;
+    open();
 }
 
 bool SqliteStore::set_aside() {
     file_.reset();
-    const fs::path path(path_);
-    fs::path aside;
-    std::error_code failure;
-    int number = 1;
-    do {
-        aside = path;
-        aside.replace_filename(path.stem().string() + ".damaged-" + std::to_string(number++) +
-                               path.extension().string());
-    } while (fs::exists(fs::symlink_status(aside, failure)));
-    fs::rename(path, aside, failure);
-    if (failure) return false;
-    // A journal left behind would be played into the new file.
-    fs::rename(path_ + "-journal", aside.string() + "-journal", failure);
-    keep(rescued_, seen_);
-    keep(rescued_, salvaged_values(aside.string()));
-    notice("The file with your settings and scores was damaged: it was set aside as \"" + aside.string() +
-           "\", and a new one was begun with what could still be read.");
-    return true;
-}
-
-bool SqliteStore::recovered_from(const FileError& failure) {
-    if (failure.fault() != FileFault::damaged || !set_aside()) return false;
-    open();
-    return file_ && rescued();
-}
-
-bool SqliteStore::rescued() {
-    if (rescued_.empty()) return true;
-    Change rescue{[this] {
-        for (const auto& [address, text] : rescued_) {
-            if (text && !file_->read(address)) pending_[address] = text;
-        }
-    }};
     try {
-        run_on_file(rescue);
-        rescued_.clear();
+        const std::string aside = replace_damaged_file(path_, seen_, patience_);
+        if (aside.empty()) return true;
+        notice("The file with your settings and scores was damaged: it was set aside as \"" + aside +
+               "\", and a new one was begun with what could still be read.");
         return true;
     } catch (const FileError& failure) {
-        if (failure.fault() == FileFault::damaged) file_.reset();
         meet(failure);
         return false;
     }
+}
+
+bool SqliteStore::recovered_from(const FileError& failure) {
+    if (failure.fault() == FileFault::moved) {
+        reopen();
+    } else if (failure.fault() != FileFault::damaged || !set_aside()) {
+        return false;
+    } else {
+        open();
+    }
+    return file_ != nullptr;
 }
 
 void SqliteStore::meet(const FileError& failure) {
@@ -136,9 +125,7 @@ std::optional<std::string> SqliteStore::read(const std::string& application, con
     if (const auto found = pending_.find(address); found != pending_.end()) return found->second;
     if (running_ == Running::on_file) return file_->read(address);  // checked when the change began
     reopen_if_moved();
-    for (const SettingTexts* texts : {&ahead_, &rescued_}) {
-        if (const auto found = texts->find(address); found != texts->end()) return found->second;
-    }
+    if (const auto found = ahead_.find(address); found != ahead_.end()) return found->second;
     for (int tries = 0; tries < 2 && file_; ++tries) {
         try {
             std::optional<std::string> text = file_->read(address);
@@ -149,7 +136,8 @@ std::optional<std::string> SqliteStore::read(const std::string& application, con
             return text;
         } catch (const FileError& failure) {
             if (running_ == Running::nothing && recovered_from(failure)) continue;
-            meet(failure);
+            // Damage that is met while something waits is mended when that is done.
+            if (failure.fault() != FileFault::damaged) meet(failure);
             break;
         }
     }
@@ -188,7 +176,7 @@ void SqliteStore::carry_out(const std::function<void()>& action, const std::func
     reopen_if_moved();
     do_what_waits();
     Change change{action, done};
-    if (!has_to_write() && done_on_file(change)) return;
+    if (waiting_.empty() && done_on_file(change)) return;
     run_ahead(change);
     waiting_.push_back(std::move(change));
     call_waiter();
@@ -270,8 +258,12 @@ void SqliteStore::look_ahead() {
 
 void SqliteStore::do_what_waits() {
     if (running_ != Running::nothing || closed_ || !waits()) return;
-    if (!file_) open();
-    while (file_ && rescued() && !waiting_.empty()) {
+    if (!file_) {
+        open();
+    } else if (!file_->still_in_place()) {
+        reopen();
+    }
+    while (file_ && !waiting_.empty()) {
         Change change = std::move(waiting_.front());
         waiting_.pop_front();
         try {

@@ -31,7 +31,7 @@ class SqliteStore : public Store {
               const std::string& text) override;
     bool knows(const std::string& application, const std::string& section,
                const std::string& key) const override;
-    bool waits() const override { return has_to_write() || !file_; }
+    bool waits() const override { return !waiting_.empty() || !file_; }
     void try_again() override;
     void close() override;
 
@@ -50,12 +50,11 @@ class SqliteStore : public Store {
 
     void open();
     void reopen_if_moved();
+    void reopen();
+    void try_for_the_last_time();
     bool set_aside();
     /// True when the damaged file has been replaced by a new one, so that the call is worth another try.
     bool recovered_from(const FileError& failure);
-    /// Writes what a damaged file has left into the new one, before anything else; true when that is done.
-    bool rescued();
-    bool has_to_write() const { return !waiting_.empty() || !rescued_.empty(); }
     bool done_on_file(Change& change);
     void run_on_file(Change& change);
     void commit(Change& change);
@@ -70,12 +69,11 @@ class SqliteStore : public Store {
     LockPatience patience_;
     std::unique_ptr<SqliteFile> file_;
     std::deque<Change> waiting_;
-    /// What this object has read or written last, what the waiting changes will make of it, what the running
-    /// action has saved so far, and what a damaged file has left that is not in the new one yet.
+    /// What the file held when it was read or written last, what the waiting changes will make of it, and
+    /// what the running action has saved so far.
     SettingTexts seen_;
     SettingTexts ahead_;
     SettingTexts pending_;
-    SettingTexts rescued_;
     /// Values that could not be read when they were asked for.
     std::set<SettingAddress> unknown_;
     Running running_ = Running::nothing;

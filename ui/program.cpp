@@ -3,7 +3,6 @@
 #include <array>
 
 #include "platform/desktop.h"
-#include "platform/timer.h"
 #include "settings/repair.h"
 #include "settings/settings.h"
 #include "settings/stored_settings.h"
@@ -24,29 +23,29 @@ std::array<Form*, 6> all_windows() {
     return {&frmcards, &frmyouwin, &frmBestScore, &frmFeatures, &frmError, &frmCommon};
 }
 
-// Tries again to store what could not be stored at once, as long as there is anything.
-Timer store_timer{frmcards};
 Store* store_in_use = nullptr;
+
+// Tries again to store what could not be stored at once, as long as there is anything: whatever dialog or
+// message is open, for nobody can know how soon it is answered.
+void try_again_in_background() {
+    desktop().run_in_background([] {
+        // Within an event: what the store has to say is shown when it has done its work.
+        desktop().event([] { store_in_use->try_again(); });
+        if (store_in_use && !store_in_use->waits()) desktop().run_in_background(nullptr);
+    });
+}
 
 void attach_store(Store& store) {
     store_in_use = &store;
-    constexpr int a_second = 1000;
-    store_timer.set_interval(a_second);
-    store_timer.set_enabled(store.waits());
-    store_timer.on_tick = [&store] {
-        store.try_again();
-        store_timer.set_enabled(store.waits());
-    };
-    store.on_waiting = [] { store_timer.set_enabled(true); };
+    store.on_waiting = try_again_in_background;
+    if (store.waits()) try_again_in_background();
 }
 
 void detach_store() {
-    store_timer.set_enabled(false);
-    store_timer.on_tick = nullptr;
-    if (store_in_use) {
-        store_in_use->on_waiting = nullptr;
-        store_in_use->listen(nullptr);
-    }
+    if (!store_in_use) return;
+    desktop().run_in_background(nullptr);
+    store_in_use->on_waiting = nullptr;
+    store_in_use->listen(nullptr);
     store_in_use = nullptr;
 }
 

@@ -93,10 +93,13 @@ TEST(TwoPrograms, WaitForEachOtherWithoutStandingStill) {
     const std::chrono::duration<double> spent = std::chrono::steady_clock::now() - begin;
     EXPECT_LT(spent.count(), 4);
     std::cout << "a game was counted and entered in " << spent.count() << " s under a lock\n";
+    // A lock that lasts is told; what waits does not wait for the answer.
+    game.wait_for("Tarnwick");
     sqlite3_close(holder);
     EXPECT_TRUE(eventually([&] { return game.stored("high score name 1") == "Ann"; }))
         << "with nobody's help";
     EXPECT_EQ(game.stored("games played"), "1");
+    EXPECT_TRUE(game.has("Tarnwick"));
 }
 
 }  // namespace

@@ -161,6 +161,10 @@ TEST_F(RecordFileTest, IsTheSameByEveryName) {
         fs::create_symlink("loop", folder / "loop");
     }
     EXPECT_TRUE(names_one_file(folder / "loop", folder / "loop"));
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(folder / "");
+    EXPECT_TRUE(names_one_file("not yet.txt", folder / "not yet.txt"));
+    std::filesystem::current_path(before);
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 // The file of the store cut off and changed in every way, and on a disk that fails.
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <map>
 #include <random>
@@ -102,6 +104,36 @@ TEST_F(Damage, ByFlippedBitsNeverGivesAWrongValue) {
         start_on(damaged, "bit " + std::to_string(bit) + " of byte " + std::to_string(byte));
     }
     EXPECT_GT(salvaged_, 0);
+}
+
+// Several programs start on one damaged file at once, and each counts a game.
+TEST_F(Damage, MetBySeveralProgramsAtOnceIsMendedOnce) {
+    constexpr int programs = 3;
+    const int rounds = short_or_long(30, 1000);
+    // One value has lost its checksum: the others can still be read.
+    std::string damaged = whole();
+    damaged.replace(damaged.find("Somebody"), 1, "s");
+    for (int round = 0; round < rounds && !HasFailure(); ++round) {
+        folder_.empty();
+        ScratchFolder::write(path_, damaged);
+        for (int i = 0; i < programs; ++i) {
+            if (fork() != 0) continue;
+            {
+                SqliteStore store(path_);
+                store.transaction([&store] {
+                    save(store, {{"games played",
+                                  std::to_string(std::stoi("0" + read(store, "games played")) + 1)}});
+                });
+            }
+            _exit(0);
+        }
+        for (int i = 0; i < programs; ++i) wait(nullptr);
+        SqliteStore store(path_);
+        EXPECT_EQ(read(store, "games played"), std::to_string(17 + programs)) << round;
+        EXPECT_EQ(read(store, "card back"), "3");
+        EXPECT_FALSE(ScratchFolder::contents(folder_ / "settings.damaged-1.sqlite").empty());
+        EXPECT_TRUE(ScratchFolder::contents(folder_ / "settings.damaged-2.sqlite").empty()) << "a whole file";
+    }
 }
 
 // What one session does on a disk: it starts, saves one value, and changes a table in one transaction.

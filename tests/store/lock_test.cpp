@@ -140,6 +140,54 @@ TEST_F(Locked, WhatWaitsIsDoneWhenTheStoreIsClosed) {
     EXPECT_EQ(on_disk("games played"), "1");
 }
 
+TEST_F(Locked, TheMessageAtTheEndLeavesTimeToLetGo) {
+    auto holder = std::make_unique<Holder>(path, exclusive);
+    auto store = std::make_unique<SqliteStore>(path);
+    store->listen([&](const std::string& sentence) {
+        told.push_back(sentence);
+        holder.reset();
+    });
+    count(*store, 10);
+    store.reset();
+    EXPECT_EQ(told.size(), 1U);
+    EXPECT_EQ(on_disk("games played"), "1");
+    // Who has done nothing has nothing to lose, though the look through the values still waits.
+    told.clear();
+    holder = std::make_unique<Holder>(path, exclusive);
+    store = std::make_unique<SqliteStore>(path);
+    listen(*store);
+    use_store(store.get());
+    repair_settings(6);
+    use_store(nullptr);
+    EXPECT_TRUE(store->waits());
+    store.reset();
+    EXPECT_TRUE(told.empty());
+}
+
+TEST_F(Locked, WhatWaitsGoesIntoTheFileThatHasTakenThePlaceOfTheHeldOne) {
+    for (const bool at_the_end : {false, true}) {
+        folder.empty();
+        auto store = std::make_unique<SqliteStore>(path);
+        save(*store, "text color", "7");
+        auto holder = std::make_unique<Holder>(path, exclusive);
+        count(*store, 10);
+        std::filesystem::remove(path);
+        if (!at_the_end) {
+            save(*std::make_unique<SqliteStore>(path), "card back", "3");
+            holder.reset();
+            holder = std::make_unique<Holder>(path, exclusive);
+            EXPECT_EQ(read(*store, "back color"), "-");
+            EXPECT_FALSE(store->knows("Tarnwick", "setting", "back color")) << "not of this file";
+            holder.reset();
+            store->try_again();
+            EXPECT_FALSE(store->waits());
+        }
+        store.reset();
+        EXPECT_EQ(on_disk("games played") + on_disk("text color"), "1-");
+        EXPECT_EQ(on_disk("card back"), at_the_end ? "-" : "3");
+    }
+}
+
 TEST_F(Locked, AnEntryThatIsBeatenMeanwhileIsTold) {
     HeadlessDesktop desktop;
     for (const int other : {30, 50}) {
