@@ -14,7 +14,6 @@ namespace tarnwick {
 QString find_help(const QString& file_name) {
     const QString program = QCoreApplication::applicationDirPath();
     QStringList folders{program, program + "/../share/tarnwick"};
-    if (program == QFileInfo(TARNWICK_BUILD_FOLDER).canonicalFilePath()) folders.append(TARNWICK_SOURCE_HELP);
     for (const QString& folder : QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation)) {
         folders.append(folder + "/tarnwick");
     }

@@ -4,8 +4,8 @@
 
 namespace tarnwick {
 
-/// Looks a help file up where the program's files can be: next to the program, where it is installed, or in
-/// its source tree. Empty when it is nowhere.
+/// Looks a help file up where the program's files can be: next to the program, as the build leaves it, or
+/// where it is installed. Empty when it is nowhere.
 QString find_help(const QString& file_name);
 
 /// Shows a help file (HTML). Its images are the program's own drawings: <img src="art:faces/hearts-queen">.

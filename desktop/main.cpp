@@ -73,7 +73,7 @@ int run(const CommandLine& command, int argc, char** argv) {
     qInstallMessageHandler(handler);
     QApplication::setApplicationName("tarnwick");
     QApplication::setApplicationVersion(TARNWICK_VERSION);
-    QGuiApplication::setDesktopFileName("tarnwick");
+    QGuiApplication::setDesktopFileName("org.tarnwick.tarnwick");
 
     const std::string store_path = command.store.empty() ? default_store_path() : command.store;
     const std::unique_ptr<GameRecorder> recorder = recorder_for(command.record, store_path);

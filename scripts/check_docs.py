@@ -14,6 +14,7 @@ import sys
 import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
+VERSION = re.search(r"project\(tarnwick VERSION (\S+)", (ROOT / "CMakeLists.txt").read_text(encoding="utf-8"))[1]
 DOCUMENTS = ["README.md", "CONTRIBUTING.md"]
 # What a command begins with.
 COMMAND = re.compile(r"(TARNWICK_[A-Z]+=\S+ )?"
@@ -23,9 +24,11 @@ COMMAND = re.compile(r"(TARNWICK_[A-Z]+=\S+ )?"
 RUN = {
     "./run": "env -u DISPLAY ./run",
     "cmake --preset release && cmake --build --preset release": None,
+    "cmake --preset release -DTARNWICK_ADDRESS=cards.example":
+        "cmake --preset release -DTARNWICK_ADDRESS=cards.example -B SCRATCH/build",
     "cmake --install build --prefix /usr/local": "DESTDIR=SCRATCH cmake --install build --prefix /usr/local",
     "cpack --config build/CPackConfig.cmake": "cpack --config build/CPackConfig.cmake -B SCRATCH",
-    "apt install ./tarnwick_1.0.0_amd64.deb": "apt-get install --simulate SCRATCH/tarnwick_1.0.0_*.deb",
+    f"apt install ./tarnwick_{VERSION}_amd64.deb": f"apt-get install --simulate SCRATCH/tarnwick_{VERSION}_*.deb",
     "tarnwick --deal N": "build/tarnwick --deal 5 --version",
     "tarnwick --store FILE": "build/tarnwick --store SCRATCH/settings.sqlite --version",
     "tarnwick --record FILE": "build/tarnwick --record SCRATCH/game.txt --version",
@@ -49,6 +52,7 @@ RUN = {
 }
 # What ./test runs by itself, at least with --long.
 TESTED = {"./test", "./test --long", "scripts/lint.sh", "scripts/format.sh", "bench/run", "scripts/check_package.sh",
+          "scripts/check_reproducible.sh",
           "scripts/fuzz.sh events 60",
           "cmake --preset sanitizers && cmake --build --preset sanitizers", "python3 scripts/check_docs.py"}
 

@@ -31,7 +31,7 @@ Frmcards::Frmcards() : Form("frmcards") {
 }
 
 void Frmcards::design() {
-    set_caption("Tarnwick at tarnwick.example");
+    set_caption("Tarnwick at " TARNWICK_ADDRESS);
     set_border(FormBorder::sizable);
     set_back_color(table_green);
     resize_client({9780 / twips_per_pixel, 10830 / twips_per_pixel});

@@ -14,7 +14,7 @@
 namespace tarnwick {
 
 /// The title of the main window.
-inline constexpr const char* main_title = "Tarnwick at tarnwick.example";
+inline constexpr const char* main_title = "Tarnwick at " TARNWICK_ADDRESS;
 /// The title of the dialog that asks for a name: an empty one.
 inline constexpr const char* win_title = " ";
 
