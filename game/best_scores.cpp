@@ -13,6 +13,12 @@ void add_to_setting(const char* key, int amount) {
     save_setting(key, text_of(to_double(read_setting(key, 0)) + amount));
 }
 
+void add_game(int points, bool won) {
+    add_to_setting(key_games_played, 1);
+    add_to_setting(key_average_score, points);
+    if (won) add_to_setting(key_games_won, 1);
+}
+
 // The place that a score takes, or none. A score equal to a stored one goes above it.
 int place_of(int points) {
     int place = none;
@@ -56,20 +62,16 @@ int count_game(int points, bool complete) {
     };
     const auto found = std::make_shared<Found>();
     settings_transaction([=] {
-        add_to_setting(key_games_played, 1);
-        add_to_setting(key_average_score, points);
         if (!found->decided) *found = {place_of(points), true};
-        if (complete && found->place == 1) add_to_setting(key_games_won, 1);
+        add_game(points, complete && found->place == 1);
     });
     return found->place;
 }
 
 void count_and_enter_game(int points, bool complete) {
     settings_transaction([=, date = desktop().short_date()] {
-        add_to_setting(key_games_played, 1);
-        add_to_setting(key_average_score, points);
         const int place = place_of(points);
-        if (complete && place == 1) add_to_setting(key_games_won, 1);
+        add_game(points, complete && place == 1);
         if (place != none) write_entry(place, points, "", date);
     });
 }

@@ -123,7 +123,7 @@ MUTATIONS = {
         (" <= points", " < points", "an equal score enters the table below"),
         ("complete && found->place == 1", "complete", "a win below the first place counts"),
         ("if (!found->decided) ", "", "a win that was shown is counted by what the table holds later"),
-        ("        add_to_setting(key_average_score, points);", "", "the total stays"),
+        ("    add_to_setting(key_average_score, points);", "", "the total stays"),
         ("if (*place == none) tell_beaten(points);", "", "a score that is beaten meanwhile goes without a word"),
     ],
     "game/end_game.cpp": [
