@@ -50,7 +50,6 @@ from_tablet_to_column
   hide the card
   redisplay the column
   take the card from the tablet
-  slide: keep the card in front
   record the move
   a move was made
 from_column_to_column
