@@ -1,6 +1,7 @@
 #include "desktop/board_window.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QMenuBar>
 #include <cmath>
 
@@ -99,6 +100,16 @@ void BoardView::drag_changed() {
 QWidget* BoardView::make_window() {
     board_window_ = new BoardWindow(form());
     return board_window_;
+}
+
+void BoardView::show_window() {
+    // A Wayland compositor does not tell how much of the screen its panels take, and lets a window hang over
+    // the edge with the score: there the window gets all that is free.
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+        board_window_->showMaximized();
+    } else {
+        board_window_->show();
+    }
 }
 
 void BoardView::sync_window() { board_window_->sync(); }

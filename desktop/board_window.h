@@ -48,6 +48,7 @@ class BoardView : public WindowView {
 
   protected:
     QWidget* make_window() override;
+    void show_window() override;
     void sync_window() override;
 
   private:

@@ -25,7 +25,7 @@ void WindowView::form_changed() {
     }
     window_ = make_window();
     sync_window();
-    window_->show();
+    show_window();
     window_->activateWindow();
 }
 

@@ -28,6 +28,8 @@ class WindowView : public FormView {
     QtDesktop& desktop() const { return desktop_; }
     /// Makes and shows the native window.
     virtual QWidget* make_window() = 0;
+    /// Shows the native window for the first time.
+    virtual void show_window() { window_->show(); }
     /// Makes the native window look as the form says.
     virtual void sync_window() = 0;
 
