@@ -1,6 +1,6 @@
 #include "desktop/board_widget.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QCursor>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -253,6 +253,12 @@ void BoardWidget::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void BoardWidget::mouseReleaseEvent(QMouseEvent* event) {
+    // Over another window of the program the board is not seen.
+    const QWidget* there = QApplication::topLevelAt(event->globalPosition().toPoint());
+    if (form_.mouse().dragged() && there && there != window()) {
+        form_.mouse().cancel();
+        return;
+    }
     const QPointF at = on_board(*event);
     form_.mouse().release(static_cast<float>(at.x()), static_cast<float>(at.y()), button_of(*event));
 }

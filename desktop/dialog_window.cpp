@@ -28,23 +28,15 @@ QRect scaled(const Rect& place, qreal scale) {
                  QPoint(qRound(rect.right() * scale) - 1, qRound(rect.bottom() * scale) - 1));
 }
 
-// KDE's window manager would hide a tool window while another program is in use.
-bool tool_windows_stay() {
-    const QList<QByteArray> desktops = qgetenv("XDG_CURRENT_DESKTOP").split(':');
-    return !desktops.contains("KDE");
-}
-
-Qt::WindowFlags window_type(const Form& form) {
-    return form.border() == FormBorder::tool_dialog && tool_windows_stay() ? Qt::Tool : Qt::Dialog;
-}
-
 }  // namespace
 
 DialogWindow::DialogWindow(Form& form, QWidget* parent)
-    : QDialog(parent, window_type(form) | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                          Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
+    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                          Qt::WindowCloseButtonHint),
       form_(form) {
-    setAttribute(Qt::WA_MacAlwaysShowToolWindow);
+    // Only the looks of a tool window: the toolkit hands the keys of a real one on to the menus of the main
+    // window, and some desktops hide it while another program is in use.
+    setAttribute(Qt::WA_X11NetWmWindowTypeUtility, form.border() == FormBorder::tool_dialog);
     setObjectName(to_qt(form.name()));
     make_controls();
     choose_scale();

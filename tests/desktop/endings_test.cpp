@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <thread>
+
 #include "state/variables.h"
 #include "tests/desktop/tested_program.h"
 #include "tools/driver/board_picture.h"
@@ -44,6 +47,10 @@ TEST(Endings, AfterAnErrorThePlayerClosesTheGame) {
     game.space();
     EXPECT_TRUE(game.has("Error"));
     ASSERT_TRUE(game.bring_to_front(game.wait_for("Error")));
+    // The keys are the dialog's now, and none of the table's menus answers.
+    game.screen().key("ctrl+q");
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    EXPECT_TRUE(game.has(main_title));
     game.screen().key("Tab");
     game.screen().key("space");
     EXPECT_EQ(game.program().exit_code(), 0);
