@@ -81,8 +81,12 @@ TEST_F(StoreFile, LiesInTheUsersFolderAndNowhereElse) {
         std::string expected;
     };
     const std::string end = "/tarnwick/settings.sqlite";
-    const std::string old_home = std::getenv("HOME") ? std::getenv("HOME") : "";
-    const std::string old_data = std::getenv("XDG_DATA_HOME") ? std::getenv("XDG_DATA_HOME") : "";
+    const auto variable = [](const char* name) {
+        const char* value = std::getenv(name);
+        return std::string(value ? value : "");
+    };
+    const std::string old_home = variable("HOME");
+    const std::string old_data = variable("XDG_DATA_HOME");
     for (const auto& [data_home, home, expected] : {Variables{"/data", "/home/ann", "/data" + end},
                                                     {"data", "/home/ann", "/home/ann/.local/share" + end},
                                                     {"", "ann", ""},
