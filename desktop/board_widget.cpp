@@ -62,6 +62,7 @@ void BoardWidget::widget_changed(const Widget& widget, const Rect& before) {
 }
 
 void BoardWidget::update_label_scale() {
+    plate_ = painter_.plate();
     const qreal scale = painter_.label_scale();
     if (scale == label_scale_) return;
     label_scale_ = scale;
@@ -81,6 +82,7 @@ void BoardWidget::drag_changed() {
 void BoardWidget::show_part(int offset) {
     offset_ = offset;
     painter_.set_scrolled(offset);
+    plate_ = painter_.plate();
     form_.mouse().set_seen_area(
         Rect{0, static_cast<float>(offset), static_cast<float>(width()), static_cast<float>(height())});
 }
@@ -166,8 +168,7 @@ void BoardWidget::repaint_area(const QRect& area) {
     } else {
         update(area.translated(0, -offset_));
         // With a card below them, the labels are painted on a plate.
-        const QRect plate = painter_.plate();
-        if (area.intersects(plate)) update(plate.translated(0, -offset_));
+        if (area.intersects(plate_)) update(plate_.translated(0, -offset_));
     }
 }
 

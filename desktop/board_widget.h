@@ -75,6 +75,7 @@ class BoardWidget : public QWidget {
     QBasicTimer edge_scroll_;  ///< runs while a drag is held at an edge beyond which there is more
     QBasicTimer settling_;     ///< runs while the size changes, and a moment after
     qreal label_scale_ = 1;
+    QRect plate_;       ///< what is painted anew when anything below the labels changes
     int offset_ = 0;    ///< how far the board is scrolled down, in pixels
     int repaints_ = 0;  ///< rectangles since the board was last painted
     bool scrolling_is_stale_ = false;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <stdexcept>
 #include <utility>
 
 #include "settings/set_aside.h"
@@ -169,10 +170,7 @@ void SqliteStore::save(const std::string& application, const std::string& sectio
 }
 
 void SqliteStore::carry_out(const std::function<void()>& action, const std::function<void()>& done) {
-    if (running_ != Running::nothing) {
-        action();
-        return;
-    }
+    if (running_ != Running::nothing) throw std::logic_error("a transaction within a transaction");
     reopen_if_moved();
     do_what_waits();
     Change change{action, done};

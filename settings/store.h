@@ -24,7 +24,7 @@ class Store {
     /// Runs `action`; all that it saves is stored together or, after a failure or a crash, not at all. Where
     /// the file cannot be written just now, the action is run once more when it can, on what the file holds
     /// by then: it must depend on nothing else that changes, and holds by value what it needs. `done` is run
-    /// once the values are stored. Within a transaction another one is part of it.
+    /// once the values are stored. There is no transaction within another.
     void transaction(const std::function<void()>& action, const std::function<void()>& done = {}) {
         carry_out(action, done);
     }

@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "tests/store/scratch_folder.h"
 #include "tools/driver/child_process.h"
 
@@ -47,29 +45,24 @@ TEST(Console, TellsInOneSentenceWhatItCannotRead) {
     refuses("\"$0\" /proc/self/mem", "/proc/self/mem cannot be read to its end");
     refuses("\"$0\" \"$(printf 'x\\033[31m\\ny')\"", R"(x\x1b[31m\x0ay cannot be read)");
     refuses("\"$0\" --random 4294967296 1", "\"4294967296\" is not a number from 0 to 4294967295");
-    refuses("\"$0\" --random 1 2147483648", "\"2147483648\" is not a number from 0 to 2147483647");
-    refuses("\"$0\" --random \"$(printf '\\033')\" 1", R"("\x1b" is not a number from 0 to 4294967295)");
-    refuses(R"(printf 'deal 1\n\033[31mturn\n' | "$0")",
-            R"(line 2: "\x1b[31mturn" is none of deal, turn, drag, undo and restart)");
+    refuses("\"$0\" --random 1 \"$(printf '\\033')\"", R"("\x1b" is not a number from 0 to 2147483647)");
     refuses(R"({ printf 'deal 1\n'; cat /dev/zero; } | "$0")",
             "line 2: more than 4,096 characters in the line that begins with \"" + forty_zeros + "...\"");
-    ScratchFolder::write(name, "deal 1\n" + std::string(4097, 'x') + "\nturn\n");
-    refuses("\"$0\" " + name, name + ", line 2: more than 4,096 characters in the line that begins with \"" +
-                                  std::string(40, 'x') + "...\"");
+    ScratchFolder::write(name, "deal 1\n\x1b[31mturn\n");
+    refuses("\"$0\" " + name,
+            name + R"(, line 2: "\x1b[31mturn" is none of deal, turn, drag, undo and restart)");
 }
 
 TEST(Console, TellsInOneSentenceThatItsOutputIsNotWritten) {
-    for (const char* arguments : {"--help", "--random 3 5", "--signature /dev/null", "records"}) {
-        std::string line = std::string("\"$0\" ") + arguments;
-        if (line.ends_with("records")) line = R"(printf 'deal 1\nturn\n' | "$0")";
-        const ConsoleRun full(line + " > /dev/full");
-        EXPECT_EQ(full.code, 1) << arguments;
-        EXPECT_EQ(full.shell.errors(),
-                  "tarnwick-console: the output cannot be written: No space left on device\n");
-        const ConsoleRun closed(line + " >&-");
-        EXPECT_EQ(closed.code, 1) << arguments;
-        EXPECT_EQ(closed.shell.errors(),
-                  "tarnwick-console: the output cannot be written: Bad file descriptor\n");
+    for (const std::string line : {R"("$0" --help)", R"("$0" --random 3 5)", R"("$0" --signature /dev/null)",
+                                   R"(printf 'deal 1\nturn\n' | "$0")"}) {
+        for (const auto& [output, reason] : {std::pair{" > /dev/full", "No space left on device"},
+                                             std::pair{" >&-", "Bad file descriptor"}}) {
+            const ConsoleRun run(line + output);
+            EXPECT_EQ(run.code, 1) << line;
+            EXPECT_EQ(run.shell.errors(),
+                      std::string("tarnwick-console: the output cannot be written: ") + reason + '\n');
+        }
     }
     const ConsoleRun pipe(R"({ "$0" --random 3 2000000000; echo $? >&2; } | true)");
     EXPECT_EQ(pipe.shell.errors(), "tarnwick-console: the output cannot be written: Broken pipe\n1\n");

@@ -49,10 +49,8 @@ QAccessibleInterface& accessible(const Form& form) {
 TEST(DialogAccessibility, NamesWhatTakesTheKeyboard) {
     InnerGame game(26);
     high_score_place = none;
-    for (Form* form : {static_cast<Form*>(&frmFeatures), static_cast<Form*>(&frmBestScore),
-                       static_cast<Form*>(&frmyouwin), static_cast<Form*>(&frmError)}) {
+    for (Form* form : std::initializer_list<Form*>{&frmFeatures, &frmBestScore, &frmyouwin, &frmError})
         form->show();
-    }
     EXPECT_EQ(
         keyboard_names(frmFeatures).join(", "),
         "Animate cards, Background Color, Cancel, Display Messages, Mid-Earth, Misty, OK, Pedal, Roman, "
@@ -109,12 +107,10 @@ TEST(DialogAccessibility, PressesPicturesAndDescribesSwatches) {
 TEST(DialogAccessibility, EntersANameOfAnyLength) {
     InnerGame game(26);
     frmyouwin.show();
-    QWidget& box = *shown_widget("frmyouwin")->findChild<QLineEdit*>();
-    QAccessibleInterface& spoken = *QAccessible::queryAccessibleInterface(&box);
-    for (const std::string& name : {std::string("Ada"), std::string(100000, 'a')}) {
-        spoken.setText(QAccessible::Value, to_qt(name));
-        EXPECT_EQ(frmyouwin.txtYourName.text(), name);
-    }
+    QAccessibleInterface& spoken =
+        *QAccessible::queryAccessibleInterface(shown_widget("frmyouwin")->findChild<QLineEdit*>());
+    spoken.setText(QAccessible::Value, QString(100000, 'a'));
+    EXPECT_EQ(frmyouwin.txtYourName.text(), std::string(100000, 'a'));
     spoken.editableTextInterface()->replaceText(0, 100000, "Grace");
     EXPECT_EQ(frmyouwin.txtYourName.text(), "Grace");
 }
@@ -128,10 +124,10 @@ TEST(DialogAccessibility, PressesNoButtonBehindAMessage) {
     QObject::connect(&answer, &QTimer::timeout, &answer, [&] {
         QWidget* const question = QApplication::activeModalWidget();
         if (!question) return;
-        ++questions;
-        if (questions == 1) press(clear);
-        if (questions == 20) answer.stop();
-        if (questions >= 20) question->close();
+        if (++questions == 1) press(clear);
+        if (questions < 20) return;
+        answer.stop();
+        question->close();
     });
     answer.start(20);
     press(clear);

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QTextDocument>
+#include <algorithm>
 
 #include "tests/desktop/inner_game.h"
 #include "windows/frmBestScore.h"
@@ -11,13 +12,6 @@
 namespace tarnwick {
 namespace {
 
-QLabel* label_with_tip(const Form& form) {
-    for (QLabel* label : shown_widget(form.name())->findChildren<QLabel*>()) {
-        if (!label->toolTip().isEmpty()) return label;
-    }
-    return nullptr;
-}
-
 TEST(DialogWindow, CutsALongNameAtFullSizeAndShowsTheRestInATip) {
     InnerGame game(26);
     frmBestScore.show();
@@ -25,8 +19,11 @@ TEST(DialogWindow, CutsALongNameAtFullSizeAndShowsTheRestInATip) {
     const std::string words = "Wilhelmina & Grace <Featherstonehaugh> of Upper &lt; Tarnwick by the Water ";
     for (const std::string& name : {words + words, std::string(200, 'W')}) {
         frmBestScore.lblHighScoreName(1).set_caption(name);
-        const QLabel* label = label_with_tip(frmBestScore);
-        ASSERT_NE(label, nullptr);
+        const auto labels = shown_widget(frmBestScore.name())->findChildren<QLabel*>();
+        const auto found = std::find_if(labels.begin(), labels.end(),
+                                        [](const QLabel* label) { return !label->toolTip().isEmpty(); });
+        ASSERT_NE(found, labels.end());
+        const QLabel* label = *found;
         EXPECT_EQ(label->font().pixelSize(), full.pixelSize());
         EXPECT_EQ(label->font().pointSizeF(), full.pointSizeF());
         EXPECT_TRUE(label->text().endsWith(QChar(0x2026))) << label->text().toStdString();
@@ -51,8 +48,8 @@ TEST(DialogWindow, ToldOfAnErrorIsAToolWindowThatOutlivesTheMainWindow) {
     EXPECT_EQ(dialog->windowType(), Qt::Dialog) << "not hidden while another program is in use";
     EXPECT_FALSE(dialog->windowFlags() & Qt::WindowMinMaxButtonsHint);
     EXPECT_TRUE(comes_true([&] { return dialog->isActiveWindow(); }));
-    press(*QAccessible::queryAccessibleInterface(dialog)->childAt(
-        dialog->mapToGlobal(QPoint(0, 0)).x() + 30, dialog->mapToGlobal(QPoint(0, 0)).y() + 75));
+    const QPoint button = dialog->mapToGlobal(QPoint(30, 75));
+    press(*QAccessible::queryAccessibleInterface(dialog)->childAt(button.x(), button.y()));
     EXPECT_TRUE(comes_true([] { return !frmError.loaded(); })) << "its buttons work";
 }
 

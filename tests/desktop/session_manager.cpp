@@ -9,7 +9,6 @@
 #include <mutex>
 #include <stdexcept>
 #include <thread>
-#include <utility>
 #include <vector>
 
 #include "tools/driver/eventually.h"
@@ -59,29 +58,33 @@ void note_left(SmsConn, SmPointer data, int count, char** reasons) {
     state_of(data).left = true;
 }
 
+void free_properties(SmsConn, SmPointer, int count, SmProp** properties) {
+    for (int i = 0; i < count; ++i) SmFreeProperty(properties[i]);
+    std::free(properties);
+}
+
 Status new_client(SmsConn, SmPointer data, unsigned long* mask, SmsCallbacks* callbacks, char**) {
-    *callbacks = {};
-    callbacks->register_client = {join, data};
-    callbacks->interact_request = {[](SmsConn connection, SmPointer, int) { SmsInteract(connection); }, data};
-    callbacks->interact_done = {[](SmsConn, SmPointer, Bool) {}, data};
-    callbacks->save_yourself_request = {[](SmsConn, SmPointer, int, Bool, int, Bool, Bool) {}, data};
-    callbacks->save_yourself_phase2_request = {
-        [](SmsConn connection, SmPointer) { SmsSaveYourselfPhase2(connection); }, data};
-    callbacks->save_yourself_done = {note_saved, data};
-    callbacks->close_connection = {note_left, data};
-    callbacks->set_properties = {[](SmsConn, SmPointer, int count, SmProp** properties) {
-                                     for (int i = 0; i < count; ++i) SmFreeProperty(properties[i]);
-                                     std::free(properties);
-                                 },
-                                 data};
-    callbacks->delete_properties = {[](SmsConn, SmPointer, int, char**) {}, data};
-    callbacks->get_properties = {
-        [](SmsConn connection, SmPointer) { SmsReturnProperties(connection, 0, nullptr); }, data};
-    *mask = SmsRegisterClientProcMask | SmsInteractRequestProcMask | SmsInteractDoneProcMask |
-            SmsSaveYourselfRequestProcMask | SmsSaveYourselfP2RequestProcMask | SmsSaveYourselfDoneProcMask |
-            SmsCloseConnectionProcMask | SmsSetPropertiesProcMask | SmsDeletePropertiesProcMask |
-            SmsGetPropertiesProcMask;
+    const auto nothing = [](auto...) {};
+    *callbacks = {
+        .register_client = {join, data},
+        .interact_request = {nothing, data},
+        .interact_done = {nothing, data},
+        .save_yourself_request = {nothing, data},
+        .save_yourself_phase2_request = {nothing, data},
+        .save_yourself_done = {note_saved, data},
+        .close_connection = {note_left, data},
+        .set_properties = {free_properties, data},
+        .delete_properties = {nothing, data},
+        .get_properties = {nothing, data},
+    };
+    // Every one of them.
+    *mask = (SmsGetPropertiesProcMask << 1) - 1;
     return True;
+}
+
+void close(IceConn connection) {
+    IceSetShutdownNegotiation(connection, False);
+    IceCloseConnection(connection);
 }
 
 bool readable(int file) {
@@ -100,17 +103,23 @@ void accept_clients(State& state) {
 
 // Takes note of what the program has sent.
 void listen(State& state) {
+    const std::scoped_lock lock(state.mutex);
     accept_clients(state);
-    for (auto connection = state.connections.begin(); connection != state.connections.end();) {
-        const bool broken = readable(IceConnectionNumber(*connection)) &&
-                            IceProcessMessages(*connection, nullptr, nullptr) != IceProcessMessagesSuccess;
-        if (broken) {
-            state.left = true;
-            IceSetShutdownNegotiation(*connection, False);
-            IceCloseConnection(*connection);
-        }
-        connection = broken ? state.connections.erase(connection) : connection + 1;
-    }
+    std::erase_if(state.connections, [&state](IceConn connection) {
+        const bool broken = readable(IceConnectionNumber(connection)) &&
+                            IceProcessMessages(connection, nullptr, nullptr) != IceProcessMessagesSuccess;
+        if (!broken) return false;
+        state.left = true;
+        close(connection);
+        return true;
+    });
+}
+
+bool comes_to_hold(State& state, const bool& fact) {
+    return eventually([&] {
+        const std::scoped_lock lock(state.mutex);
+        return fact;
+    });
 }
 
 }  // namespace
@@ -130,10 +139,7 @@ SessionManager::SessionManager() : state_(std::make_unique<State>()) {
     std::free(ids);
     state_->listener = std::thread([&state = *state_] {
         while (!state.over) {
-            {
-                const std::scoped_lock lock(state.mutex);
-                listen(state);
-            }
+            listen(state);
             std::this_thread::sleep_for(std::chrono::milliseconds(2));
         }
     });
@@ -142,21 +148,13 @@ SessionManager::SessionManager() : state_(std::make_unique<State>()) {
 SessionManager::~SessionManager() {
     state_->over = true;
     state_->listener.join();
-    for (const IceConn connection : state_->connections) {
-        IceSetShutdownNegotiation(connection, False);
-        IceCloseConnection(connection);
-    }
+    for (const IceConn connection : state_->connections) close(connection);
     IceFreeListenObjs(state_->listener_count, state_->listeners);
 }
 
 const std::string& SessionManager::address() const { return state_->address; }
 
-bool SessionManager::joined() {
-    return eventually([this] {
-        const std::scoped_lock lock(state_->mutex);
-        return state_->saved;
-    });
-}
+bool SessionManager::joined() { return comes_to_hold(*state_, state_->saved); }
 
 bool SessionManager::save(bool logout) {
     {
@@ -177,10 +175,7 @@ bool SessionManager::end() {
         const std::scoped_lock lock(state_->mutex);
         SmsDie(state_->client);
     }
-    return eventually([this] {
-        const std::scoped_lock lock(state_->mutex);
-        return state_->left;
-    });
+    return comes_to_hold(*state_, state_->left);
 }
 
 }  // namespace tarnwick

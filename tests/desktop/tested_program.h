@@ -4,8 +4,7 @@
 
 namespace tarnwick {
 
-/// The program that the tests start: the one built with them, or another build of it, which the environment
-/// names.
+/// The program that the tests start: the one built with them, or another build that the environment names.
 inline const char* tested_program() {
     const char* other = std::getenv("TARNWICK_PROGRAM");
     return other ? other : TARNWICK_PROGRAM;

@@ -1,16 +1,14 @@
 // Two real programs on one file of settings and scores.
 
-#include <gtest/gtest.h>
 #include <sqlite3.h>
 
-#include "tools/driver/eventually.h"
-#include "tools/driver/twin_game.h"
+#include <iostream>
+
+#include "tests/desktop/reach.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {
 namespace {
-
-constexpr const char* program = TARNWICK_PROGRAM;
 
 // A second program that plays the same deal on the store of a game, without a headless twin.
 class SecondProgram {
@@ -18,7 +16,7 @@ class SecondProgram {
     explicit SecondProgram(TwinGame& game)
         : screen_(game.screen()),
           menu_bar_(game.board().y),
-          process_(program, {"--deal", "26", "--store", game.store_file()},
+          process_(tested_program(), {"--deal", "26", "--store", game.store_file()},
                    {{"QT_QPA_PLATFORM", "xcb"}, {"WAYLAND_DISPLAY", ""}}) {
         window_ = wait_for(main_title);
         EXPECT_TRUE(eventually([&] { return screen_.active() == window_; }));
@@ -47,13 +45,12 @@ class SecondProgram {
 };
 
 TEST(TwoPrograms, EnterTheirScoresIntoOneTableInOrder) {
-    TwinGame game({program, 26});
-    const Spot ace = TwinGame::spot_on(top_image(4));
+    TwinGame game({tested_program(), 26});
+    const Spot ace = TwinGame::spot_on(top_image(column_of_ace));
     const Spot run = TwinGame::spot_on(top_image(6));
     const Spot target = TwinGame::spot_on(top_image(9));
-    game.click(4);
-    game.screen().key("F2");
-    ASSERT_TRUE(game.gets_keyboard(game.wait_for(win_title)));
+    game.click(column_of_ace);
+    open(game, {"F2"}, win_title);
     {
         SecondProgram other(game);
         other.drag(ace, ace);
@@ -69,25 +66,22 @@ TEST(TwoPrograms, EnterTheirScoresIntoOneTableInOrder) {
     }
     ASSERT_TRUE(game.bring_to_front(game.wait_for(win_title)));
     game.screen().type("Ann");
-    game.screen().key("Return");
-    ASSERT_TRUE(game.gets_keyboard(game.wait_for("Scores")));
+    open(game, {"Return"}, "Scores");
     EXPECT_EQ(game.stored("high score name 1") + ' ' + game.stored("high score name 2"), "Bob Ann");
     EXPECT_GT(game.stored("high score 1"), game.stored("high score 2"));
     EXPECT_EQ(game.stored("games played"), "2");
 }
 
 TEST(TwoPrograms, WaitForEachOtherWithoutStandingStill) {
-    TwinGame game({program, 26});
-    game.click(4);
+    TwinGame game({tested_program(), 26});
+    game.click(column_of_ace);
     sqlite3* holder = nullptr;
     ASSERT_EQ(sqlite3_open(game.store_file().c_str(), &holder), SQLITE_OK);
     ASSERT_EQ(sqlite3_exec(holder, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
     const auto begin = std::chrono::steady_clock::now();
-    game.screen().key("F2");
-    ASSERT_TRUE(game.gets_keyboard(game.wait_for(win_title)));
+    open(game, {"F2"}, win_title);
     game.screen().type("Ann");
-    game.screen().key("Return");
-    ASSERT_TRUE(game.gets_keyboard(game.wait_for("Scores")));
+    open(game, {"Return"}, "Scores");
     game.screen().key("Return");
     ASSERT_TRUE(game.goes("Scores"));
     const std::chrono::duration<double> spent = std::chrono::steady_clock::now() - begin;

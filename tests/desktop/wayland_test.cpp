@@ -1,18 +1,13 @@
 // A Wayland compositor whose screen is a window, so that the game on it can be played with real events.
 
-#include <gtest/gtest.h>
 #include <signal.h>
 
 #include <QLibraryInfo>
-#include <algorithm>
-#include <cmath>
 #include <filesystem>
+#include <set>
 
 #include "settings/sqlite_store.h"
-#include "state/variables.h"
-#include "tests/desktop/tested_program.h"
-#include "tools/driver/eventually.h"
-#include "tools/driver/twin_game.h"
+#include "tests/desktop/reach.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {
@@ -25,11 +20,6 @@ constexpr int width = 1000;
 constexpr int height = 700;
 // What the menu bar takes, within the half of a card.
 constexpr int menu_bar = 25;
-constexpr int column_of_ace = 4;
-
-std::string stored(const std::string& file, const std::string& key) {
-    return SqliteStore(file).read("Tarnwick", "setting", key).value_or("-");
-}
 
 // The middle of the ace in a window of that size.
 Spot place_of_ace() {
@@ -48,8 +38,6 @@ TEST(Wayland, ACompositorThatGoesEndsTheGameInOrder) {
     const TemporaryFolder folder;
     const std::string store = folder.path() + "/settings.sqlite";
     SqliteStore(store).save("Tarnwick", "setting", "anamate", "False");
-    const Environment environment{
-        {"XDG_RUNTIME_DIR", folder.path()}, {"WAYLAND_DISPLAY", "game"}, {"QT_QPA_PLATFORM", "wayland"}};
     ChildProcess compositor(weston,
                             {"--backend=x11-backend.so", "--shell=kiosk-shell.so", "--socket=game",
                              "--no-config", "--idle-time=0", "--use-pixman",
@@ -65,14 +53,14 @@ TEST(Wayland, ACompositorThatGoesEndsTheGameInOrder) {
     };
     ASSERT_TRUE(eventually(is_there)) << compositor.errors();
     const auto colors = [&] {
-        XPixels seen = screen.pixels(window);
-        std::sort(seen.rgb.begin(), seen.rgb.end());
-        return std::unique(seen.rgb.begin(), seen.rgb.end()) - seen.rgb.begin();
+        const XPixels seen = screen.pixels(window);
+        return std::set(seen.rgb.begin(), seen.rgb.end()).size();
     };
-    const std::string name = folder.path() + "/game";
-    ASSERT_TRUE(eventually([&name] { return fs::exists(name); }));
-    ChildProcess program(tested_program(), {"--deal", "26", "--store", store}, environment);
-    constexpr int of_a_painted_board = 30;
+    ASSERT_TRUE(eventually([&] { return fs::exists(folder.path() + "/game"); }));
+    ChildProcess program(
+        tested_program(), {"--deal", "26", "--store", store},
+        {{"XDG_RUNTIME_DIR", folder.path()}, {"WAYLAND_DISPLAY", "game"}, {"QT_QPA_PLATFORM", "wayland"}});
+    constexpr std::size_t of_a_painted_board = 30;
     ASSERT_TRUE(eventually([&] {
         const XPixels seen = screen.pixels(window);
         std::this_thread::sleep_for(std::chrono::milliseconds(300));
@@ -99,9 +87,11 @@ TEST(Wayland, ACompositorThatGoesEndsTheGameInOrder) {
     ASSERT_TRUE(eventually([&] { return changed() > of_a_card; }));
     kill(compositor.pid(), SIGKILL);
     EXPECT_EQ(program.exit_code(), 1);
-    EXPECT_EQ(stored(store, "games played") + ' ' + stored(store, "average score"), "1 2")
-        << program.errors();
-    EXPECT_EQ(stored(store, "high score 1"), "2");
+    SqliteStore left(store);
+    for (const auto& [key, text] :
+         {std::pair{"games played", "1"}, {"average score", "2"}, {"high score 1", "2"}}) {
+        EXPECT_EQ(left.read("Tarnwick", "setting", key), text) << key << program.errors();
+    }
 }
 
 }  // namespace

@@ -1,20 +1,12 @@
 // The ways to end the program that wait for nobody.
 
-#include <gtest/gtest.h>
 #include <signal.h>
 
 #include <QTimer>
-#include <functional>
 
-#include "platform/headless.h"
-#include "state/variables.h"
 #include "tests/desktop/inner_game.h"
-#include "tests/desktop/own_display.h"
+#include "tests/desktop/reach.h"
 #include "tests/desktop/session_manager.h"
-#include "tests/desktop/tested_program.h"
-#include "tools/driver/board_picture.h"
-#include "tools/driver/eventually.h"
-#include "tools/driver/twin_game.h"
 #include "windows/frmCommon.h"
 #include "windows/frmFeatures.h"
 #include "windows/frmcards.h"
@@ -22,46 +14,17 @@
 namespace tarnwick {
 namespace {
 
-constexpr int column_of_ace = 4;
 constexpr std::chrono::seconds patience{20};
-const std::map<std::string, std::string> without_slides{{"anamate", "False"}};
-
-// What is told of a failed test.
-template <class Part>
-void PrintTo(const Part& part, std::ostream* out) requires requires {
-    part.name;
-}
-{ *out << part.name; }
 
 // What a game is in the middle of, and what its end must leave in the store: games played, their total, the
 // best score and its name.
 struct Situation {
     const char* name;
-    std::function<void(TwinGame&)> reach;
+    void (*reach)(TwinGame&);
     const char* left;
     bool has_better_scores = false;
     bool slides = false;
 };
-
-// Scores a point for the ace, and one for the card under it.
-void score_two(TwinGame& game) {
-    game.click(column_of_ace);
-    game.headless().desktop.advance(1000);
-    ASSERT_EQ(score, 2);
-    ASSERT_EQ(board_faults(game), "");
-}
-
-void open(TwinGame& game, const std::vector<std::string>& keys, const std::string& title) {
-    for (const std::string& key : keys) game.screen().key(key);
-    ASSERT_TRUE(game.gets_keyboard(game.wait_for(title))) << title;
-}
-
-void ask_for_name(TwinGame& game) {
-    score_two(game);
-    open(game, {"F2"}, win_title);
-    game.screen().type("Ann");
-    std::this_thread::sleep_for(std::chrono::milliseconds(100));
-}
 
 void open_settings(TwinGame& game) {
     score_two(game);
@@ -79,23 +42,22 @@ void ask_to_clear(TwinGame& game) {
     open(game, {"Tab", "space"}, "Clear Scores?");
 }
 
-const std::vector<Situation>& situations() {
-    static const std::vector<Situation> all{
-        {"NoScore", [](TwinGame&) {}, "- - - -"},
-        {"Score", score_two, "1 2 190 -", true},
-        {"BestScore", score_two, "1 2 2 "},
-        {"NameTyped", ask_for_name, "1 2 2 Ann"},
-        {"SettingsOpen", open_settings, "1 2 2 "},
-        {"SlideUnderWay",
-         [](TwinGame& game) {
-             game.click(column_of_ace);
-             game.headless().desktop.advance(1000);
-             std::this_thread::sleep_for(std::chrono::milliseconds(60));
-         },
-         "1 2 2 ", false, true},
-    };
-    return all;
+void slide(TwinGame& game) {
+    game.click(column_of_ace);
+    game.headless().desktop.advance(1000);
+    std::this_thread::sleep_for(std::chrono::milliseconds(60));
 }
+
+void type_name(TwinGame& game) {
+    score_two(game);
+    ask_for_name(game, "Ann");
+}
+
+const Situation situations[] = {
+    {"NoScore", [](TwinGame&) {}, "- - - -"},  {"Score", score_two, "1 2 190 -", true},
+    {"BestScore", score_two, "1 2 2 "},        {"NameTyped", type_name, "1 2 2 Ann"},
+    {"SettingsOpen", open_settings, "1 2 2 "}, {"SlideUnderWay", slide, "1 2 2 ", false, true},
+};
 
 std::map<std::string, std::string> store_before(const Situation& situation) {
     std::map<std::string, std::string> settings;
@@ -117,26 +79,25 @@ std::string left_in_store(const TwinGame& game) {
 // A way to end, and the exit status that tells of it.
 struct Way {
     const char* name;
-    std::function<void(TwinGame&, SessionManager&)> end;
+    void (*end)(TwinGame&, SessionManager&);
     int status;
 };
 
-Way signalled(const char* name, int signal) {
-    return {name, [signal](TwinGame& game, SessionManager&) { kill(game.program().pid(), signal); },
-            128 + signal};
+template <int number>
+void signal_to(TwinGame& game, SessionManager&) {
+    kill(game.program().pid(), number);
 }
 
-const std::vector<Way>& ways() {
-    static const std::vector<Way> all{
-        signalled("Terminated", SIGTERM),
-        signalled("Interrupted", SIGINT),
-        signalled("HungUp", SIGHUP),
-        {"CutOff", [](TwinGame& game, SessionManager&) { game.screen().cut_off(game.window()); }, 1},
-        {"LoggedOut",
-         [](TwinGame&, SessionManager& session) { ASSERT_TRUE(session.save(true) && session.end()); }, 0},
-    };
-    return all;
-}
+const Way terminated{"Terminated", signal_to<SIGTERM>, 128 + SIGTERM};
+const Way cut_off{"CutOff", [](TwinGame& game, SessionManager&) { game.screen().cut_off(game.window()); }, 1};
+const Way ways[] = {
+    terminated,
+    {"Interrupted", signal_to<SIGINT>, 128 + SIGINT},
+    {"HungUp", signal_to<SIGHUP>, 128 + SIGHUP},
+    cut_off,
+    {"LoggedOut",
+     [](TwinGame&, SessionManager& session) { ASSERT_TRUE(session.save(true) && session.end()); }, 0},
+};
 
 class Ended : public testing::TestWithParam<std::tuple<Way, Situation>> {};
 
@@ -155,31 +116,18 @@ TEST_P(Ended, CountsTheGame) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Ways, Ended,
-                         testing::Combine(testing::ValuesIn(ways()), testing::ValuesIn(situations())),
+                         testing::Combine(testing::ValuesIn(ways), testing::ValuesIn(situations)),
                          [](const auto& info) {
                              return std::string(std::get<0>(info.param).name) + std::get<1>(info.param).name;
                          });
-
-TEST(WaysToEnd, TheDisplayMayDieAsAWhole) {
-    OwnDisplay display;
-    TwinGame game({tested_program(), 26, without_slides});
-    ask_for_name(game);
-    display.kill();
-    EXPECT_EQ(game.program().exit_code(patience), 1);
-    EXPECT_EQ(left_in_store(game), "1 2 2 Ann");
-}
 
 TEST(WaysToEnd, EveryWindowGoesBeforeItsDesktop) {
     TwinGame game({tested_program(), 26, without_slides});
     open(game, {"F1"}, "Help");
     ASSERT_TRUE(game.bring_to_front(game.window()));
     pick_a_color(game);
-    game.screen().key("Escape");
-    ASSERT_TRUE(game.goes("Background Color"));
-    ASSERT_TRUE(game.gets_keyboard(game.wait_for("Select Settings")));
-    game.screen().key("Escape");
-    ASSERT_TRUE(game.goes("Select Settings"));
-    ASSERT_TRUE(game.gets_keyboard(game.window()));
+    leave(game, "Escape", "Background Color", game.wait_for("Select Settings"));
+    leave(game, "Escape", "Select Settings", game.window());
     open(game, {"ctrl+q"}, win_title);
     open(game, {"Return"}, "Scores");
     game.screen().key("Return");
@@ -197,10 +145,8 @@ TEST(WaysToEnd, ADesktopThatGoesLeavesNoViewBehind) {
         frmCommon.load();
         desktop.show_help("tarnwick.html");
     }
-    for (const Form* form :
-         {static_cast<Form*>(&frmcards), static_cast<Form*>(&frmFeatures), static_cast<Form*>(&frmCommon)}) {
-        EXPECT_TRUE(form->loaded()) << form->name();
-        EXPECT_FALSE(form->view()) << form->name();
+    for (const Form* form : std::initializer_list<const Form*>{&frmcards, &frmFeatures, &frmCommon}) {
+        EXPECT_TRUE(form->loaded() && !form->view()) << form->name();
     }
     EXPECT_TRUE(QApplication::topLevelWidgets().empty());
     const HeadlessDesktop cleaner;
@@ -208,17 +154,14 @@ TEST(WaysToEnd, ADesktopThatGoesLeavesNoViewBehind) {
 }
 
 TEST(WaysToEnd, QuestionsAreTakenBack) {
+    SessionManager nobody;
     for (const auto& ask : {pick_a_color, ask_to_clear}) {
-        for (const int signal : {SIGTERM, 0}) {
+        for (const Way& way : {terminated, cut_off}) {
             TwinGame game({tested_program(), 26, without_slides});
             ask(game);
             ASSERT_FALSE(HasFatalFailure());
-            if (signal == 0) {
-                game.screen().cut_off(game.window());
-            } else {
-                kill(game.program().pid(), signal);
-            }
-            EXPECT_EQ(game.program().exit_code(patience), signal == 0 ? 1 : 128 + signal);
+            way.end(game, nobody);
+            EXPECT_EQ(game.program().exit_code(patience), way.status);
             EXPECT_EQ(left_in_store(game), "1 2 2 ");
             EXPECT_EQ(game.stored("back color"), "-");
         }

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <random>
 
 #include "notation/position_text.h"
@@ -59,18 +58,6 @@ TEST(GameRecorder, WritesAGameThatComesOutTheSame) {
         for (const Action& action : parse_record(ScratchFolder::contents(name))) player.play(action);
         ASSERT_EQ(position_text(), end) << "seed " << seed;
     }
-}
-
-TEST(GameRecorder, TellsOnceWhenTheDiskIsFull) {
-    if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "this system has no full device";
-    GameRecorder recorder("/dev/full");
-    Play play;
-    play.start();
-    recorder.begin();
-    play.space();
-    EXPECT_NE(play.message().find("could not be written to /dev/full"), std::string::npos);
-    play.space();
-    EXPECT_EQ(play.message(), "");
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 
 #include "notation/position_text.h"
 #include "notation/record.h"
+#include "tests/notation/refusal.h"
 
 namespace tarnwick {
 namespace {
@@ -16,41 +17,27 @@ TEST(OutsideText, IsShownWithoutWhatATerminalWouldObey) {
              {"10♦ ü \\", "10♦ ü \\"},
              {"\x1b[31m\n\x7f", R"(\x1b[31m\x0a\x7f)"},
              {"a\xff\x80z", R"(a\xff\x80z)"},
-             {"\xc2\x9b"
-              "1m",
-              R"(\xc2\x9b1m)"},
+             {"\xc2\x9b[", R"(\xc2\x9b[)"},
              {"\xc0\xaf \xed\xa0\x80 \xf4\x90\x80\x80", R"(\xc0\xaf \xed\xa0\x80 \xf4\x90\x80\x80)"},
              {"\u202e\U0001f0a1", "\\xe2\\x80\\xae\U0001f0a1"},
-             {"\xe2\x99", R"(\xe2\x99)"},
-             {std::string("\0", 1), R"(\x00)"}}) {
+             {std::string("\0\xe2\x99", 3), R"(\x00\xe2\x99)"}}) {
         EXPECT_EQ(printable(text), shown);
     }
-    EXPECT_EQ(excerpt("♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠"),
-              "♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠♠");
     EXPECT_EQ(excerpt(std::string(40, '\x1b') + 'x').size(), 40 * 4 + 3U);
-}
-
-std::string refusal(const std::function<void()>& reading) {
-    try {
-        reading();
-    } catch (const std::invalid_argument& refused) {
-        return refused.what();
-    }
-    return "read";
 }
 
 TEST(OutsideText, IsRefusedInWordsThatCanBeShown) {
     const std::string bad = "\x1b" + std::string(60, 'x');
-    const std::string shown = "\"\\x1b" + std::string(39, 'x') + "...\"";
-    for (const std::string line : {"deal 1\n", "deal ", "deal 1\ndrag ", "deal 1\nturn "}) {
-        const std::string fault = refusal([&] { parse_record(line + bad); });
+    const auto expect_shown = [](const std::string& fault, const std::string& shown) {
+        EXPECT_EQ(fault.find('\x1b'), std::string::npos) << fault;
         EXPECT_NE(fault.find(shown), std::string::npos) << fault;
+        EXPECT_LT(fault.size(), 120U);
+    };
+    for (const std::string line : {"deal 1\n", "deal ", "deal 1\ndrag ", "deal 1\nturn "}) {
+        expect_shown(refusal([&] { parse_record(line + bad); }), "\"\\x1b" + std::string(39, 'x') + "...\"");
     }
     for (const std::string line : {"0: ", "score: ", "ace ", "", "\x1b 1: 7♠\n\x1b"}) {
-        const std::string fault = refusal([&] { parse_position(line + bad + (line.empty() ? ":" : ": ")); });
-        EXPECT_EQ(fault.find('\x1b'), std::string::npos) << fault;
-        EXPECT_NE(fault.find(R"(\x1b)"), std::string::npos) << fault;
-        EXPECT_LT(fault.size(), 120U);
+        expect_shown(refusal([&] { parse_position(line + bad + (line.empty() ? ":" : ": ")); }), R"(\x1b)");
     }
 }
 
@@ -68,7 +55,6 @@ TEST(OutsideText, HasLinesOf4096CharactersAtMost) {
     std::string line;
     EXPECT_TRUE(read_line(endless, line));
     EXPECT_LT(line.size(), 20000U);
-    EXPECT_THROW(check_length(line), std::invalid_argument);
 }
 
 TEST(OutsideText, MayBeginWithAByteOrderMark) {

@@ -4,6 +4,7 @@
 
 #include "notation/position_text.h"
 #include "state/soundness.h"
+#include "tests/notation/refusal.h"
 #include "tools/driver/play.h"
 
 namespace tarnwick {
@@ -33,12 +34,7 @@ TEST(PositionText, RefusesWhatCannotBe) {
         {"ace 4: A♠", "\"4\" is not a number from 0 to 3"},
     };
     for (const auto& [text, complaint] : cases) {
-        try {
-            parse_position(text);
-            ADD_FAILURE() << text;
-        } catch (const std::invalid_argument& refused) {
-            EXPECT_STREQ(refused.what(), complaint);
-        }
+        EXPECT_EQ(refusal([&, &text = text] { parse_position(text); }), complaint);
     }
 }
 

@@ -11,6 +11,7 @@
 #include <stdexcept>
 
 #include "notation/game_recorder.h"
+#include "tests/notation/refusal.h"
 #include "tests/store/scratch_folder.h"
 #include "tools/driver/play.h"
 
@@ -19,13 +20,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string refusal(const std::string& name) {
-    try {
-        const RecordFile file(name);
-    } catch (const std::runtime_error& refused) {
-        return refused.what();
-    }
-    return "opened";
+std::string opening(const std::string& name) {
+    return refusal([&] { const RecordFile file(name); });
 }
 
 struct RecordFileTest : testing::Test {
@@ -38,16 +34,20 @@ struct RecordFileTest : testing::Test {
     const std::string name = folder / "game.txt";
 };
 
-TEST_F(RecordFileTest, GoesOnBehindWhatIsThere) {
-    for (const auto& [before, after] :
-         std::vector<std::pair<std::string, std::string>>{{"", "deal 1\nturn\n"},
-                                                          {"# old\n", "# old\ndeal 1\nturn\n"},
-                                                          {"# old", "# old\ndeal 1\nturn\n"}}) {
+TEST_F(RecordFileTest, GoesOnBehindWhatIsThereAndLeavesNoHalfLine) {
+    for (const char* before : {"# old\n", "# old"}) {
         ScratchFolder::write(name, before);
         RecordFile file(name);
         file.write_line("deal 1");
         file.write_line("turn");
-        EXPECT_EQ(ScratchFolder::contents(name), after);
+        rlimit unlimited{};
+        getrlimit(RLIMIT_FSIZE, &unlimited);
+        rlimit twenty_bytes = unlimited;
+        twenty_bytes.rlim_cur = 20;
+        setrlimit(RLIMIT_FSIZE, &twenty_bytes);
+        EXPECT_THROW(file.write_line("drag 4 7"), std::runtime_error);
+        setrlimit(RLIMIT_FSIZE, &unlimited);
+        EXPECT_EQ(ScratchFolder::contents(name), "# old\ndeal 1\nturn\n");
     }
 }
 
@@ -56,36 +56,24 @@ TEST_F(RecordFileTest, LetsNobodyElseIn) {
     {
         const RecordFile file(name);
         fs::create_hard_link(name, link);
-        EXPECT_EQ(refusal(link), "another game is recorded in " + link +
+        EXPECT_EQ(opening(link), "another game is recorded in " + link +
                                      ": end that one, or name another file with --record");
     }
-    EXPECT_EQ(refusal(link), "opened");
+    EXPECT_EQ(opening(link), "accepted");
     const RecordFile nowhere("/dev/null");
-    EXPECT_EQ(refusal("/dev/null"), "opened") << "is no file";
+    EXPECT_EQ(opening("/dev/null"), "accepted") << "is no file";
 }
 
 TEST_F(RecordFileTest, RefusesInOneSentence) {
     const std::string loop = folder / "loop";
     fs::create_symlink("loop", loop);
-    EXPECT_EQ(refusal(loop), "the record of the game cannot be written to " + loop +
-                                 ": the symbolic link leads round in a circle");
     ASSERT_EQ(mkfifo(name.c_str(), 0600), 0);
-    EXPECT_EQ(refusal(name), "the record of the game cannot be written to " + name +
-                                 ": nobody reads this pipe; start its reader before the game");
-    EXPECT_EQ(refusal(folder / ""), "the record of the game cannot be written to " + (folder / "").string());
-}
-
-TEST_F(RecordFileTest, LeavesNoHalfLine) {
-    RecordFile file(name);
-    file.write_line("deal 1");
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    rlimit ten_bytes = before;
-    ten_bytes.rlim_cur = 10;
-    setrlimit(RLIMIT_FSIZE, &ten_bytes);
-    EXPECT_THROW(file.write_line("drag 4 7"), std::runtime_error);
-    setrlimit(RLIMIT_FSIZE, &before);
-    EXPECT_EQ(ScratchFolder::contents(name), "deal 1\n");
+    for (const auto& [refused, reason] : std::vector<std::pair<std::string, std::string>>{
+             {loop, ": the symbolic link leads round in a circle"},
+             {name, ": nobody reads this pipe; start its reader before the game"},
+             {folder / "", ""}}) {
+        EXPECT_EQ(opening(refused), "the record of the game cannot be written to " + refused + reason);
+    }
 }
 
 // The record of a game that goes on while something happens to its file.
@@ -140,11 +128,16 @@ TEST_F(RecordFileTest, EndsWhenItIsTakenAway) {
 
 TEST_F(RecordFileTest, IsTheSameByEveryName) {
     const std::string store = folder / "settings.sqlite";
+    fs::create_directory_symlink(".", folder / "here");
+    fs::create_symlink("settings.sqlite", folder / "link");
+    fs::create_symlink(folder / "link", folder / "far link");
+    fs::create_symlink("loop", folder / "loop");
     for (const bool exists : {false, true}) {
-        if (exists) ScratchFolder::write(store, "");
-        fs::create_directory_symlink(".", folder / "here");
-        fs::create_symlink("settings.sqlite", folder / "link");
-        fs::create_symlink(folder / "link", folder / "far link");
+        if (exists) {
+            ScratchFolder::write(store, "");
+            fs::create_hard_link(store, folder / "hard");
+        }
+        EXPECT_EQ(names_one_file(folder / "hard", store), exists);
         for (const char* same :
              {"./settings.sqlite", "here/settings.sqlite", "link", "here/link", "far link"}) {
             EXPECT_TRUE(names_one_file(folder / same, store)) << same;
@@ -153,18 +146,12 @@ TEST_F(RecordFileTest, IsTheSameByEveryName) {
              {"game.txt", "here", "loop", "loop/settings.sqlite", "far/settings.sqlite"}) {
             EXPECT_FALSE(names_one_file(folder / other, store)) << other;
         }
-        if (exists) {
-            fs::create_hard_link(store, folder / "hard");
-            EXPECT_TRUE(names_one_file(folder / "hard", store));
-        }
-        folder.empty();
-        fs::create_symlink("loop", folder / "loop");
     }
     EXPECT_TRUE(names_one_file(folder / "loop", folder / "loop"));
-    const std::filesystem::path before = std::filesystem::current_path();
-    std::filesystem::current_path(folder / "");
+    const fs::path before = fs::current_path();
+    fs::current_path(folder / "");
     EXPECT_TRUE(names_one_file("not yet.txt", folder / "not yet.txt"));
-    std::filesystem::current_path(before);
+    fs::current_path(before);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include "notation/position_text.h"
 #include "notation/record_player.h"
+#include "tests/notation/refusal.h"
 
 // That records are played as they should be is told by the signature of the recorded games.
 
@@ -31,12 +32,7 @@ TEST(Record, NamesTheLineThatIsWrong) {
              {"deal 1\ndrag 4 10", "line 2: \"10\" where " + pile},
              {"deal 1\ndrag 4 5 at -1", "line 2: \"-1\" where a place on a card, 0 to 70, should stand"},
              {"deal 1\nturn over", "line 2: \"over\" should not stand there"}}) {
-        try {
-            parse_record(text);
-            ADD_FAILURE() << text << " was read";
-        } catch (const std::invalid_argument& refused) {
-            EXPECT_EQ(refused.what(), fault);
-        }
+        EXPECT_EQ(refusal([&, &text = text] { parse_record(text); }), fault);
     }
 }
 

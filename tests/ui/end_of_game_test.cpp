@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <array>
 #include <functional>
 
 #include "board/display.h"
@@ -21,197 +22,168 @@ constexpr int enter_key = 13;
 
 std::string key(const char* name, int place) { return std::string(name) + std::to_string(place); }
 
-class EndOfGame : public testing::Test {
-  protected:
+struct Game : Play {
     // Begins with best scores of players called A, B, C ...
     void start(const std::vector<int>& scores, int points) {
-        for (std::size_t i = 0; i < scores.size(); ++i) {
-            const int place = static_cast<int>(i) + 1;
-            play.save(key("high score ", place), std::to_string(scores[i]));
-            play.save(key("high score name ", place), std::string(1, static_cast<char>('A' + i)));
+        int place = 0;
+        for (const int best : scores) {
+            const char name = static_cast<char>('A' + place++);
+            save(key("high score ", place), std::to_string(best));
+            save(key("high score name ", place), std::string(1, name));
         }
-        play.start();
+        Play::start();
         set_position("0: 7♠\nscore: " + std::to_string(points));
     }
     // The stored table as "90 A, 50 B, ..."
     std::string table() {
         std::string text;
         for (int place = 1; place <= 5; ++place) {
-            text += (place > 1 ? ", " : "") + play.stored(key("high score ", place)) + " " +
-                    play.stored(key("high score name ", place));
+            text += (place > 1 ? ", " : "") + stored(key("high score ", place)) + " " +
+                    stored(key("high score name ", place));
         }
         return text;
     }
-    static void enter_name(const char* name) {
-        frmyouwin.txtYourName.type(name);
-        EXPECT_FALSE(frmyouwin.txtYourName.key_down('x'));
-        EXPECT_TRUE(frmyouwin.txtYourName.key_down(enter_key));
-    }
-
-    Play play;
+    // The number of games, and the sum of their scores.
+    std::string counted() { return stored("games played") + ' ' + stored("average score"); }
 };
 
-struct Result {
-    int score;
-    const char* table;
-    int marked_top;  // twips; 0: the dialogs do not appear
-};
-
-class ScoreTable : public EndOfGame, public testing::WithParamInterface<Result> {};
-
-TEST_P(ScoreTable, TakesTheScoreWhereItBelongs) {
-    const auto& [points, expected, marked_top] = GetParam();
-    play.desktop.set_date("31/12/2024");
-    start({90, 70, 50, 30, 10}, points);
-    frmcards.mnuNew.choose();
-    EXPECT_EQ(frmyouwin.visible(), marked_top != 0);
-    EXPECT_EQ(frmcards.enabled(), marked_top == 0);
-    if (marked_top != 0) {
-        EXPECT_TRUE(frmyouwin.lblNewHighScore.visible() && !frmyouwin.lblYouWin.visible());
-        EXPECT_TRUE(shows("0: 7♠")) << "the table stays until the dialogs are closed";
-        enter_name("New");
-        EXPECT_TRUE(frmBestScore.shpBestSquare.visible());
-        EXPECT_EQ(frmBestScore.shpBestSquare.top(), pixels(marked_top));
-        EXPECT_EQ(play.stored(key("high score date ", (marked_top - 120) / 360)), "31/12/2024");
-        frmBestScore.cmdOk.click();
-    }
-    EXPECT_EQ(table(), expected);
-    EXPECT_EQ(play.stored("games played"), "1");
-    EXPECT_EQ(play.stored("average score"), std::to_string(points));
-    EXPECT_EQ(play.stored("games won"), "-");
-    EXPECT_TRUE(frmcards.enabled());
-    EXPECT_EQ(state_faults() + display_faults(), "") << "a new game is dealt";
-    set_position("0: 7♠\nscore: 5");
-    frmcards.mnuNew.choose();
-    EXPECT_EQ(play.stored("games played"), "2");
-    EXPECT_EQ(play.stored("average score"), std::to_string(points + 5));
-    frmcards.mnuNew.choose();
-    EXPECT_EQ(play.stored("games played"), "2") << "a game without a point is not counted";
+void enter_name(const char* name) {
+    frmyouwin.txtYourName.type(name);
+    EXPECT_FALSE(frmyouwin.txtYourName.key_down('x'));
+    EXPECT_TRUE(frmyouwin.txtYourName.key_down(enter_key));
 }
 
-INSTANTIATE_TEST_SUITE_P(Places, ScoreTable,
-                         testing::Values(Result{95, "95 New, 90 A, 70 B, 50 C, 30 D", 480},
-                                         Result{90, "90 New, 90 A, 70 B, 50 C, 30 D", 480},
-                                         Result{89, "90 A, 89 New, 70 B, 50 C, 30 D", 840},
-                                         Result{10, "90 A, 70 B, 50 C, 30 D, 10 New", 1920},
-                                         Result{9, "90 A, 70 B, 50 C, 30 D, 10 E", 0}));
+struct EndOfGame : testing::Test {
+    Game play;
+};
 
-TEST_F(EndOfGame, WithoutANameKeepsTheScoreAndLetsThePlayerOn) {
-    start({}, 40);
-    frmcards.mnuNew.choose();
-    frmyouwin.close();
-    EXPECT_TRUE(frmBestScore.visible());
-    EXPECT_EQ(table().substr(0, 5), "40 , ") << "an empty name is stored as empty text";
-    frmBestScore.close();
-    EXPECT_TRUE(frmcards.enabled());
-    EXPECT_EQ(state_faults(), "");
+TEST(ScoreTable, TakesTheScoreWhereItBelongs) {
+    const struct {
+        int points;
+        const char* table;
+        int place;  // 0: the dialogs do not appear
+    } cases[] = {{95, "95 New, 90 A, 70 B, 50 C, 30 D", 1},
+                 {90, "90 New, 90 A, 70 B, 50 C, 30 D", 1},
+                 {89, "90 A, 89 New, 70 B, 50 C, 30 D", 2},
+                 {10, "90 A, 70 B, 50 C, 30 D, 10 New", 5},
+                 {9, "90 A, 70 B, 50 C, 30 D, 10 E", 0}};
+    for (const auto& [points, expected, place] : cases) {
+        SCOPED_TRACE(points);
+        Game play;
+        play.desktop.set_date("31/12/2024");
+        play.start({90, 70, 50, 30, 10}, points);
+        frmcards.mnuNew.choose();
+        EXPECT_EQ(frmyouwin.visible(), place != 0);
+        EXPECT_EQ(frmcards.enabled(), place == 0);
+        if (place != 0) {
+            EXPECT_TRUE(frmyouwin.lblNewHighScore.visible() && !frmyouwin.lblYouWin.visible());
+            EXPECT_TRUE(shows("0: 7♠")) << "the table stays until the dialogs are closed";
+            enter_name("New");
+            EXPECT_TRUE(frmBestScore.shpBestSquare.visible());
+            EXPECT_EQ(frmBestScore.shpBestSquare.top(), pixels(120 + 360 * place));
+            EXPECT_EQ(play.stored(key("high score date ", place)), "31/12/2024");
+            frmBestScore.cmdOk.click();
+        }
+        EXPECT_EQ(play.table(), expected);
+        EXPECT_EQ(play.counted(), "1 " + std::to_string(points));
+        EXPECT_EQ(play.stored("games won"), "-");
+        EXPECT_TRUE(frmcards.enabled());
+        EXPECT_EQ(state_faults() + display_faults(), "") << "a new game is dealt";
+        set_position("0: 7♠\nscore: 5");
+        frmcards.mnuNew.choose();
+        frmcards.mnuNew.choose();
+        EXPECT_EQ(play.counted(), "2 " + std::to_string(points + 5)) << "not one without a point";
+    }
 }
 
 TEST_F(EndOfGame, IsCountedOnceWhenTheGameIsClosedBehindItsDialogs) {
-    start({}, 40);
+    play.start({}, 40);
     frmcards.mnuNew.choose();
     end_game();
-    enter_name("New");
+    enter_name("Bob");
     end_game();
     redisplay_column(10);
     frmError.Command2.click();
-    EXPECT_EQ(play.stored("games played"), "1");
+    EXPECT_EQ(play.counted(), "1 40");
+    EXPECT_EQ(play.table().find("40 Bob, 0 "), 0U) << play.table();
 }
 
 TEST_F(EndOfGame, ByShutDownCountsTheGameAndStillAsksForTheName) {
-    start({}, 40);
+    play.start({}, 40);
     frmcards.mnuExit.choose();
     EXPECT_FALSE(frmcards.loaded());
     EXPECT_EQ(play.stored("games played"), "1");
     ASSERT_TRUE(frmyouwin.visible());
     enter_name("Last");
-    EXPECT_EQ(table().substr(0, 7), "40 Last");
+    EXPECT_EQ(play.table().substr(0, 7), "40 Last");
     frmBestScore.cmdOk.click();
     EXPECT_FALSE(frmBestScore.loaded() || frmcards.loaded()) << "nothing is dealt any more";
 }
 
-TEST_F(EndOfGame, WithoutThePlayerCountsTheGameAndRecordsTheNameTypedSoFar) {
-    struct {
+void type_half_a_name(MenuEntry& entry) {
+    entry.choose();
+    frmyouwin.txtYourName.type("Ann");
+}
+
+TEST(EndOfGameWithoutThePlayer, CountsTheGameAndRecordsTheNameTypedSoFar) {
+    const struct {
         const char* name;
         std::function<void()> before;
         const char* table;
-    } const cases[] = {
-        {"a game in hand", [] {}, "40 "},
-        {"a low score", [] { score = 9; }, "90 A"},
-        {"behind the settings", [] { frmcards.mnuSetings.choose(); }, "40 "},
-        {"behind an error", [] { redisplay_column(10); }, "40 "},
-        {"a name half typed",
-         [] {
-             frmcards.mnuNew.choose();
-             frmyouwin.txtYourName.type("Ann");
-         },
-         "40 Ann"},
-        {"a name half typed after the main window",
-         [] {
-             frmcards.mnuExit.choose();
-             frmyouwin.txtYourName.type("Ann");
-         },
-         "40 Ann"},
-        {"the table of the entry",
-         [] {
-             frmcards.mnuNew.choose();
-             enter_name("Bob");
-         },
-         "40 Bob"},
+    } cases[] = {
+        {"a game in hand", [] {}, "40 , 0 "},
+        {"a low score", [] { score = 9; }, "90 A, 90 B"},
+        {"behind the settings", [] { frmcards.mnuSetings.choose(); }, "40 , 0 "},
+        {"behind an error", [] { redisplay_column(10); }, "40 , 0 "},
+        {"a name half typed", [] { type_half_a_name(frmcards.mnuNew); }, "40 Ann, 0 "},
+        {"after the main window", [] { type_half_a_name(frmcards.mnuExit); }, "40 Ann, 0 "},
     };
-    for (const auto& [name, before, expected] : cases) {
+    for (const auto& [name, before, table] : cases) {
         SCOPED_TRACE(name);
-        Play other;
-        const bool low = std::string(expected) == "90 A";
-        for (int place = 1; low && place <= 5; ++place) other.save(key("high score ", place), "90");
-        if (low) other.save("high score name 1", "A");
-        other.start();
-        set_position("0: 7♠\nscore: 40");
+        Game play;
+        const bool low = table[0] == '9';
+        play.start(low ? std::vector{90, 90, 90, 90, 90} : std::vector<int>{}, 40);
         before();
         shut_down_program();
         EXPECT_FALSE(frmcards.loaded() || frmyouwin.loaded() || frmBestScore.loaded() || frmError.loaded());
-        EXPECT_EQ(other.stored("games played"), "1");
-        EXPECT_EQ(other.stored("average score"), low ? "9" : "40");
-        EXPECT_EQ(other.stored("high score 1") + ' ' + (low ? "A" : other.stored("high score name 1")),
-                  expected);
-        EXPECT_EQ(other.stored("high score 2"), low ? "90" : "0");
-        EXPECT_EQ(other.message(), "");
+        EXPECT_EQ(play.counted(), low ? "1 9" : "1 40");
+        EXPECT_EQ(play.table().find(table), 0U) << play.table();
+        EXPECT_EQ(play.message(), "");
     }
 }
 
 TEST_F(EndOfGame, CountsAFinishedGameOnceOrNotAtAll) {
-    start({90, 70, 50, 30, 10}, 40);
+    play.start({90, 70, 50, 30, 10}, 40);
     play.save("high score 4", "lots");
     for (int i = 0; i < 3; ++i) {
         frmcards.mnuNew.choose();
         EXPECT_TRUE(frmError.visible());
         frmError.Command1.click();
-        EXPECT_EQ(play.stored("games played") + play.stored("average score"), "--") << "nothing is counted";
+        EXPECT_EQ(play.counted(), "- -");
         EXPECT_TRUE(shows("0: 7♠"));
     }
     play.save("high score 4", "30");
     frmcards.mnuNew.choose();
     enter_name("New");
-    EXPECT_EQ(play.stored("games played") + ' ' + play.stored("average score"), "1 40");
-    EXPECT_EQ(table(), "90 A, 70 B, 50 C, 40 New, 30 D");
+    EXPECT_EQ(play.counted(), "1 40");
+    EXPECT_EQ(play.table(), "90 A, 70 B, 50 C, 40 New, 30 D");
 }
 
 TEST_F(EndOfGame, FindsThePlaceOfAnEntryWhenItIsEntered) {
     // Another window enters a score while the name is typed.
-    for (const int other : {60, 20}) {
-        start({90, 70, 50, 30, 10}, 40);
+    for (const auto& [third, fourth, place] : {std::array{"60", "50", "5"}, {"50", "30", "4"}}) {
+        play.start({90, 70, 50, 30, 10}, 40);
         frmcards.mnuNew.choose();
         play.save("high score 5", "30");
-        play.save("high score 4", other == 60 ? "50" : "30");
-        play.save("high score 3", other == 60 ? "60" : "50");
+        play.save("high score 4", fourth);
+        play.save("high score 3", third);
         enter_name("New");
-        const int place = other == 60 ? 5 : 4;
-        EXPECT_EQ(play.stored(key("high score name ", place)), "New");
-        EXPECT_EQ(frmBestScore.shpBestSquare.top(), pixels(120 + 360 * place));
+        EXPECT_EQ(play.stored(std::string("high score name ") + place), "New");
+        EXPECT_EQ(frmBestScore.shpBestSquare.top(), pixels(120 + 360 * (place[0] - '0')));
         frmBestScore.cmdOk.click();
         end_program();
     }
-    start({90, 70, 50, 30, 10}, 20);
+    play.start({90, 70, 50, 30, 10}, 20);
     frmcards.mnuNew.choose();
     play.save("high score 5", "21");
     enter_name("New");
@@ -222,17 +194,22 @@ TEST_F(EndOfGame, FindsThePlaceOfAnEntryWhenItIsEntered) {
     EXPECT_EQ(play.stored("high score 5"), "21");
 }
 
-TEST_F(EndOfGame, ShowsTheEntryInATableThatIsOpenAlready) {
-    start({}, 40);
-    frmBestScore.load();
-    frmBestScore.show();
-    frmcards.mnuNew.choose();
-    enter_name("New");
-    EXPECT_EQ(frmBestScore.lblHighScoreName(1).caption(), "New");
-    EXPECT_TRUE(frmBestScore.shpBestSquare.visible());
-    EXPECT_EQ(high_score_place, none);
-    frmBestScore.cmdOk.click();
-    EXPECT_EQ(state_faults(), "") << "the next game is dealt";
+TEST_F(EndOfGame, WithoutANameKeepsTheScoreInATableThatMayBeOpenAlready) {
+    for (const bool open : {false, true}) {
+        play.start({}, open ? 60 : 40);
+        if (open) frmBestScore.load();
+        if (open) frmBestScore.show();
+        frmcards.mnuNew.choose();
+        frmyouwin.close();
+        EXPECT_TRUE(frmBestScore.visible() && frmBestScore.shpBestSquare.visible());
+        EXPECT_EQ(play.table().find(open ? "60 , 40 , 0 " : "40 , 0 "), 0U) << "an empty name is stored";
+        EXPECT_EQ(frmBestScore.lblHighScore(1).caption(), open ? "60" : "40");
+        EXPECT_EQ(high_score_place, none);
+        frmBestScore.close();
+        EXPECT_TRUE(frmcards.enabled());
+        EXPECT_EQ(state_faults(), "") << "the next game is dealt";
+        end_program();
+    }
 }
 
 }  // namespace

@@ -11,7 +11,7 @@
 #include "state/soundness.h"
 #include "state/undo_list.h"
 #include "state/variables.h"
-#include "tests/random_play/rules.h"
+#include "tests/play/rules.h"
 #include "tools/driver/play.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmError.h"

@@ -1,4 +1,4 @@
-#include "tests/random_play/rules.h"
+#include "tests/play/rules.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "tests/random_play/random_player.h"
+#include "tests/play/random_player.h"
 
 #include <gtest/gtest.h>
 
