@@ -1,7 +1,7 @@
 #include "bench/table.h"
 
 #include "game/deal.h"
-#include "game/drop_dispatch.h"
+#include "game/drops.h"
 #include "game/tablet.h"
 #include "game/undo.h"
 #include "platform/random.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "state/rounding.h"
+#include "board/twinkle.h"
 #include "state/routine.h"
 #include "state/undo_list.h"
 #include "windows/frmcards.h"
@@ -19,10 +19,11 @@ constexpr int slot_offset = 20;
 void turn_up_top_card(int c, int top) {
     layout(c, top, face_down_field) = 0;
     frmcards.Image1(face_down_image(c, top)).hide();
-    score += 1;
-    show_score();
+    add_to_score(1);
     add_undo(turned_up_record, turned_up_record, turned_up_record);
 }
+
+Picture stock_picture() { return turned_slot() == last_tablet_slot() ? Picture{} : back_in_use(); }
 
 void place_column_card(Image& image, float left, float top, float width, float height) {
     image.move(left, top, width, height);
@@ -40,11 +41,7 @@ void place_single_ace(const Integer& p) {
     frmcards.Image1(picture).hide();
     frmcards.Image1(first_ace_zone + p).hide();
     display_column(picture, top_row, whole(static_cast<float>(ace_pile_left(p)) * x_scale));
-    if (picture == ace_of_spades_image) {
-        animation(twinkle_frame) = first_twinkle_image;
-        frmcards.Image1(ace_of_spades_image).set_picture(frmcards.Image1(first_twinkle_image).picture());
-        frmcards.Timer1.set_interval(twinkle_frame_time);
-    }
+    if (picture == ace_of_spades_image) begin_twinkle();
 }
 
 void place_top_two(const Integer& p) {
@@ -58,8 +55,8 @@ void place_top_two(const Integer& p) {
     }
     const int picture = aces(p, picture_field);
     frmcards.Image1(picture).hide();
-    display_column(aces(p, beneath_picture_field), top_row,
-                   whole(static_cast<float>(beneath_card_left(p)) * x_scale));
+    display_column(
+        aces(p, beneath_picture_field), top_row, whole(static_cast<float>(beneath_card_left(p)) * x_scale));
     display_column(picture, top_row, whole(static_cast<float>(ace_pile_left(p)) * x_scale));
     frmcards.Image1(picture).show();
 }
@@ -69,16 +66,28 @@ void place_top_two(const Integer& p) {
 void display_column(const Integer& image, const Integer& top, const Integer& left) {
     reporting("display_column", [&] {
         Image& card = frmcards.Image1(image);
-        card.move(static_cast<float>(left), static_cast<float>(top), card_width * card_scale,
+        card.move(static_cast<float>(left),
+                  static_cast<float>(top),
+                  card_width * card_scale,
                   card_height * card_scale);
         card.show();
         card.bring_to_front();
     });
 }
 
-void display_turned_card(const Integer& picture) {
-    display_column(picture, top_row, whole(turned_card_left * x_scale));
+void display_turned_card() {
+    const int slot = turned_slot();
+    shown_tablet_image() = slot == -1 ? empty_waste_image : int{tablet(slot, picture_field)};
+    if (slot != -1) display_column(shown_tablet_image(), top_row, whole(turned_card_left * x_scale));
 }
+
+void show_stock() {
+    Image& stock = frmcards.Image1(stock_image);
+    stock.set_picture(stock_picture());
+    stock.show();
+}
+
+void hide_stock() { frmcards.Image1(stock_image).hide(); }
 
 void redisplay_column(const Integer& c) {
     reporting("redisplay_column", [&] {
@@ -115,8 +124,10 @@ void redisplay_aces(const Integer& p, const Integer& mode) {
         const float zone_width = std::max(120 * card_scale, 25 * x_scale + card_width * card_scale);
         frmcards.Image1(first_ace_zone + p)
             .move(static_cast<float>(158 * p + 216) * x_scale, 5, zone_width, 106 * card_scale);
-        frmcards.Shape1(p).move(static_cast<float>(ace_pile_left(p)) * x_scale, top_row,
-                                card_width * card_scale, card_height * card_scale);
+        frmcards.Shape1(p).move(static_cast<float>(ace_pile_left(p)) * x_scale,
+                                top_row,
+                                card_width * card_scale,
+                                card_height * card_scale);
     });
 }
 
@@ -137,21 +148,24 @@ Image& top_image(int pile) {
     return frmcards.Image1(layout(pile, column_top(pile), column_picture_field));
 }
 
+void hide_face(int picture) { frmcards.Image1(picture).hide(); }
+
 void change_back(const Integer& n) {
     reporting("change_back", [&] {
         const Picture back = frmcards.ImgCardBacks(n).picture();
-        frmcards.Image1(stock_image).set_picture(back);
+        card_back = n;
+        frmcards.Image1(stock_image).set_picture(stock_picture());
         for (int c = 1; c <= 9; ++c) {
             for (int k = 0; k < c; ++k) frmcards.Image1(face_down_image(c, k)).set_picture(back);
         }
     });
 }
 
-Picture current_back() {
-    // Any face-down card shows the back, unless it is the one that is being peeked at.
-    const int image = face_down_image(2, 1);
-    const bool peeked = animation(peeked_image) == peek_mark + image;
-    return frmcards.Image1(peeked ? face_down_image(1, 0) : image).picture();
+Picture back_in_use() { return frmcards.ImgCardBacks(card_back).picture(); }
+
+void add_to_score(int points) {
+    score += points;
+    show_score();
 }
 
 void show_score() { frmcards.LblScore.set_caption(std::to_string(score)); }

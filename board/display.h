@@ -1,16 +1,13 @@
 #pragma once
 
 #include "platform/image.h"
-#include "platform/picture.h"
-#include "state/integer.h"
+#include "state/checked.h"
 
 namespace tarnwick {
 
 // Showing the game: every card is an image of the main window, placed here. Positions are pixels from the top
 // left corner of the table; those of the 800 pixels wide design are multiplied by x_scale.
 
-/// Top of the stock, the turned card and the cards on the ace piles.
-inline constexpr int top_row = 10;
 /// Left of the turned card of the tablet, before scaling.
 inline constexpr int turned_card_left = 83;
 
@@ -21,8 +18,13 @@ constexpr int beneath_card_left(int p) { return 158 * p + 220; }
 /// Places one card image at (left, top) in the size of a card, shows it and brings it to the front.
 void display_column(const Integer& image, const Integer& top, const Integer& left);
 
-/// Shows a card of the tablet as the turned one.
-void display_turned_card(const Integer& picture);
+/// Shows the turned card of the tablet, or the empty place where none is turned.
+void display_turned_card();
+
+/// Shows the stock as the tablet has it: a card back, or an empty place when all cards are turned.
+void show_stock();
+/// The stock is no longer needed.
+void hide_stock();
 
 /// Lays out column c, 0 to 9. A face-down card on top is turned up first: one point, and an undo record.
 void redisplay_column(const Integer& c);
@@ -42,12 +44,16 @@ int ace_pile_mode(int p);
 /// The image seen on top of a pile, or its drop zone (the stock for the tablet) when it is empty.
 Image& top_image(int pile);
 
-/// Puts card back n, 0 to 5, on the stock and on all face-down cards.
+/// Hides the face of a card.
+void hide_face(int picture);
+
+/// Puts card back n, 0 to 5, on the stock and on all face-down cards. An empty place of the stock stays one.
 void change_back(const Integer& n);
+/// The picture of the card back in use.
+Picture back_in_use();
 
-/// The picture of the card backs in use.
-Picture current_back();
-
+/// Changes the score by so many points, and shows it.
+void add_to_score(int points);
 /// Shows `score` in its label.
 void show_score();
 

@@ -5,7 +5,7 @@
 #include <iostream>
 #include <string>
 
-#include "state/soundness.h"
+#include "tests/play/soundness.h"
 
 namespace tarnwick {
 

@@ -3,10 +3,11 @@
 
 #include <cstdint>
 
-#include "board/display_check.h"
+#include "board/slide.h"
 #include "fuzz/byte_source.h"
 #include "platform/headless.h"
 #include "platform/random.h"
+#include "tests/play/display_check.h"
 #include "ui/program.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmError.h"
@@ -56,9 +57,14 @@ void send_drag(ByteSource& source) {
 }
 
 void choose_menu(int number) {
-    MenuEntry* const entries[] = {&frmcards.mnuNew,  &frmcards.mnuRestart, &frmcards.mnuScore,
-                                  &frmcards.mnuUndo, &frmcards.mnuSetings, &frmcards.mnuAbout,
-                                  &frmcards.mnuUndo, &frmcards.mnuUndo};
+    MenuEntry* const entries[] = {&frmcards.mnuNew,
+                                  &frmcards.mnuRestart,
+                                  &frmcards.mnuScore,
+                                  &frmcards.mnuUndo,
+                                  &frmcards.mnuSetings,
+                                  &frmcards.mnuAbout,
+                                  &frmcards.mnuUndo,
+                                  &frmcards.mnuUndo};
     entries[number % 8]->choose();
 }
 
@@ -135,7 +141,7 @@ void send_event(ByteSource& source, HeadlessDesktop& table) {
 
 // While a card slides, and behind a dialog, the table may show what it likes.
 void demand_true_display() {
-    if (frmcards.Timer3.enabled() || !frmcards.enabled()) return;
+    if (slide_is_under_way() || !frmcards.enabled()) return;
     const std::string faults = display_faults();
     if (faults.empty()) return;
     std::cerr << "after an event: " << faults << '\n';

@@ -1,12 +1,8 @@
 #pragma once
 
-#include "state/integer.h"
 #include "state/variables.h"
 
 namespace tarnwick {
-
-/// Points for the ace that fills the last empty ace pile, on top of the point for the card.
-inline constexpr int fourth_ace_bonus = 10;
 
 /// Whether the rule lets a card onto ace pile p, 0 to 3.
 bool ace_pile_takes(int p, const Card& card);

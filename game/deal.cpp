@@ -4,9 +4,12 @@
 #include <array>
 
 #include "board/display.h"
-#include "board/timed_effects.h"
+#include "board/peek.h"
+#include "board/slide.h"
+#include "board/twinkle.h"
 #include "platform/random.h"
 #include "settings/settings.h"
+#include "state/piles.h"
 #include "state/variables.h"
 #include "windows/frmcards.h"
 
@@ -17,10 +20,14 @@ constexpr int shuffle_passes = 3;
 
 using Cards = std::array<Card, card_count>;
 
-void put_into_deck(int row, int rank, int suit, int picture) {
-    deck(row, rank_field) = rank;
-    deck(row, suit_field) = suit;
-    deck(row, picture_field) = picture;
+Card card_in_deck(int row) {
+    return {deck(row, rank_field), deck(row, suit_field), deck(row, picture_field)};
+}
+
+void put_into_deck(int row, const Card& card) {
+    deck(row, rank_field) = card.rank;
+    deck(row, suit_field) = card.suit;
+    deck(row, picture_field) = card.picture;
 }
 
 void reset_state() {
@@ -35,9 +42,9 @@ void reset_state() {
         aces(p, beneath_rank_field) = none;
         aces(p, third_picture_field) = none;
     }
-    animation(twinkle_frame) = no_twinkle;
-    animation(peeked_image) = no_peek;
-    animation(slide_wins_game) = 0;
+    reset_twinkle();
+    reset_peek();
+    reset_slide();
     high_score_place = none;
     phase = Phase::playing;
     closing = flag_false;
@@ -50,8 +57,7 @@ void clear_table() {
     frmcards.mouse().cancel();
     frmcards.mnuUndo.set_visible(false);
     frmcards.Image1(plain_ace_image).hide();
-    for (int i = stock_image; i < first_ace_zone + 4; ++i) frmcards.Image1(i).show();
-    frmcards.Image1(stock_image).set_picture(current_back());
+    for (int p = 0; p <= 3; ++p) frmcards.Image1(first_ace_zone + p).show();
     for (int i = first_face_image; i <= last_face_image; ++i) {
         Image& face = frmcards.Image1(i);
         face.set_drag_mode(DragMode::automatic);
@@ -71,51 +77,42 @@ void shuffle_once(Cards& cards) {
     std::copy(drawn.rbegin(), drawn.rend(), cards.begin());
 }
 
-void deal_to_column(int c, int slot, int row, bool face_down) {
-    layout(c, slot, rank_field) = deck(row, rank_field);
-    layout(c, slot, suit_field) = deck(row, suit_field);
-    layout(c, slot, face_down_field) = face_down ? 1 : 0;
-    layout(c, slot, column_picture_field) = deck(row, picture_field);
+// Shows the deal as it lies in columns and tablet.
+void show_deal() {
+    show_stock();
+    for (int c = 0; c <= last_column; ++c) redisplay_column(c);
 }
 
 }  // namespace
 
+void stop_effects() {
+    stop_twinkle();
+    end_peek();
+    stop_slide();
+}
+
 void build_deck() {
-    for (int suit = hearts; suit <= clubs; ++suit) {
-        const int base = cards_per_suit * suit;
-        for (int rank = ace; rank <= king; ++rank) {
-            put_into_deck(base + rank, rank, suit, first_picture + base + rank);
-        }
-        // The second pack has no aces.
-        for (int rank = two; rank <= king; ++rank) {
-            put_into_deck(base + king + rank, rank, suit, first_picture + king + base + rank);
-        }
-    }
+    for (int row = 0; row < card_count; ++row) put_into_deck(row, card_of_picture(first_picture + row));
 }
 
 void shuffle_deck() {
     random_generator().randomize();
     Cards cards;
-    for (int row = 0; row < card_count; ++row) {
-        cards[static_cast<std::size_t>(row)] = {deck(row, rank_field), deck(row, suit_field),
-                                                deck(row, picture_field)};
-    }
+    for (int row = 0; row < card_count; ++row) cards[static_cast<std::size_t>(row)] = card_in_deck(row);
     for (int pass = 0; pass < shuffle_passes; ++pass) shuffle_once(cards);
-    for (int row = 0; row < card_count; ++row) {
-        const Card& card = cards[static_cast<std::size_t>(row)];
-        put_into_deck(row, card.rank, card.suit, card.picture);
-    }
+    for (int row = 0; row < card_count; ++row) put_into_deck(row, cards[static_cast<std::size_t>(row)]);
 }
 
 void deal_cards() {
     int row = 0;
     for (int c = 0; c <= last_column; ++c) {
-        for (int slot = 0; slot <= c; ++slot) deal_to_column(c, slot, row++, slot < c);
+        for (int slot = 0; slot <= c; ++slot) {
+            put_into_slot(c, slot, card_in_deck(row++));
+            layout(c, slot, face_down_field) = slot < c ? 1 : 0;
+        }
         column_top(c) = c;
     }
-    for (int slot = 0; slot < tablet_size; ++slot, ++row) {
-        for (int field = 0; field <= 2; ++field) tablet(slot, field) = deck(row, field);
-    }
+    for (int slot = 0; slot < tablet_size; ++slot) put_into_tablet(slot, card_in_deck(row++));
     last_tablet_slot() = tablet_size - 1;
     saved_tablet = tablet;
     saved_layout = layout;
@@ -127,7 +124,7 @@ void new_game() {
     build_deck();
     shuffle_deck();
     deal_cards();
-    for (int c = 0; c <= last_column; ++c) redisplay_column(c);
+    show_deal();
     change_back(to_integer(read_setting(key_card_back, default_card_back)));
 }
 
@@ -137,7 +134,7 @@ void restart_game() {
     clear_table();
     tablet = saved_tablet;
     layout = saved_layout;
-    for (int c = 0; c <= last_column; ++c) redisplay_column(c);
+    show_deal();
 }
 
 }  // namespace tarnwick

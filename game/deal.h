@@ -9,6 +9,11 @@ void new_game();
 /// Lays the same deal out again, with score, ace piles and undo list as new.
 void restart_game();
 
+/// Ends the timed effects where they are: the ace of Spades plain, a peeked card covered again, a sliding
+/// card left where it is, for whoever deals or lays out the cards anew. Throws ConversionError as end_peek()
+/// does.
+void stop_effects();
+
 /// Fills `deck` in order of suits and packs: row i holds picture 200 + i.
 void build_deck();
 

@@ -1,6 +1,6 @@
 #include "game/end_game.h"
 
-#include "board/timed_effects.h"
+#include "board/slide.h"
 #include "game/best_scores.h"
 #include "game/deal.h"
 #include "platform/desktop.h"
@@ -34,13 +34,13 @@ void count(bool slide_cut_short) {
 }  // namespace
 
 void end_game() {
-    const bool slide_cut_short = frmcards.Timer3.enabled();
+    const bool slide_cut_short = slide_is_under_way();
     bool ended = false;
     reporting("end_game", [&ended, slide_cut_short] {
         if (phase == Phase::playing) {
             stop_effects();
             if (score != 0) count(slide_cut_short);
-            if (frmcards.enabled()) new_game();
+            if (phase == Phase::playing) new_game();
         }
         ended = true;
     });
@@ -59,16 +59,12 @@ void deal_next_game() {
 }
 
 void finish_slide() {
-    if (end_won_game()) return;
-    land_slide();
-    animation(slide_wins_game) = 0;
+    if (!end_won_game()) land_slide();
 }
 
 bool end_won_game() {
-    const bool wins = frmcards.Timer3.enabled() && animation(slide_wins_game) == 1;
-    if (!wins || !all_ace_piles_complete()) return false;
+    if (!slide_wins() || !all_ace_piles_complete()) return false;
     land_slide();
-    animation(slide_wins_game) = 0;
     end_game();
     return true;
 }

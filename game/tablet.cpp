@@ -10,60 +10,80 @@ namespace {
 
 constexpr int cards_per_turn = 5;
 
-Image& stock() { return frmcards.Image1(stock_image); }
-Picture empty_place() { return frmcards.Image1(first_column_zone + 1).picture(); }
+// What a click on the tablet does: the last three begin a new pass.
+enum class Turn { undecided, five, the_rest, nothing_left, last_pass, new_pass };
+constexpr bool begins_pass(Turn turn) { return turn >= Turn::nothing_left; }
 
-void hide_shown_card() { frmcards.Image1(shown_tablet_image()).hide(); }
-void record_turn() { add_undo(turn_record, turn_record, turned_slot()); }
-void show_slot(int slot) { shown_tablet_image() = tablet(slot, picture_field); }
+Turn next_turn() {
+    const int face_down = last_tablet_slot() - turned_slot();
+    if (turned_slot() != -1 && face_down != 0)
+        return face_down > cards_per_turn ? Turn::five : Turn::the_rest;
+    if (last_tablet_slot() == -1) return Turn::nothing_left;
+    return last_tablet_slot() < cards_per_turn ? Turn::last_pass : Turn::new_pass;
+}
 
-void turn_on(Statements& then) {
-    if (then.holds("are more than five of them left?",
-                   [] { return last_tablet_slot() - turned_slot() > cards_per_turn; })) {
-        then("turn five: record it", [] { record_turn(); });
-        then("turn five", [] { turned_slot() += cards_per_turn; });
-        then("turn five: hide the card shown", [] { hide_shown_card(); });
-        then("turn five: show the last of them", [] { show_slot(turned_slot()); });
-    } else {
-        then("turn the rest: empty the stock's place", [] { stock().set_picture(empty_place()); });
-        then("turn the rest: hide the card shown", [] { hide_shown_card(); });
-        then("turn the rest: show the last card", [] { show_slot(last_tablet_slot()); });
-        then("turn the rest: record it", [] { record_turn(); });
-        then("turn the rest", [] { turned_slot() = last_tablet_slot(); });
+void hide_shown_card() { hide_face(shown_tablet_image()); }
+
+// Turns the cards up to `slot`.
+void turn_to(int slot) {
+    shown_tablet_image() = tablet(slot, picture_field);
+    add_undo(turn_record, turn_record, turned_slot());
+    turned_slot() = slot;
+}
+
+void turn_five() {
+    hide_shown_card();
+    turn_to(turned_slot() + cards_per_turn);
+}
+
+void turn_the_rest() {
+    hide_shown_card();
+    turn_to(last_tablet_slot());
+    show_stock();
+}
+
+void turn_last_pass() {
+    hide_stock();
+    turn_to(last_tablet_slot());
+}
+
+void turn_new_pass() {
+    turn_to(cards_per_turn - 1);
+    show_stock();
+}
+
+void uncover_next_card() { turned_slot() -= 1; }
+
+void close_gap() {
+    const int last = last_tablet_slot();
+    for (int slot = turned_slot() + 2; slot <= last; ++slot) {
+        for (int field = 0; field <= 2; ++field) tablet(slot - 1, field) = tablet(slot, field);
     }
 }
 
-void start_new_pass(Statements& then) {
-    then("new pass: hide the card shown", [] { hide_shown_card(); });
-    if (then.holds("is the tablet empty?", [] { return last_tablet_slot() == -1; })) {
-        then("nothing to turn: hide the stock", [] { stock().hide(); });
-    } else if (then.holds("are fewer than five left?", [] { return last_tablet_slot() < cards_per_turn; })) {
-        then("last pass: hide the stock", [] { stock().hide(); });
-        then("last pass: show the last card", [] { show_slot(last_tablet_slot()); });
-        then("last pass: record it", [] { record_turn(); });
-        then("last pass: turn all", [] { turned_slot() = last_tablet_slot(); });
-    } else {
-        then("new pass: show the stock", [] { stock().set_picture(current_back()); });
-        then("new pass: show the fifth card", [] { show_slot(cards_per_turn - 1); });
-        then("new pass: record it", [] { record_turn(); });
-        then("new pass: turn five", [] { turned_slot() = cards_per_turn - 1; });
-    }
+void shorten_tablet() { last_tablet_slot() -= 1; }
+void earn_point() { add_to_score(1); }
+
+void hide_stock_when_turned_for_good() {
+    if (tablet_is_turned_for_good()) hide_stock();
 }
 
 }  // namespace
 
 void next_tablet_card() {
-    resumable("next_tablet_card", [](Statements& then) {
-        if (then.holds("are cards of this pass left?",
-                       [] { return turned_slot() != -1 && turned_slot() != last_tablet_slot(); })) {
-            turn_on(then);
-        } else {
-            start_new_pass(then);
-        }
-        if (then.holds("is a card turned?", [] { return turned_slot() != -1; })) {
-            then("display it", [] { display_turned_card(tablet(turned_slot(), picture_field)); });
-        }
-    });
+    Turn turn = Turn::undecided;
+    bool pass_begins = false;
+    resumable(
+        "next_tablet_card",
+        [&] { turn = next_turn(); },
+        [&] { pass_begins = begins_pass(turn); },
+        when(turn, Turn::five, turn_five),
+        when(turn, Turn::the_rest, turn_the_rest),
+        when(pass_begins, hide_shown_card),
+        when(turn, Turn::nothing_left, hide_stock),
+        when(turn, Turn::last_pass, turn_last_pass),
+        when(turn, Turn::new_pass, turn_new_pass),
+        display_turned_card);
 }
 
 bool tablet_is_turned_for_good() {
@@ -71,33 +91,13 @@ bool tablet_is_turned_for_good() {
 }
 
 void take_from_tablet() {
-    resumable("take_from_tablet", [](Statements& then) {
-        then("uncover the card beneath", [] { turned_slot() -= 1; });
-        if (then.holds("is there one?", [] { return turned_slot() > -1; })) {
-            then("display it", [] { display_turned_card(tablet(turned_slot(), picture_field)); });
-            then("show it", [] { show_slot(turned_slot()); });
-        } else {
-            then("turn none", [] { turned_slot() = -1; });
-            then("show the empty place", [] { shown_tablet_image() = empty_waste_image; });
-        }
-        int first = 0;
-        int last = -1;
-        then("find the gap", [&] {
-            first = turned_slot() + 2;
-            last = last_tablet_slot();
-        });
-        for (int slot = first; slot <= last; ++slot) {
-            then("close it by a slot", [slot] {
-                for (int field = 0; field <= 2; ++field) tablet(slot - 1, field) = tablet(slot, field);
-            });
-        }
-        then("end a slot earlier", [] { last_tablet_slot() -= 1; });
-        then("earn a point", [] { score += 1; });
-        then("show the score", [] { show_score(); });
-        if (then.holds("is nothing left to turn?", [] { return tablet_is_turned_for_good(); })) {
-            then("hide the stock", [] { stock().hide(); });
-        }
-    });
+    resumable("take_from_tablet",
+              uncover_next_card,
+              display_turned_card,
+              close_gap,
+              shorten_tablet,
+              earn_point,
+              hide_stock_when_turned_for_good);
 }
 
 }  // namespace tarnwick

@@ -14,15 +14,4 @@ std::string card_text(int picture);
 /// The picture number of a card; throws std::invalid_argument when the text names none.
 int card_from_text(std::string_view text);
 
-constexpr int rank_of_picture(int picture) {
-    const int k = (picture - 200) % 25;
-    return k <= 12 ? k : k - 12;
-}
-constexpr int suit_of_picture(int picture) { return (picture - 200) / 25; }
-
-/// The card of this rank and suit from the first or the second pack. There is one ace of each suit only.
-constexpr int picture_of(int rank, int suit, bool second_pack) {
-    return 200 + 25 * suit + rank + (second_pack && rank > 0 ? 12 : 0);
-}
-
 }  // namespace tarnwick

@@ -2,10 +2,11 @@
 
 #include <stdexcept>
 
-#include "game/drop_dispatch.h"
+#include "game/drops.h"
 #include "game/tablet.h"
 #include "notation/outside_text.h"
 #include "platform/desktop.h"
+#include "platform/keys.h"
 #include "platform/random.h"
 #include "windows/frmcards.h"
 

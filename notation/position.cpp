@@ -1,12 +1,9 @@
 #include "notation/position.h"
 
 #include "board/display.h"
-#include "board/timed_effects.h"
 #include "game/deal.h"
 #include "game/tablet.h"
-#include "notation/card_text.h"
-#include "state/ace_piles.h"
-#include "state/soundness.h"
+#include "state/piles.h"
 #include "state/variables.h"
 #include "windows/frmcards.h"
 
@@ -38,10 +35,8 @@ void set_column(int c, const std::vector<Position::ColumnCard>& cards) {
     column_top(c) = index_of(cards.size()) - 1;
     for (std::size_t s = 0; s < cards.size(); ++s) {
         const int slot = index_of(s);
-        layout(c, slot, rank_field) = rank_of_picture(cards[s].picture);
-        layout(c, slot, suit_field) = suit_of_picture(cards[s].picture);
+        put_into_slot(c, slot, card_of_picture(cards[s].picture));
         layout(c, slot, face_down_field) = cards[s].face_down ? 1 : 0;
-        layout(c, slot, column_picture_field) = cards[s].picture;
     }
     redisplay_column(c);
 }
@@ -49,29 +44,20 @@ void set_column(int c, const std::vector<Position::ColumnCard>& cards) {
 void set_ace_pile(int p, const std::vector<int>& cards) {
     for (const int picture : cards) {
         const bool beneath = picture == ace_of_spades_image && cards.size() > 1;
-        push_on_ace_pile(p, {rank_of_picture(picture), suit_of_picture(picture),
-                             beneath ? int{plain_ace_image} : picture});
+        push_on_ace_pile(
+            p,
+            {rank_of_picture(picture), suit_of_picture(picture), beneath ? int{plain_ace_image} : picture});
     }
     frmcards.Image1(first_ace_zone + p).set_visible(cards.empty());
     redisplay_aces(p, ace_pile_mode(p));
 }
 
 void set_tablet(const std::vector<int>& cards, int turned) {
-    for (std::size_t i = 0; i < cards.size(); ++i) {
-        const int slot = index_of(i);
-        tablet(slot, rank_field) = rank_of_picture(cards[i]);
-        tablet(slot, suit_field) = suit_of_picture(cards[i]);
-        tablet(slot, picture_field) = cards[i];
-    }
+    for (std::size_t i = 0; i < cards.size(); ++i) put_into_tablet(index_of(i), card_of_picture(cards[i]));
     last_tablet_slot() = index_of(cards.size()) - 1;
     turned_slot() = turned;
-    shown_tablet_image() = empty_waste_image;
-    Image& stock = frmcards.Image1(stock_image);
-    stock.set_visible(!tablet_is_turned_for_good());
-    if (turned == -1) return;
-    shown_tablet_image() = cards[static_cast<std::size_t>(turned)];
-    display_turned_card(shown_tablet_image());
-    if (turned == last_tablet_slot()) stock.set_picture({});
+    display_turned_card();
+    tablet_is_turned_for_good() ? hide_stock() : show_stock();
 }
 
 }  // namespace

@@ -184,8 +184,7 @@ class Reader {
             if (face_down && s >= c) refuse("more face-down cards than are dealt" + where);
             if (s == 0 || column[s - 1].face_down) continue;
             const int below = column[s - 1].picture;
-            if (face_down || !builds_on(rank_of_picture(picture), suit_of_picture(picture),
-                                        rank_of_picture(below), suit_of_picture(below))) {
+            if (face_down || !builds_on(card_of_picture(picture), card_of_picture(below))) {
                 refuse(card_text(picture) + " cannot lie on " + card_text(below) + where);
             }
         }

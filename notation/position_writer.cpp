@@ -1,5 +1,6 @@
 #include "notation/card_text.h"
 #include "notation/position_text.h"
+#include "state/cards.h"
 
 namespace tarnwick {
 namespace {

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "game/drops.h"
+
 namespace tarnwick {
 
 // A game as text: the deal, then a line for each action.
@@ -34,7 +36,7 @@ struct Action {
     int line = 0;
 
     /// Right between the edges near which a refused drop is tried on the neighbour.
-    static constexpr int default_drop_offset = 30;
+    static constexpr int default_drop_offset = plain_click_offset;
     static constexpr int near_left_edge = 10;
     static constexpr int near_right_edge = 60;
 };

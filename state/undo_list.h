@@ -1,6 +1,6 @@
 #pragma once
 
-#include "state/integer.h"
+#include "state/checked.h"
 
 namespace tarnwick {
 

@@ -15,6 +15,7 @@ Integer score;
 Integer drag_source;
 float x_scale = 0;
 float card_scale = 0;
+Integer card_back;
 Integer high_score_place;
 Phase phase = Phase::playing;
 Integer closing;

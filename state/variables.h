@@ -1,7 +1,7 @@
 #pragma once
 
-#include "state/bounded_array.h"
 #include "state/cards.h"
+#include "state/checked.h"
 
 namespace tarnwick {
 
@@ -39,20 +39,8 @@ inline constexpr int beneath_picture_field = 5;
 inline constexpr int third_picture_field = 6;
 inline constexpr int last_used_field = 29;
 
-/// The three timed effects; the elements are named below.
+/// The three timed effects, each with fields of its own: board/twinkle, board/peek and board/slide.
 extern BoundedArray<7> animation;
-inline constexpr int twinkle_frame = 0;    ///< image of the twinkle shown last, -1 when none plays
-inline constexpr int peeked_image = 1;     ///< 1000 + the image that shows its face for a moment, or 1
-inline constexpr int sliding_picture = 2;  ///< the card that slides to an ace pile
-inline constexpr int beneath_sliding = 3;  ///< the pile's card that moves beneath it, or no_card_beneath
-inline constexpr int slide_source = 4;     ///< the pile that the slide has started from
-inline constexpr int slide_pile = 5;       ///< the ace pile 0 to 3 that it goes to
-inline constexpr int slide_steps = 6;      ///< ticks still to go
-inline constexpr int slide_wins_game = 7;  ///< 1: the game ends with this slide
-inline constexpr int no_card_beneath = 9999;
-inline constexpr int no_twinkle = -1;
-inline constexpr int no_peek = 1;
-inline constexpr int peek_mark = 1000;
 
 /// Undo records of three numbers, 0 the newest; (300, 0) is how many there are.
 extern BoundedArray<300, 2> undo_list;
@@ -65,6 +53,8 @@ extern Integer drag_source;
 extern float x_scale;
 /// Size of the cards: x_scale while they are scaled, else 1.
 extern float card_scale;
+/// The card back in use, 0 to 5.
+extern Integer card_back;
 /// Place 1 to 5 that the finished game takes among the best scores; 99 for none.
 extern Integer high_score_place;
 /// How far the game in hand is. One that is counted and has entered the best scores waits for the player's
@@ -97,12 +87,6 @@ inline bool ace_pile_is_complete(int p) { return aces(p, beneath_rank_field) == 
 int empty_ace_piles();
 bool all_ace_piles_complete();
 
-/// One card as the routines hand it on.
-struct Card {
-    int rank = none;
-    int suit = none;
-    int picture = none;
-};
 /// The turned card of the tablet; throws SubscriptOutOfRange when none is turned.
 Card turned_card();
 /// The card in a slot of column c.
@@ -113,7 +97,5 @@ Card top_card(int c);
 Card ace_pile_card(int p);
 
 inline Integer& undo_count() { return undo_list(300, 0); }
-
-inline bool peek_is_showing() { return animation(peeked_image) >= peek_mark; }
 
 }  // namespace tarnwick

@@ -1,21 +1,13 @@
-#include <array>
 #include <string>
 #include <vector>
 
+#include "board/peek.h"
 #include "state/variables.h"
 #include "ui/handlers.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {
 namespace {
-
-constexpr std::array rank_names{"Ace", "2", "3", "4", "5", "6", "7", "8", "9", "10", "Jack", "Queen", "King"};
-constexpr std::array suit_names{"Hearts", "Spades", "Diamonds", "Clubs"};
-
-std::string name_of(int rank, int suit) {
-    return std::string(rank_names.at(static_cast<std::size_t>(rank))) + " of " +
-           suit_names.at(static_cast<std::size_t>(suit));
-}
 
 // Piles are counted from 1 for the player.
 std::string column_name(int c) { return "column " + std::to_string(c + 1); }
@@ -50,7 +42,7 @@ void describe_tablet(Description& board) {
     board.add(stock_image, stock_name(), 1);
     if (turned_slot() == -1) return;
     const Card card = turned_card();
-    board.add(card.picture, name_of(card.rank, card.suit) + ", turned card", 1);
+    board.add(card.picture, card_name(card.rank, card.suit) + ", turned card", 1);
 }
 
 void describe_ace_pile(Description& board, int p) {
@@ -59,17 +51,18 @@ void describe_ace_pile(Description& board, int p) {
         return;
     }
     const Card card = ace_pile_card(p);
-    board.add(card.picture, name_of(card.rank, card.suit) + ", " + ace_pile_name(p) + ", on top", 0);
+    board.add(card.picture, card_name(card.rank, card.suit) + ", " + ace_pile_name(p) + ", on top", 0);
     if (ace_pile_holds_one_card(p)) return;
     board.add(aces(p, beneath_picture_field),
-              name_of(aces(p, beneath_rank_field), card.suit) + ", " + ace_pile_name(p), 0);
+              card_name(aces(p, beneath_rank_field), card.suit) + ", " + ace_pile_name(p),
+              0);
 }
 
 // While it is peeked at, a face-down card tells what it is.
 std::string face_down_name(int c, int slot) {
-    const bool is_peeked_at = animation(peeked_image) == peek_mark + face_down_image(c, slot);
+    const bool shows_face = is_peeked_at(face_down_image(c, slot));
     const Card card = column_card(c, slot);
-    return (is_peeked_at ? name_of(card.rank, card.suit) + ", " : "") + "face-down card " +
+    return (shows_face ? card_name(card.rank, card.suit) + ", " : "") + "face-down card " +
            std::to_string(slot + 1) + " of " + column_name(c);
 }
 
@@ -83,7 +76,7 @@ void describe_column(Description& board, int c) {
         }
         const Card card = column_card(c, slot);
         const char* on_top = slot == column_top(c) ? ", on top" : "";
-        board.add(card.picture, name_of(card.rank, card.suit) + ", " + column_name(c) + on_top, 1);
+        board.add(card.picture, card_name(card.rank, card.suit) + ", " + column_name(c) + on_top, 1);
     }
 }
 

@@ -2,10 +2,10 @@
 #include <vector>
 
 #include "board/display.h"
-#include "board/timed_effects.h"
-#include "game/drop_dispatch.h"
-#include "game/drop_preview.h"
+#include "board/peek.h"
+#include "game/drops.h"
 #include "game/tablet.h"
+#include "platform/keys.h"
 #include "settings/conversions.h"
 #include "settings/settings.h"
 #include "state/variables.h"
@@ -15,27 +15,8 @@
 namespace tarnwick {
 namespace {
 
-bool is_face_down_image(int index) { return index >= first_face_down_image && index < first_face_image; }
-
 void click(int index) {
     if (index == stock_image) next_tablet_card();
-}
-
-void restart_peek_timer() {
-    frmcards.Timer2.set_enabled(false);
-    frmcards.Timer2.set_enabled(true);
-}
-
-void peek(int index) {
-    if (!is_face_down_image(index)) return;
-    const bool another_shows = peek_is_showing();
-    if (another_shows) cover_peeked_card();
-    const int c = (index - first_face_down_image) / 10;
-    const int k = (index - first_face_down_image) % 10;
-    frmcards.Image1(index).set_picture(frmcards.Image1(layout(c, k, column_picture_field)).picture());
-    if (!another_shows) frmcards.Timer2.set_interval(peek_time);
-    restart_peek_timer();
-    animation(peeked_image) = peek_mark + index;
 }
 
 void key_down(int key_code) {
@@ -90,12 +71,11 @@ bool glides_back() {
 
 void attach_card_input() {
     frmcards.image_events.click = click;
-    frmcards.image_events.double_click = peek;
+    frmcards.image_events.double_click = peek_at;
     frmcards.image_events.drop = [](int index, Image& source, float x, float) {
         drop_on_image(index, source, x);
     };
     frmcards.on_key_down = key_down;
-    frmcards.Timer2.on_tick = end_peek;
     frmcards.mouse().on_lift = lift;
     frmcards.mouse().on_hover = receiver;
     frmcards.mouse().on_put_back = glides_back;

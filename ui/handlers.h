@@ -7,8 +7,6 @@ namespace tarnwick {
 void attach_main_window();
 void attach_card_input();
 void attach_board_names();
-void attach_twinkle();
-void attach_slide();
 void attach_menus();
 void attach_error_dialog();
 void attach_win_dialog();

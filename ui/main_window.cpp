@@ -1,7 +1,7 @@
 #include <string>
 
 #include "board/display.h"
-#include "board/scaling.h"
+#include "board/table.h"
 #include "game/deal.h"
 #include "game/end_game.h"
 #include "platform/desktop.h"
@@ -9,7 +9,6 @@
 #include "settings/stored_settings.h"
 #include "state/variables.h"
 #include "ui/handlers.h"
-#include "ui/table_colors.h"
 #include "windows/frmcards.h"
 #include "windows/pictures.h"
 
@@ -21,15 +20,10 @@ namespace {
 constexpr int screen_margin = 10;
 constexpr PixelSize smallest_window{800, 600};
 
-// Within a suit, the second pack's two comes this many pictures after the first pack's.
-constexpr int second_pack = 12;
-
-void fill_second_pack() {
-    for (int suit = hearts; suit <= clubs; ++suit) {
-        const int base = first_face_image + cards_per_suit * suit;
-        for (int i = two; i <= king; ++i) {
-            frmcards.Image1(base + second_pack + i).set_picture(frmcards.Image1(base + i).picture());
-        }
+void show_faces() {
+    for (int picture = first_picture; picture <= last_picture; ++picture) {
+        frmcards.Image1(picture).set_picture(
+            face_picture(suit_of_picture(picture), rank_of_picture(picture)));
     }
 }
 
@@ -47,7 +41,7 @@ void load() {
     change_back(stored_card_back(back_count));
     set_table_color(stored_back_color());
     set_text_color(stored_text_color());
-    fill_second_pack();
+    show_faces();
     size_to_screen();
     measure_window();
     card_scale = stored_flag(key_scale_cards) ? x_scale : 1.0F;

@@ -1,5 +1,6 @@
 #include <exception>
 
+#include "board/slide.h"
 #include "game/deal.h"
 #include "game/end_game.h"
 #include "game/undo.h"
@@ -16,8 +17,8 @@ namespace {
 // A slide that wins the game must not end it behind a dialog: it lands before one opens. False when that has
 // opened the win dialog.
 bool can_open_dialog() {
-    if (frmcards.Timer3.enabled()) finish_slide();
-    return frmcards.enabled();
+    if (slide_is_under_way()) finish_slide();
+    return phase == Phase::playing;
 }
 
 void show_best_scores() {

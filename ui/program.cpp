@@ -2,6 +2,10 @@
 
 #include <array>
 
+#include "board/peek.h"
+#include "board/slide.h"
+#include "board/twinkle.h"
+#include "game/end_game.h"
 #include "platform/desktop.h"
 #include "settings/repair.h"
 #include "settings/settings.h"
@@ -58,7 +62,8 @@ void start_program(Store& store) {
     attach_card_input();
     attach_board_names();
     attach_twinkle();
-    attach_slide();
+    attach_peek();
+    attach_slide(finish_slide);
     attach_menus();
     attach_error_dialog();
     attach_win_dialog();

@@ -3,11 +3,10 @@
 #include <string>
 
 #include "board/display.h"
-#include "board/scaling.h"
+#include "board/table.h"
 #include "settings/settings.h"
 #include "settings/stored_settings.h"
 #include "ui/handlers.h"
-#include "ui/table_colors.h"
 #include "windows/frmCommon.h"
 #include "windows/frmFeatures.h"
 #include "windows/frmcards.h"
@@ -121,10 +120,7 @@ void save_back() {
     for (int i = 0; i < back_count; ++i) {
         if (!frmFeatures.optCardBack(i).on()) continue;
         save_shown(key_card_back, text_of(i));
-        const bool all_turned = frmcards.Image1(stock_image).picture().none();
         change_back(i);
-        // An empty place stays one: there is no card whose back it could show.
-        if (all_turned) frmcards.Image1(stock_image).set_picture({});
     }
 }
 

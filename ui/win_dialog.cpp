@@ -1,6 +1,7 @@
 #include "game/best_scores.h"
 #include "game/end_game.h"
 #include "platform/desktop.h"
+#include "platform/keys.h"
 #include "state/variables.h"
 #include "ui/handlers.h"
 #include "windows/frmBestScore.h"
@@ -9,7 +10,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr int enter_key = 13;
 void load() {
     const bool won = all_ace_piles_complete() && high_score_place == 1;
     frmyouwin.lblYouWin.set_visible(won);

@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "settings/settings.h"
+
 namespace tarnwick {
 namespace {
 
@@ -15,17 +17,18 @@ void place_label(Label& label, const std::string& caption, int left, int top, in
 FrmBestScore frmBestScore;
 
 FrmBestScore::FrmBestScore() : Form("frmBestScore") {
-    for (int i = 1; i <= 5; ++i) {
+    for (int i = 1; i <= best_score_places; ++i) {
         for (Family<Label>* column : {&place_labels, &lblHighScore, &lblHighScoreName, &lblHighScoreDate}) {
             column->add(i, *this).put_into(Frame1);
         }
     }
-    for (Widget* widget :
-         {static_cast<Widget*>(&shpBestSquare), static_cast<Widget*>(&lblScoreText),
-          static_cast<Widget*>(&lblNameText), static_cast<Widget*>(&lblHighScoreDateText1)}) {
+    for (Widget* widget : {static_cast<Widget*>(&shpBestSquare),
+                           static_cast<Widget*>(&lblScoreText),
+                           static_cast<Widget*>(&lblNameText),
+                           static_cast<Widget*>(&lblHighScoreDateText1)}) {
         widget->put_into(Frame1);
     }
-    for (int i = 1; i <= 5; ++i) {
+    for (int i = 1; i <= best_score_places; ++i) {
         lblHighScore(i).label_with(lblScoreText);
         lblHighScoreName(i).label_with(lblNameText);
         lblHighScoreDate(i).label_with(lblHighScoreDateText1);
@@ -57,7 +60,7 @@ void FrmBestScore::design_table() {
     place_label(lblScoreText, "Score:", 600, 240, 612, 252);
     place_label(lblNameText, "Name:", 1440, 240, 852, 252);
     place_label(lblHighScoreDateText1, "Date:", 4200, 240, 732, 252);
-    for (int i = 1; i <= 5; ++i) {
+    for (int i = 1; i <= best_score_places; ++i) {
         const std::string number = std::to_string(i);
         const int top = 600 + 360 * (i - 1);
         place_label(place_labels(i), number + ".", 240, top, 204, 252);

@@ -48,16 +48,10 @@ void Frmcards::design_images() {
         image.set_visible(image.index() < empty_waste_image ||
                           (image.index() >= first_column_zone && image.index() < first_face_down_image));
     });
-    // Only the first pack is stored; the second one's faces are filled in at load.
-    for (int suit = 0; suit <= 3; ++suit) {
-        for (int rank = 0; rank <= 12; ++rank) {
-            Image1(first_face_image + 25 * suit + rank).set_picture(face_picture(suit, rank));
-        }
-    }
     for (int frame = 0; frame < twinkle_frame_count; ++frame) {
         Image1(first_twinkle_image + frame).set_picture(twinkle_picture(frame));
     }
-    Image1(plain_ace_image).set_picture(Image1(ace_of_spades_image).picture());
+    Image1(plain_ace_image).set_picture(plain_ace_picture());
     Image1(plain_ace_image).set_stretch(true);
     ImgCardBacks.for_each([](Image& image) {
         image.reset();
@@ -84,9 +78,9 @@ void Frmcards::design_timers() {
         timer.set_interval(interval);
         timer.set_enabled(enabled);
     };
-    design_timer(Timer1, 500, true);
-    design_timer(Timer2, peek_time, false);
-    design_timer(Timer3, 30, false);
+    design_timer(Timer1, 500, true);    // board/twinkle
+    design_timer(Timer2, 1500, false);  // board/peek
+    design_timer(Timer3, 30, false);    // board/slide
 }
 
 }  // namespace tarnwick

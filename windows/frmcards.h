@@ -25,18 +25,11 @@ inline constexpr int ace_of_spades_image = 225;
 /// The image that shows the face-down card in slot k of column c.
 constexpr int face_down_image(int c, int k) { return first_face_down_image + 10 * c + k; }
 
+/// Top of the stock, the turned card and the cards on the ace piles, in pixels.
+inline constexpr int top_row = 10;
+
 /// What a won game scores, as the label beside the score says.
 inline constexpr int most_points = 200;
-
-/// The clock of the twinkle, in milliseconds: from frame to frame, and between two looks whether to begin.
-inline constexpr int twinkle_frame_time = 30;
-inline constexpr int twinkle_idle_time = 1000;
-
-/// How long a face-down card shows its face when it is peeked at, in milliseconds.
-inline constexpr int peek_time = 1500;
-
-/// The key that turns the tablet.
-inline constexpr int space_key = 32;
 
 /// The outlines in Shape1: ace piles from 0, columns from 4, then the stock.
 inline constexpr int first_column_outline = 4;

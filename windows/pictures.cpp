@@ -36,6 +36,7 @@ Picture picture(int number) { return Picture{static_cast<std::uint16_t>(number)}
 Picture face_picture(int suit, int rank) { return picture(first_face + suit * ranks + rank); }
 Picture back_picture(int back) { return picture(first_back + back); }
 Picture twinkle_picture(int frame) { return picture(first_twinkle + frame); }
+Picture plain_ace_picture() { return face_picture(1, 0); }
 Picture logo_picture() { return picture(logo); }
 
 std::string drawing_of(Picture picture) {

@@ -18,6 +18,8 @@ inline constexpr int twinkle_frame_count = 9;
 Picture face_picture(int suit, int rank);
 Picture back_picture(int back);
 Picture twinkle_picture(int frame);
+/// The ace of Spades without a glint.
+Picture plain_ace_picture();
 Picture logo_picture();
 
 /// File name of a picture's drawing without its ending, as "faces/hearts-queen"; empty for no picture.

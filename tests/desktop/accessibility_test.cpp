@@ -2,6 +2,7 @@
 
 #include <QScrollBar>
 
+#include "board/slide.h"
 #include "desktop/board_accessible.h"
 #include "state/variables.h"
 #include "tests/desktop/inner_game.h"
@@ -133,7 +134,7 @@ TEST_F(BoardAccessibility, PlaysByPresses) {
 
     press(top_of(column_of_ace));
     EXPECT_TRUE(comes_true([] { return !ace_pile_is_empty(0); }));
-    ASSERT_TRUE(comes_true([] { return !frmcards.Timer3.enabled(); })) << "the ace has arrived";
+    ASSERT_TRUE(comes_true([] { return !slide_is_under_way(); })) << "the ace has arrived";
     QAccessibleInterface& ace_of_clubs = image(ace_pile_card(0).picture);
     EXPECT_EQ(ace_of_clubs.text(QAccessible::Name), "Ace of Clubs, ace pile 1, on top");
     EXPECT_EQ(ace_of_clubs.actionInterface(), nullptr);

@@ -1,4 +1,4 @@
-// A failure is forced at every statement, and at every access to state and widgets, of every routine with a
+// A failure is forced at every step, and at every access to state and widgets, of every routine with a
 // handler.
 
 #include <gtest/gtest.h>
@@ -12,8 +12,8 @@
 
 #include "platform/fault_point.h"
 #include "situations.h"
-#include "state/soundness.h"
-#include "statements.h"
+#include "steps.h"
+#include "tests/play/soundness.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmError.h"
 #include "windows/frmFeatures.h"
@@ -32,7 +32,7 @@ const std::set<std::string> reporting_routines = words_of(
     "redisplay_aces ace_score redisplay_column display_column change_back end_game add_undo "
     "undo_from_tablet_to_column undo_from_tablet_to_ace undo_next_tablet_card undo_from_column_to_ace");
 
-bool may_be_resumed(const std::string& routine) { return listed_statements().contains(routine); }
+bool may_be_resumed(const std::string& routine) { return listed_steps().contains(routine); }
 
 struct Action {
     std::string name;
@@ -45,16 +45,20 @@ std::vector<Action> actions() {
     const auto undo = [](Play& play) { play.undo(); };
     std::vector<Action> all{
         {"undo of a turn", "tablet: ..", [](Play& play) { play.space(2); }, undo},
-        {"new settings", "0: 7♠", [](Play&) { frmcards.mnuSetings.choose(); },
+        {"new settings",
+         "0: 7♠",
+         [](Play&) { frmcards.mnuSetings.choose(); },
          [](Play&) {
              frmFeatures.optCardBack(3).click();
              frmFeatures.cmdOk.click();
          }},
-        {"a new game", "0: 7♠\n4: [2♣] 6♥", [](Play& play) { play.drag(4, 0); },
+        {"a new game",
+         "0: 7♠\n4: [2♣] 6♥",
+         [](Play& play) { play.drag(4, 0); },
          [](Play&) { frmcards.mnuNew.choose(); }},
     };
     for (const Situation& situation : situations()) {
-        if (situation.fails == Fails::at_statements) continue;
+        if (situation.fails == Fails::at_steps) continue;
         const auto move = [=](Play& play) {
             if (situation.from == turned_stock) return play.space();
             if (situation.from != situation.to) return play.drag(situation.from, situation.to);
@@ -90,7 +94,6 @@ bool fail_at(const Action& action, int n, bool resume, std::set<std::string>& re
     // What only looks ahead tells nobody; it has a test of its own.
     frmcards.mouse().on_hover = nullptr;
     resume_after_error = resume ? flag_true : flag_false;
-    used_between_statements = nullptr;
     points_to_fault = n;
     try {
         action.act(play);
@@ -100,7 +103,6 @@ bool fail_at(const Action& action, int n, bool resume, std::set<std::string>& re
     }
     const bool forced = points_to_fault == 0;
     points_to_fault = 0;
-    EXPECT_STREQ(used_between_statements, nullptr) << "uses state or widgets between its statements";
     if (!forced) return false;
     EXPECT_TRUE(frmError.visible() || !play.desktop.messages().empty()) << "nobody was told";
     if (frmError.visible()) {
@@ -130,7 +132,7 @@ TEST(ForcedFault, IsReportedAndTheGameGoesOn) {
             }
         }
         std::set<std::string> all = reporting_routines;
-        for (const auto& [routine, statements] : listed_statements()) all.insert(routine);
+        for (const auto& [routine, steps] : listed_steps()) all.insert(routine);
         EXPECT_EQ(reported, all) << "every routine has failed";
         std::cout << faults << " faults forced" << (resume ? ", resumed\n" : "\n");
     }

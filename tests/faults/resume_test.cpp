@@ -1,21 +1,21 @@
-// Where a routine goes on after a failure: every statement of every routine that may be resumed fails at its
+// Where a routine goes on after a failure: every step of every routine that may be resumed fails at its
 // beginning, in each situation that meets it.
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <map>
 #include <set>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "game/drop_dispatch.h"
+#include "board/slide.h"
+#include "game/drops.h"
 #include "game/tablet.h"
-#include "platform/fault_point.h"
 #include "situations.h"
-#include "state/statement_watch.h"
-#include "statements.h"
+#include "state/routine.h"
+#include "steps.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmError.h"
 #include "windows/frmcards.h"
@@ -51,7 +51,7 @@ void write_variables(std::ostream& text) {
     write_rows(text, "tablet", tablet, tablet_size + 1, 3);
     write_rows(text, "ace pile", aces, 4, last_used_field + 1);
     write_rows(text, "undo", undo_list, most_undo_records + 2, 3);
-    for (int i = 0; i <= slide_wins_game; ++i) text << "animation " << i << ": " << animation(i) << '\n';
+    for (int i = 0; i <= 7; ++i) text << "animation " << i << ": " << animation(i) << '\n';
     text << "score " << score << "\nsource " << drag_source << "\nhelp " << suppress_help << "\nplace "
          << high_score_place << "\nclosing " << closing << "\nresume " << resume_after_error << '\n';
 }
@@ -68,18 +68,20 @@ void write_display(std::ostream& text) {
         write_place(text, "image", image, image.index());
         text << "picture " << image.picture().number << '\n';
     });
-    std::sort(images.begin(), images.end(),
-              [](const Image* a, const Image* b) { return a->stacking() < b->stacking(); });
+    std::sort(images.begin(), images.end(), [](const Image* a, const Image* b) {
+        return a->stacking() < b->stacking();
+    });
     for (const Image* image : images) text << "above: " << image->index() << '\n';
     frmcards.Shape1.for_each([&](const Outline& outline) { write_place(text, "outline", outline); });
     text << "label " << frmcards.LblScore.caption() << "\nundo " << frmcards.mnuUndo.visible() << "\ntwinkle "
-         << frmcards.Timer1.interval() << "\nslide " << frmcards.Timer3.enabled() << "\nwin dialog "
+         << frmcards.Timer1.interval() << "\nslide " << slide_is_under_way() << "\nwin dialog "
          << frmyouwin.visible() << "\nbest scores " << frmBestScore.visible() << '\n';
 }
 
 struct Met {
     std::string routine;
-    std::string name;
+    int number;
+    int count;
     int run;
     bool operator==(const Met&) const = default;
 };
@@ -90,7 +92,7 @@ struct Outcome {
     std::vector<Met> met;
     std::string state;         // at the end, with the results of the moves
     std::string before_fault;  // the state alone
-    std::string after_fault;   // the state alone, when the next statement runs, or at the end
+    std::string after_fault;   // the state alone, when the next step runs, or at the end
     std::string error;         // what the error dialog says; empty without one
 };
 
@@ -102,7 +104,7 @@ std::string state_text(const Play& play) {
     return text.str();
 }
 
-// Plays a situation; the n-th statement that is met, from 0, is passed over or fails at its beginning.
+// Plays a situation; the n-th step that is met, from 0, is passed over or fails at its beginning.
 Outcome outcome_of(const Situation& situation, Fault fault, std::size_t n = 0) {
     // What an earlier game has left in places that hold nothing must not tell two runs apart.
     layout = {};
@@ -116,10 +118,9 @@ Outcome outcome_of(const Situation& situation, Fault fault, std::size_t n = 0) {
     if (situation.sent_up_before != turned_stock) move(situation.sent_up_before, situation.sent_up_before);
     Outcome outcome;
     int runs_before = -1;
-    used_between_statements = nullptr;
-    before_statement = [&](const NextStatement& next) {
+    before_step = [&](const NextStep& next) {
         if (outcome.met.empty()) runs_before = next.run;
-        outcome.met.push_back({next.routine, next.name, next.run - runs_before});
+        outcome.met.push_back({next.routine, next.number, next.count, next.run - runs_before});
         if (fault == Fault::left && outcome.met.size() == n + 2) outcome.after_fault = state_text(play);
         if (fault == Fault::none || outcome.met.size() != n + 1) return false;
         if (fault == Fault::passed_over) return true;
@@ -128,38 +129,24 @@ Outcome outcome_of(const Situation& situation, Fault fault, std::size_t n = 0) {
         throw ForcedFault();
     };
     const std::string result = move(situation.from, situation.to);
-    before_statement = nullptr;
-    EXPECT_STREQ(used_between_statements, nullptr) << "uses state or widgets between its statements";
+    before_step = nullptr;
     outcome.state = result + '\n' + state_text(play);
     if (outcome.after_fault.empty()) outcome.after_fault = state_text(play);
     if (frmError.visible()) outcome.error = frmError.LblError.caption();
     return outcome;
 }
 
-// Each statement stands in the list, and within a run of its routine at the place that the list gives it.
-void expect_listed(const std::vector<Met>& met, std::set<std::pair<std::string, std::string>>& all_met) {
-    std::map<int, std::size_t> reached;  // by run: how many of the listed statements are behind it
-    std::set<std::pair<int, std::string>> seen;
-    for (const Met& statement : met) {
-        all_met.insert({statement.routine, statement.name});
-        const auto routine = listed_statements().find(statement.routine);
-        ASSERT_NE(routine, listed_statements().end()) << statement.routine << " is not listed";
-        const auto& names = routine->second;
-        const auto listed = std::find_if(names.begin(), names.end(),
-                                         [&](const auto& entry) { return entry.name == statement.name; });
-        ASSERT_NE(listed, names.end()) << statement.routine << ": \"" << statement.name << "\" is not listed";
-        if (!seen.insert({statement.run, statement.name}).second) {
-            EXPECT_TRUE(listed->repeats) << statement.routine << ": \"" << statement.name << "\" runs twice";
-            continue;
-        }
-        const auto place = static_cast<std::size_t>(listed - names.begin());
-        EXPECT_GE(place, reached[statement.run])
-            << statement.routine << ": \"" << statement.name << "\" is late";
-        reached[statement.run] = place + 1;
+// What the list calls a step.
+std::string name_of(const Met& met) {
+    const auto routine = listed_steps().find(met.routine);
+    if (routine == listed_steps().end() || std::cmp_not_equal(routine->second.size(), met.count)) {
+        ADD_FAILURE() << met.routine << " is listed with other steps";
+        return met.routine;
     }
+    return met.routine + ": " + routine->second.at(static_cast<std::size_t>(met.number - 1));
 }
 
-// The routine goes on as if the n-th statement had been passed over.
+// The routine goes on as if the n-th step had been passed over.
 void expect_resumed_after(const Situation& situation, std::size_t n, const Met& failing) {
     const Outcome passed = outcome_of(situation, Fault::passed_over, n);
     const Outcome resumed = outcome_of(situation, Fault::resumed, n);
@@ -169,39 +156,38 @@ void expect_resumed_after(const Situation& situation, std::size_t n, const Met& 
               passed.error.empty() ? "Fatel Error in Subroutine " + failing.routine : passed.error);
 }
 
-// The routine is left at once: neither a statement of it runs any more, nor anything else before its caller.
+// The routine is left at once: neither a step of it runs any more, nor anything else before its caller.
 void expect_left_after(const Situation& situation, std::size_t n, const Met& failing) {
     const Outcome left = outcome_of(situation, Fault::left, n);
     EXPECT_EQ(left.after_fault, left.before_fault);
     EXPECT_NE(left.error, "");
     for (std::size_t i = n + 1; i < left.met.size(); ++i) {
-        EXPECT_NE(left.met[i].run, failing.run) << "\"" << left.met[i].name << "\" runs after the failure";
+        EXPECT_NE(left.met[i].run, failing.run) << name_of(left.met[i]) << " runs after the failure";
     }
 }
 
-TEST(Resume, GoesOnWithTheNextStatement) {
-    std::set<std::pair<std::string, std::string>> all_met;
+TEST(Resume, GoesOnWithTheNextStep) {
+    std::set<std::string> met;
     int faults = 0;
     for (const Situation& situation : situations()) {
         SCOPED_TRACE(situation.name);
         const Outcome undisturbed = outcome_of(situation, Fault::none);
         EXPECT_EQ(undisturbed.error, "");
-        expect_listed(undisturbed.met, all_met);
         for (std::size_t n = 0; n < undisturbed.met.size() && !HasFailure(); ++n) {
             const Met& failing = undisturbed.met[n];
-            SCOPED_TRACE(failing.routine + ": \"" + failing.name + "\" fails");
+            met.insert(name_of(failing));
+            SCOPED_TRACE(name_of(failing) + " fails");
             expect_resumed_after(situation, n, failing);
             expect_left_after(situation, n, failing);
             ++faults;
         }
     }
-    for (const auto& [routine, names] : listed_statements()) {
-        for (const auto& entry : names) {
-            EXPECT_TRUE(all_met.contains({routine, entry.name}))
-                << routine << ": \"" << entry.name << "\" is never met";
+    for (const auto& [routine, names] : listed_steps()) {
+        for (const std::string& name : names) {
+            EXPECT_TRUE(met.contains(routine + ": " + name)) << routine << ": " << name << " is never met";
         }
     }
-    std::cout << all_met.size() << " statements, failing " << faults << " times\n";
+    std::cout << met.size() << " steps, failing " << faults << " times\n";
 }
 
 }  // namespace

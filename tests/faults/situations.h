@@ -9,9 +9,9 @@
 
 namespace tarnwick {
 
-// Where a situation is made to fail: at the statements of the routines that may be resumed; at every point of
+// Where a situation is made to fail: at the steps of the routines that may be resumed; at every point of
 // every routine too; or there while it is taken back as well.
-enum class Fails { at_statements, everywhere, also_undone };
+enum class Fails { at_steps, everywhere, also_undone };
 
 inline constexpr int turned_stock = -1;  // in place of a pile: cards are turned
 
@@ -21,7 +21,7 @@ struct Situation {
     std::string position;
     int from;
     int to = turned_stock;
-    Fails fails = Fails::at_statements;
+    Fails fails = Fails::at_steps;
     bool slides = false;
     int sent_up_before = turned_stock;  // the column whose card is sliding already
 };
@@ -42,7 +42,7 @@ inline std::vector<Situation> situations() {
         {"tablet to ace pile", "ace 0: A♠\ntablet: 9♣ (2♠) 9♥", tablet_pile, ace_pile(0), also_undone},
         {"tablet sent to ace pile", "ace 0: A♠\ntablet: 9♣ (2♠) 9♥", tablet_pile, tablet_pile},
         {"ace of the tablet sent up", "tablet: 9♣ (A♥) 9♥", tablet_pile, tablet_pile},
-        {"tablet slides", "ace 0: A♠\ntablet: 9♣ (2♠) 9♥", tablet_pile, tablet_pile, at_statements, true},
+        {"tablet slides", "ace 0: A♠\ntablet: 9♣ (2♠) 9♥", tablet_pile, tablet_pile, at_steps, true},
         {"column to column", "0: 7♠\n4: [2♣] 6♥ 5♠", 4, 0, also_undone},
         {"column to column, refused", "0: 7♠\n4: [2♣] 8♥ 7♣", 4, 0},
         {"a King's run", "4: [2♣] K♥ Q♠", 4, 0},
@@ -59,7 +59,7 @@ inline std::vector<Situation> situations() {
         {"refused with a message", "4: 9♥\nace 1: A♥", 4, ace_pile(1), everywhere},
         {"refused for its suit", "4: 2♠\nace 1: A♥", 4, ace_pile(1)},
         {"column slides", "ace 0: A♠\n3: [9♣] 2♠", 3, 3, everywhere, true},
-        {"a drop while a card slides", "0: 7♠\nace 0: A♠\n3: [9♣] 2♠\n4: 6♥", 4, 0, at_statements, true, 3},
+        {"a drop while a card slides", "0: 7♠\nace 0: A♠\n3: [9♣] 2♠\n4: 6♥", 4, 0, at_steps, true, 3},
         {"the fourth ace", "0: A♣\nace 0: A♠\nace 1: A♥\nace 2: A♦", 0, ace_pile(3), everywhere},
         {"the winning card", "2: K♠'\nace 0: .. K♠\n" + complete, 2, ace_pile(0), everywhere},
     };

@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
+#include "board/peek.h"
+#include "board/slide.h"
 #include "notation/position_text.h"
 #include "platform/random.h"
-#include "state/soundness.h"
 #include "state/variables.h"
+#include "tests/play/soundness.h"
 #include "tools/driver/play.h"
 #include "windows/frmcards.h"
 
@@ -51,16 +53,16 @@ TEST(Restart, BringsTheSameDealBackWhateverHasHappened) {
     play.save("anamate", "True");
     play.double_click(frmcards.Image1(face_down_image(3, 0)));
     play.click(1);
-    ASSERT_TRUE(frmcards.Timer2.enabled() && frmcards.Timer3.enabled());
+    ASSERT_TRUE(peek_is_under_way() && slide_is_under_way());
     frmcards.mouse().press(top_image(0).left() + 9, top_image(0).top() + 9);
     ASSERT_NE(frmcards.mouse().dragged(), nullptr);
-    animation(slide_wins_game) = 1;
+    let_slide_win();
     for (int i = 0; i < 2; ++i) {
         frmcards.mnuRestart.choose();
-        EXPECT_FALSE(frmcards.Timer2.enabled() || frmcards.Timer3.enabled());
+        EXPECT_FALSE(peek_is_under_way() || slide_is_under_way());
         EXPECT_EQ(frmcards.mouse().dragged(), nullptr);
         EXPECT_EQ(frmcards.Timer1.interval(), 1000);
-        EXPECT_EQ(animation(slide_wins_game), 0);
+        EXPECT_FALSE(slide_wins());
         EXPECT_EQ(position_text(), deal);
         EXPECT_EQ(display_faults() + undo_records(), "");
     }

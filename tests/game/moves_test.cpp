@@ -1,9 +1,10 @@
 #include <gtest/gtest.h>
 
 #include "notation/position_text.h"
-#include "state/soundness.h"
+#include "state/piles.h"
 #include "state/undo_list.h"
 #include "state/variables.h"
+#include "tests/play/soundness.h"
 #include "tools/driver/play.h"
 #include "windows/frmcards.h"
 
@@ -44,7 +45,9 @@ TEST(Move, BetweenColumns) {
         {"0: 7♠\n4: [2♣] [K♣] 6♥", "drag 4 0", "0: 7♠ 6♥\n4: [2♣] K♣", "(4 0 0) (99 99 99)"},
         {"3: [9♣] K♠ Q♥ J♠\n5: -", "drag 3 5", "3: 9♣\n5: K♠ Q♥ J♠", "(3 5 2) (99 99 99)"},
         // Exchange: the King's run goes beneath the column that continues it.
-        {"4: [3♦] [9♣] K♠ Q♥\n6: J♣ 10♦", "drag 4 6", "4: [3♦] 9♣\n6: K♠ Q♥ J♣ 10♦",
+        {"4: [3♦] [9♣] K♠ Q♥\n6: J♣ 10♦",
+         "drag 4 6",
+         "4: [3♦] 9♣\n6: K♠ Q♥ J♣ 10♦",
          "(4 6 3) (99 99 99) (6 4 1)"},
         {"9: [2♣] [3♣] [4♣] [5♣] [6♣] [7♣] [8♣] [9♣] [10♣] K♠ Q♥ J♠ 10♥ 9♠ 8♥\n0: 7♠ 6♥ 5♠ 4♥ 3♠ 2♥ A♠",
          "drag 9 0",
@@ -76,14 +79,19 @@ TEST(Move, ToAnAcePile) {
     const Situation situations[] = {
         {"3: [9♥] 2♠'\nace 0: A♠ 2♠", "drag 3 ace 0", "3: 9♥\nace 0: A♠ 2♠ 2♠'", "(3 12 1) (99 99 99)"},
         {"tablet: 2♥ (A♠) 3♥", "drag tablet ace 0", "ace 0: A♠\ntablet: (2♥) 3♥", "(16 12 1)"},
-        {"tablet: 2♥ (3♠) 3♥\nace 0: A♠ 2♠' 2♠", "drag tablet ace 0", "ace 0: A♠ 2♠' 2♠ 3♠\ntablet: (2♥) 3♥",
+        {"tablet: 2♥ (3♠) 3♥\nace 0: A♠ 2♠' 2♠",
+         "drag tablet ace 0",
+         "ace 0: A♠ 2♠' 2♠ 3♠\ntablet: (2♥) 3♥",
          "(16 12 1)"},
         // The fourth ace earns the bonus.
         {"3: A♠\nace 1: A♥\nace 2: A♦\nace 3: A♣ 2♣", "drag 3 ace 0", "ace 0: A♠", "(3 12 1)"},
         {"tablet: (A♠)\nace 1: A♥\nace 2: A♦\nace 3: A♣ 2♣", "drag tablet ace 0", "ace 0: A♠", "(16 12 1)"},
         // A pile that refuses a card says what it waits for.
         {"4: 2♥", "drag 4 ace 0", refused, "", "Place a Ace at the bottom of the pile first"},
-        {"tablet: (3♥)\nace 0: A♥", "drag tablet ace 0", refused, "",
+        {"tablet: (3♥)\nace 0: A♥",
+         "drag tablet ace 0",
+         refused,
+         "",
          "Only a 2 of Hearts can be placed on the Ace of Hearts"},
         {"4: Q♦\nace 0: .. 10♦ 10♦'", "drag 4 ace 0", refused, "", "Place a Jack of Diamonds on top"},
         {"4: K♣\nace 0: .. Q♣", "drag 4 ace 0", refused, "", "Place the other Queen of Clubs on top"},
@@ -113,9 +121,15 @@ TEST(Move, RefusedByAColumnIsTriedOnTheNeighbourNearestToThePointer) {
         const char* played;
         const char* lands;
     } cases[] = {
-        {"drag 6 3 at 19", "2: 8♦ 7♠"}, {"drag 6 3 at 20", "6: 7♠"},    {"drag 6 3 at 41", "6: 7♠"},
-        {"drag 6 3 at 42", "4: 8♥ 7♠"}, {"drag 6 4 at 10", "4: 8♥ 7♠"}, {"drag 6 0 at 5", "6: 7♠"},
-        {"drag 6 9 at 60", "6: 7♠"},    {"drag 6 9 at 5", "8: 8♦' 7♠"}, {"drag 6 0 at 60", "1: 8♥' 7♠"},
+        {"drag 6 3 at 19", "2: 8♦ 7♠"},
+        {"drag 6 3 at 20", "6: 7♠"},
+        {"drag 6 3 at 41", "6: 7♠"},
+        {"drag 6 3 at 42", "4: 8♥ 7♠"},
+        {"drag 6 4 at 10", "4: 8♥ 7♠"},
+        {"drag 6 0 at 5", "6: 7♠"},
+        {"drag 6 9 at 60", "6: 7♠"},
+        {"drag 6 9 at 5", "8: 8♦' 7♠"},
+        {"drag 6 0 at 60", "1: 8♥' 7♠"},
     };
     for (const int width : {798, 1598}) {
         for (const auto& [played, lands] : cases) {

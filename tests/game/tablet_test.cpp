@@ -1,8 +1,9 @@
 #include <gtest/gtest.h>
 
 #include "notation/position_text.h"
-#include "state/soundness.h"
+#include "state/piles.h"
 #include "state/variables.h"
+#include "tests/play/soundness.h"
 #include "tools/driver/play.h"
 #include "windows/frmcards.h"
 

@@ -2,9 +2,10 @@
 
 #include <functional>
 
+#include "board/slide.h"
 #include "notation/position_text.h"
-#include "state/soundness.h"
 #include "state/variables.h"
+#include "tests/play/soundness.h"
 #include "tools/driver/play.h"
 #include "ui/program.h"
 #include "windows/frmBestScore.h"
@@ -41,7 +42,7 @@ class WonBySlide : public testing::Test {
         play.start(position);
         play.save("anamate", "True");
         play.click(from);
-        ASSERT_TRUE(frmcards.Timer3.enabled());
+        ASSERT_TRUE(slide_is_under_way());
         EXPECT_FALSE(frmyouwin.visible());
     }
     Play play;
@@ -96,7 +97,7 @@ TEST(Won, AndDealtAnewLeavesNoUndoRecord) {
         // While the winning card slides, another can be taken up.
         frmcards.mouse().press(top_image(ace_pile(1)).left() + 30, 40);
         frmcards.mouse().move(300, 300);
-        EXPECT_EQ(frmcards.mouse().dragged() != nullptr, frmcards.Timer3.enabled());
+        EXPECT_EQ(frmcards.mouse().dragged() != nullptr, slide_is_under_way());
         play.desktop.advance(1000);
         EXPECT_EQ(frmcards.mouse().dragged(), nullptr);
         EXPECT_EQ(undo_records(), "");

@@ -3,8 +3,8 @@
 #include <stdexcept>
 
 #include "notation/position_text.h"
-#include "state/soundness.h"
 #include "tests/notation/refusal.h"
+#include "tests/play/soundness.h"
 #include "tools/driver/play.h"
 
 namespace tarnwick {

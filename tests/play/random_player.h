@@ -6,12 +6,14 @@
 #include <random>
 #include <string>
 
-#include "game/drop_preview.h"
+#include "board/peek.h"
+#include "board/slide.h"
+#include "game/drops.h"
 #include "notation/position_text.h"
-#include "state/soundness.h"
 #include "state/undo_list.h"
 #include "state/variables.h"
 #include "tests/play/rules.h"
+#include "tests/play/soundness.h"
 #include "tools/driver/play.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmError.h"
@@ -34,7 +36,7 @@ inline const char* kind_of_record(int a, int b) {
     return b >= first_ace_pile ? "column to ace pile" : "column to column";
 }
 
-inline bool slides() { return frmcards.Timer3.enabled(); }
+inline bool slides() { return slide_is_under_way(); }
 
 /// How often each kind of move has happened, by its name.
 using Counts = std::map<std::string, long>;
@@ -55,7 +57,7 @@ class RandomPlayer {
             !patient_ && records > 0 && records < most_undo_records - 3 && below(6) == 0;
         const std::string before = compare_undo ? position_text() : "";
         undoable_ = false;
-        won_by_slide_ = slides() && animation(slide_wins_game) == 1;
+        won_by_slide_ = slide_wins();
         act();
         if (undoable_) count_records(records);
         if (undoable_ && compare_undo && !frmyouwin.visible()) check_undo(records, before);
@@ -102,7 +104,7 @@ class RandomPlayer {
     }
 
     // The card that is on its way wins the game: whatever cuts it short ends that.
-    static bool wins_by_slide() { return slides() && animation(slide_wins_game) == 1; }
+    static bool wins_by_slide() { return slide_wins(); }
 
     void restart() {
         const bool won = wins_by_slide();
@@ -149,8 +151,9 @@ class RandomPlayer {
         if (!foretells || frmyouwin.visible()) return;
         const int receiver = undo_count() == records ? none : int{undo_list(0, 1)};
         if (receiver != none) count("foretold");
-        expect(receiver == foretold, "foretold " + std::to_string(foretold) + " of a drop on " +
-                                         std::to_string(to) + " in\n" + before);
+        expect(receiver == foretold,
+               "foretold " + std::to_string(foretold) + " of a drop on " + std::to_string(to) + " in\n" +
+                   before);
     }
 
     void try_any_move() {
@@ -180,7 +183,7 @@ class RandomPlayer {
         const Image& back = frmcards.Image1(face_down_image(c, below(c)));
         if (!back.visible()) return;
         play_.double_click(back);
-        if (peek_is_showing()) count("peek");
+        if (peek_is_under_way()) count("peek");
     }
 
     void undo() {

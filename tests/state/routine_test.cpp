@@ -35,16 +35,16 @@ TEST(BoundedArray, HasInclusiveBounds) {
 
 bool fail() { throw std::runtime_error("failure"); }
 
-// Two statements with a failure between them, and the end of the routine.
+// Two steps with a failure between them, a question that fails, and what would come after it.
 std::string run_resumable() {
     std::string done;
-    resumable("to_ace", [&done](Statements& then) {
-        then("one", [&] { done += "one "; });
-        then("fail", fail);
-        then("two", [&] { done += "two "; });
-        if (then.holds("fails", fail)) done += "branch ";
-        done += "end";
-    });
+    resumable(
+        "to_ace",
+        [&] { done += "one "; },
+        [] { fail(); },
+        [&] { done += "two "; },
+        fail,
+        [&] { done += "three "; });
     return done;
 }
 
@@ -59,14 +59,12 @@ TEST(Resumable, LeavesUnlessThePlayerHasChosenToResume) {
     EXPECT_EQ(resume_after_error, flag_true) << "no routine of the other group takes the answer";
     EXPECT_EQ(run_resumable(), "one two ") << "one answer lets one failure pass";
     EXPECT_EQ(run_resumable(), "one ");
-    resumable("column_to_column", [&done](Statements& then) {
-        then("inner", [&done] { done = run_resumable(); });
-        done += "outer";
-    });
+    resumable(
+        "column_to_column", [&] { done = run_resumable(); }, [&] { done += "outer"; });
     EXPECT_EQ(done, "one outer") << "only the routine that failed is left";
     EXPECT_EQ(frmError.LblError.caption(), "Fatel Error in Subroutine to_ace");
     frmError.Command1.click();
-    resumable("take_from_tablet", [](Statements&) { fail(); });
+    resumable("take_from_tablet", fail, [&] { done = "went on after a question that failed"; });
     EXPECT_EQ(frmError.LblError.caption(), "Fatel Error in Subroutine take_from_tablet");
     EXPECT_FALSE(resume_after_error) << "the answer is used up";
 }

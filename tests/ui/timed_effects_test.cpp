@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "board/peek.h"
+#include "board/slide.h"
+#include "board/twinkle.h"
 #include "notation/position_text.h"
 #include "state/variables.h"
 #include "tools/driver/play.h"
@@ -28,7 +31,7 @@ TEST(Slide, TakesAStraightLineInAsManyStepsAsTheDistanceAsksFor) {
         Play play;
         play.start(position);
         play.click(from);
-        EXPECT_FALSE(frmcards.Timer3.enabled()) << "animation is off";
+        EXPECT_FALSE(slide_is_under_way()) << "animation is off";
         play.undo();
         play.save("anamate", "True");
         const Image& card = top_image(from);
@@ -37,13 +40,13 @@ TEST(Slide, TakesAStraightLineInAsManyStepsAsTheDistanceAsksFor) {
         EXPECT_NEAR(card.left(), first_left, 0.01) << position;
         EXPECT_NEAR(card.top(), first_top, 0.01) << position;
         play.desktop.advance(std::int64_t{30} * (steps - 2));
-        EXPECT_TRUE(frmcards.Timer3.enabled());
+        EXPECT_TRUE(slide_is_under_way());
         play.desktop.advance(30);
-        EXPECT_FALSE(frmcards.Timer3.enabled());
+        EXPECT_FALSE(slide_is_under_way());
         EXPECT_EQ(display_faults(), "") << position;
         play.undo();
         play.drag(from, ace_pile(0));
-        EXPECT_FALSE(frmcards.Timer3.enabled()) << "a drop";
+        EXPECT_FALSE(slide_is_under_way()) << "a drop";
     }
 }
 
@@ -55,7 +58,7 @@ class SlideUnderWay : public testing::Test {
         play.save("anamate", "True");
         play.click(from);
         play.desktop.advance(time);
-        ASSERT_TRUE(frmcards.Timer3.enabled());
+        ASSERT_TRUE(slide_is_under_way());
     }
     Play play;
 };
@@ -71,7 +74,7 @@ TEST_F(SlideUnderWay, TakesADropOnItsCardAlongToTheAcePile) {
     slide("0: 2♠'\nace 3: A♠\ntablet: (2♠) ..", tablet_pile, 0);
     const Image& flying = frmcards.Image1(226);
     while (flying.left() <= 150) play.desktop.advance(30);
-    ASSERT_TRUE(frmcards.Timer3.enabled() && flying.left() < 162);
+    ASSERT_TRUE(slide_is_under_way() && flying.left() < 162);
     play.drag_image(top_image(0), flying);
     EXPECT_TRUE(shows("ace 3: A♠ 2♠ 2♠'"));
 }
@@ -110,7 +113,7 @@ int twinkles_now_and_then(const char* position) {
     play.start(position);
     for (int i = 0; i < 3000; ++i) {
         play.desktop.advance(100);
-        if (animation(twinkle_frame) != no_twinkle) return frmcards.Timer1.interval();
+        if (twinkle_is_under_way()) return frmcards.Timer1.interval();
     }
     return 0;
 }
@@ -140,7 +143,7 @@ TEST_F(Peek, AtASecondCardCoversTheFirstAndLastsItsFullTime) {
     EXPECT_EQ(shown_by(152), face);
     play.desktop.advance(100);
     EXPECT_EQ(shown_by(152), back);
-    EXPECT_FALSE(frmcards.Timer2.enabled());
+    EXPECT_FALSE(peek_is_under_way());
 }
 
 }  // namespace

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "notation/position_text.h"
-#include "state/soundness.h"
 #include "state/variables.h"
+#include "tests/play/soundness.h"
 #include "tools/driver/play.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmFeatures.h"

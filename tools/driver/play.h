@@ -4,11 +4,12 @@
 #include <string>
 
 #include "board/display.h"
-#include "board/display_check.h"
+#include "game/drops.h"
 #include "platform/headless.h"
 #include "platform/image.h"
 #include "settings/store.h"
 #include "state/cards.h"
+#include "tests/play/display_check.h"
 
 namespace tarnwick {
 
@@ -16,7 +17,7 @@ namespace tarnwick {
 constexpr int ace_pile(int p) { return 12 + p; }
 
 /// A drop this far into an image is never tried on a neighbouring column.
-inline constexpr float middle = 30;
+inline constexpr float middle = plain_click_offset;
 
 /// A running game on the headless desktop, played with mouse and keys at pixel positions. Settings that the
 /// program finds at its start are saved into the store before `start`.

@@ -1,9 +1,11 @@
-#include "board/display_check.h"
+#include "tests/play/display_check.h"
 
 #include <array>
 #include <cmath>
 #include <sstream>
 
+#include "board/peek.h"
+#include "board/twinkle.h"
 #include "settings/settings.h"
 #include "state/variables.h"
 #include "windows/frmcards.h"
@@ -30,8 +32,8 @@ class Table {
     }
 
     void expect_back(int index) {
-        const bool peeked = animation(peeked_image) == peek_mark + index;
-        if (!peeked && frmcards.Image1(index).picture() != back_) fault(index, "shows another back");
+        if (!is_peeked_at(index) && frmcards.Image1(index).picture() != back_)
+            fault(index, "shows another back");
     }
 
     void expect_above(int upper, int lower) {
@@ -59,9 +61,8 @@ class Table {
     void expect_face(const Image& image) {
         const int index = image.index();
         if (index < first_face_image || index > last_face_image) return;
-        const bool twinkles = index == ace_of_spades_image && animation(twinkle_frame) != no_twinkle;
-        const int k = (index - first_picture) % cards_per_suit;
-        const Picture face = face_picture((index - first_picture) / cards_per_suit, k <= king ? k : k - king);
+        const bool twinkles = index == ace_of_spades_image && twinkle_is_under_way();
+        const Picture face = face_picture(suit_of_picture(index), rank_of_picture(index));
         if (!twinkles && image.picture() != face) fault(index, "shows another face");
     }
 
@@ -76,8 +77,8 @@ void check_column(Table& table, int c) {
     for (int s = 0; s <= column_top(c); ++s) {
         const bool face_down = layout(c, s, face_down_field) == 1;
         const int image = face_down ? face_down_image(c, s) : int{layout(c, s, column_picture_field)};
-        table.expect_at(image, static_cast<float>(79 * c + 4) * x_scale,
-                        static_cast<float>(120 + 20 * s) * card_scale);
+        table.expect_at(
+            image, static_cast<float>(79 * c + 4) * x_scale, static_cast<float>(120 + 20 * s) * card_scale);
         if (face_down) table.expect_back(image);
         table.expect_above(image, below);
         below = image;

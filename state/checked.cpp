@@ -1,4 +1,4 @@
-#include "state/rounding.h"
+#include "state/checked.h"
 
 #include <cmath>
 

@@ -1,4 +1,6 @@
-#include "board/scaling.h"
+#include "board/table.h"
+
+#include <array>
 
 #include "board/display.h"
 #include "settings/settings.h"
@@ -11,6 +13,10 @@ namespace tarnwick {
 namespace {
 
 constexpr int design_width = 800;
+
+std::array<Label*, 3> score_labels() {
+    return {&frmcards.lblScoreText, &frmcards.LblScore, &frmcards.LblScoreMax};
+}
 
 void set_stretching(bool stretch) {
     for (int i = first_face_image; i <= last_face_image; ++i) frmcards.Image1(i).set_stretch(stretch);
@@ -49,9 +55,17 @@ void place_stock() {
 
 void place_score_labels() {
     const float top = static_cast<float>(frmcards.height()) / twips_per_pixel - 70;
-    for (Label* label : {&frmcards.lblScoreText, &frmcards.LblScore, &frmcards.LblScoreMax}) {
-        label->set_top(top);
-    }
+    for (Label* label : score_labels()) label->set_top(top);
+}
+
+void set_table_color(Color color) {
+    frmcards.set_back_color(color);
+    for (Label* label : score_labels()) label->set_back_color(color);
+}
+
+void set_text_color(Color color) {
+    for (Label* label : score_labels()) label->set_text_color(color);
+    frmcards.Shape1.for_each([color](Outline& outline) { outline.set_border_color(color); });
 }
 
 }  // namespace tarnwick

@@ -1,4 +1,4 @@
-#include "state/ace_piles.h"
+#include "state/piles.h"
 
 namespace tarnwick {
 namespace {
@@ -9,7 +9,41 @@ void put_on_top(int p, const Card& card) {
     aces(p, picture_field) = card.picture;
 }
 
+constexpr int dealt_face_down = 45;
+
+int face_down_cards() {
+    int count = 0;
+    for (int c = 0; c <= last_column; ++c) {
+        for (int s = 0; s <= column_top(c); ++s) count += layout(c, s, face_down_field);
+    }
+    return count;
+}
+
 }  // namespace
+
+void put_into_slot(int c, int slot, const Card& card) {
+    layout(c, slot, rank_field) = card.rank;
+    layout(c, slot, suit_field) = card.suit;
+    layout(c, slot, face_down_field) = 0;
+    layout(c, slot, column_picture_field) = card.picture;
+}
+
+void push_on_column(int c, const Card& card) {
+    column_top(c) += 1;
+    put_into_slot(c, column_top(c), card);
+}
+
+void put_into_tablet(int slot, const Card& card) {
+    tablet(slot, rank_field) = card.rank;
+    tablet(slot, suit_field) = card.suit;
+    tablet(slot, picture_field) = card.picture;
+}
+
+int ace_pile_size(int p) {
+    if (ace_pile_is_empty(p)) return 0;
+    const int last = aces(p, last_used_field);
+    return last == picture_field ? 1 : last - beneath_picture_field + 2;
+}
 
 void push_on_ace_pile(int p, const Card& card) {
     if (ace_pile_is_empty(p)) {
@@ -78,6 +112,13 @@ void move_up_on_ace_pile(int p) {
 void empty_ace_pile(int p) {
     aces(p, rank_field) = none;
     aces(p, suit_field) = none;
+}
+
+int score_of_state() {
+    int points = tablet_size - 1 - last_tablet_slot();
+    points += dealt_face_down - face_down_cards();
+    for (int p = 0; p <= 3; ++p) points += ace_pile_size(p);
+    return points + (empty_ace_piles() == 0 ? fourth_ace_bonus : 0);
 }
 
 }  // namespace tarnwick

@@ -1,4 +1,4 @@
-#include "state/report_error.h"
+#include "state/routine.h"
 
 #include <string>
 

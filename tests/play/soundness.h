@@ -9,8 +9,4 @@ namespace tarnwick {
 /// with the cards, and the score is the one that the state earns.
 std::string state_faults();
 
-/// The score that belongs to the state: a point for each card that has left the tablet, lies on an ace pile
-/// or was turned up, and the bonus once all four aces lie.
-int score_of_state();
-
 }  // namespace tarnwick
