@@ -2,6 +2,7 @@
 
 #include <QScrollBar>
 
+#include "board/peek.h"
 #include "board/slide.h"
 #include "desktop/board_accessible.h"
 #include "state/variables.h"
@@ -130,7 +131,7 @@ TEST_F(BoardAccessibility, PlaysByPresses) {
     press(image(stock_image));
     EXPECT_TRUE(comes_true([] { return turned_slot() == 4; }));
     press(image(face_down_image(5, 2)));
-    EXPECT_TRUE(comes_true([] { return peek_is_showing(); })) << "two clicks on a face-down card";
+    EXPECT_TRUE(comes_true([] { return peek_is_under_way(); })) << "two clicks on a face-down card";
 
     press(top_of(column_of_ace));
     EXPECT_TRUE(comes_true([] { return !ace_pile_is_empty(0); }));

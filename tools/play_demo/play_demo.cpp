@@ -46,12 +46,8 @@ void act(TwinGame& game, const std::string& what, Action action) {
     wait_for_change(game, before, what);
 }
 
-int top_card(int c, int field) { return layout(c, column_top(c), field); }
-
 bool fits(int c, int target) {
-    return c != target && top_card(c, rank_field) != ace &&
-           builds_on(top_card(c, rank_field), top_card(c, suit_field), top_card(target, rank_field),
-                     top_card(target, suit_field));
+    return c != target && top_card(c).rank != ace && builds_on(top_card(c), top_card(target));
 }
 
 // Drags the first card that fits on another column, from the left; the ace is for its pile.
@@ -68,7 +64,7 @@ void drag_a_card(TwinGame& game) {
 
 void send_up_an_ace(TwinGame& game) {
     for (int c = 0; c <= last_column; ++c) {
-        if (top_card(c, rank_field) != ace) continue;
+        if (top_card(c).rank != ace) continue;
         game.click(c);
         return;
     }
