@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "fuzz/byte_source.h"
-#include "notation/position_text.h"
+#include "notation/position.h"
 #include "notation/record_player.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

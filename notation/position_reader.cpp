@@ -6,7 +6,7 @@
 
 #include "notation/card_text.h"
 #include "notation/outside_text.h"
-#include "notation/position_text.h"
+#include "notation/position.h"
 #include "state/variables.h"
 
 namespace tarnwick {

@@ -15,6 +15,6 @@ struct FrmCommon : Form {
     void design() override { CommonDialog1.reset(); }
 };
 
-extern FrmCommon frmCommon;
+inline FrmCommon frmCommon;
 
 }  // namespace tarnwick

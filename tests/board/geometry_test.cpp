@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "board/display.h"
-#include "notation/position_text.h"
+#include "notation/position.h"
 #include "state/variables.h"
 #include "tools/driver/play.h"
 #include "windows/frmcards.h"

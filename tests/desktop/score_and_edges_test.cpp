@@ -3,7 +3,7 @@
 #include <QScrollBar>
 
 #include "desktop/board_painter.h"
-#include "notation/position_text.h"
+#include "notation/position.h"
 #include "tests/desktop/inner_game.h"
 #include "tests/desktop/reach.h"
 #include "windows/frmcards.h"

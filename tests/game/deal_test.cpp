@@ -2,7 +2,7 @@
 
 #include "board/peek.h"
 #include "board/slide.h"
-#include "notation/position_text.h"
+#include "notation/position.h"
 #include "platform/random.h"
 #include "state/variables.h"
 #include "tests/play/soundness.h"

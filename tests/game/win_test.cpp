@@ -3,7 +3,7 @@
 #include <functional>
 
 #include "board/slide.h"
-#include "notation/position_text.h"
+#include "notation/position.h"
 #include "state/variables.h"
 #include "tests/play/soundness.h"
 #include "tools/driver/play.h"

@@ -4,7 +4,7 @@
 
 #include <random>
 
-#include "notation/position_text.h"
+#include "notation/position.h"
 #include "notation/record_player.h"
 #include "state/variables.h"
 #include "tests/store/scratch_folder.h"

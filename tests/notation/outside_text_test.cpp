@@ -5,7 +5,7 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "notation/position_text.h"
+#include "notation/position.h"
 #include "notation/record.h"
 #include "tests/notation/refusal.h"
 

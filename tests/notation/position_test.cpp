@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "notation/position_text.h"
+#include "notation/position.h"
 #include "tests/notation/refusal.h"
 #include "tests/play/soundness.h"
 #include "tools/driver/play.h"

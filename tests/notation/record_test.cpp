@@ -4,7 +4,7 @@
 
 #include <stdexcept>
 
-#include "notation/position_text.h"
+#include "notation/position.h"
 #include "notation/record_player.h"
 #include "tests/notation/refusal.h"
 

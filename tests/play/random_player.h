@@ -9,7 +9,7 @@
 #include "board/peek.h"
 #include "board/slide.h"
 #include "game/drops.h"
-#include "notation/position_text.h"
+#include "notation/position.h"
 #include "state/undo_list.h"
 #include "state/variables.h"
 #include "tests/play/rules.h"

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "notation/position_text.h"
+#include "notation/position.h"
 #include "state/variables.h"
 #include "tools/driver/play.h"
 #include "windows/frmcards.h"

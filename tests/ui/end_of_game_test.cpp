@@ -5,7 +5,7 @@
 
 #include "board/display.h"
 #include "game/end_game.h"
-#include "notation/position_text.h"
+#include "notation/position.h"
 #include "state/variables.h"
 #include "tests/play/soundness.h"
 #include "tools/driver/play.h"

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "notation/position_text.h"
+#include "notation/position.h"
 #include "state/variables.h"
 #include "tests/play/soundness.h"
 #include "tools/driver/play.h"

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "notation/position_text.h"
+#include "notation/position.h"
 #include "state/variables.h"
 #include "tools/driver/play.h"
 #include "windows/frmBestScore.h"
@@ -26,8 +26,12 @@ TEST(Statistics, RoundTheAverageToOneDecimal) {
         const char* total;
         const char* played;
         const char* average;
-    } cases[] = {{"120", "2", "60"}, {"127", "2", "63.5"}, {"200", "3", "66.7"},
-                 {"1", "4", "0.2"},  {"5", "0", ""},       {"0", "7", "0"}};
+    } cases[] = {{"120", "2", "60"},
+                 {"127", "2", "63.5"},
+                 {"200", "3", "66.7"},
+                 {"1", "4", "0.2"},
+                 {"5", "0", ""},
+                 {"0", "7", "0"}};
     for (const auto& [total, played, average] : cases) {
         Play play;
         play.save("average score", total);

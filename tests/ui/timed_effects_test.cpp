@@ -3,7 +3,7 @@
 #include "board/peek.h"
 #include "board/slide.h"
 #include "board/twinkle.h"
-#include "notation/position_text.h"
+#include "notation/position.h"
 #include "state/variables.h"
 #include "tools/driver/play.h"
 #include "windows/frmcards.h"

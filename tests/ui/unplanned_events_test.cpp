@@ -5,7 +5,7 @@
 #include <functional>
 #include <vector>
 
-#include "notation/position_text.h"
+#include "notation/position.h"
 #include "state/variables.h"
 #include "tests/play/soundness.h"
 #include "tools/driver/play.h"

@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "notation/outside_text.h"
-#include "notation/position_text.h"
+#include "notation/position.h"
 #include "notation/record_player.h"
 #include "notation/standard_output.h"
 #include "tools/console/random_game.h"
@@ -85,7 +85,8 @@ int run(const std::vector<std::string>& arguments) {
     } else if (first == "--random" && arguments.size() == 3) {
         constexpr std::uint32_t most_actions = std::numeric_limits<int>::max();
         write_random_game(number_from(arguments[1], std::numeric_limits<std::uint32_t>::max()),
-                          static_cast<int>(number_from(arguments[2], most_actions)), std::cout);
+                          static_cast<int>(number_from(arguments[2], most_actions)),
+                          std::cout);
     } else if (first == "--signature" && arguments.size() > 1) {
         RecordPlayer player;
         for (std::size_t i = 1; i < arguments.size(); ++i) play_file(arguments[i], player, false, signature);

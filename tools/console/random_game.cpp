@@ -3,7 +3,7 @@
 #include <random>
 #include <stdexcept>
 
-#include "notation/position_text.h"
+#include "notation/position.h"
 #include "notation/record_player.h"
 #include "state/variables.h"
 

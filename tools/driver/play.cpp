@@ -2,7 +2,7 @@
 
 #include <sstream>
 
-#include "notation/position_text.h"
+#include "notation/position.h"
 #include "notation/record.h"
 #include "platform/random.h"
 #include "state/variables.h"

@@ -1,7 +1,0 @@
-#include "windows/frmCommon.h"
-
-namespace tarnwick {
-
-FrmCommon frmCommon;
-
-}  // namespace tarnwick
