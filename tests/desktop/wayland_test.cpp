@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <set>
 
-#include "settings/sqlite_store.h"
+#include "settings/sqlite/sqlite_store.h"
 #include "tests/desktop/reach.h"
 #include "windows/frmcards.h"
 

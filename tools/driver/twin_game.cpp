@@ -7,7 +7,7 @@
 #include <functional>
 #include <stdexcept>
 
-#include "settings/sqlite_store.h"
+#include "settings/sqlite/sqlite_store.h"
 #include "state/variables.h"
 #include "tools/driver/eventually.h"
 #include "windows/frmcards.h"
