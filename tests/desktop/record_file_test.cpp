@@ -12,8 +12,8 @@
 
 #include "notation/game_recorder.h"
 #include "tests/notation/refusal.h"
+#include "tests/play/play.h"
 #include "tests/store/scratch_folder.h"
-#include "tools/driver/play.h"
 
 namespace tarnwick {
 namespace {

@@ -8,6 +8,7 @@
 
 #include "settings/sqlite/sqlite_store.h"
 #include "tests/desktop/reach.h"
+#include "tests/play/play.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {

@@ -4,7 +4,7 @@
 #include "platform/random.h"
 #include "state/soundness.h"
 #include "state/variables.h"
-#include "tools/driver/play.h"
+#include "tests/play/play.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {

@@ -3,7 +3,7 @@
 #include "notation/position_text.h"
 #include "state/soundness.h"
 #include "state/variables.h"
-#include "tools/driver/play.h"
+#include "tests/play/play.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {

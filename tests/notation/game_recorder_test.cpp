@@ -8,7 +8,7 @@
 #include "notation/position_text.h"
 #include "notation/record_player.h"
 #include "state/variables.h"
-#include "tools/driver/play.h"
+#include "tests/play/play.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmcards.h"
 #include "windows/frmyouwin.h"

@@ -5,7 +5,7 @@
 #include "notation/position_text.h"
 #include "state/soundness.h"
 #include "tests/notation/refusal.h"
-#include "tools/driver/play.h"
+#include "tests/play/play.h"
 
 namespace tarnwick {
 namespace {

@@ -8,7 +8,7 @@
 #include "notation/position_text.h"
 #include "state/soundness.h"
 #include "state/variables.h"
-#include "tools/driver/play.h"
+#include "tests/play/play.h"
 #include "ui/program.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmError.h"
