@@ -12,7 +12,7 @@
 
 #include "bench/screen_watch.h"
 #include "desktop/board_painter.h"
-#include "tools/driver/play.h"
+#include "tools/driver/headless_game.h"
 #include "windows/frmcards.h"
 
 namespace {
@@ -74,8 +74,8 @@ int main(int argc, char** argv) {
     const PixelSize screen =
         argc > 2 ? PixelSize{std::atoi(argv[1]), std::atoi(argv[2])} : PixelSize{1920, 1080};
     const int scale = argc > 3 ? std::atoi(argv[3]) : 1;
-    Play play({screen.width / scale, screen.height / scale});
-    play.start();
+    HeadlessGame game({screen.width / scale, screen.height / scale});
+    game.start();
     Board board(scale);
     board.paint();
 

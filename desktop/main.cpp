@@ -6,19 +6,21 @@
 #include <exception>
 #include <iostream>
 #include <memory>
+#include <optional>
 
 #include "desktop/command_line.h"
 #include "desktop/display_loss.h"
 #include "desktop/picture_cache.h"
 #include "desktop/qt_desktop.h"
-#include "desktop/recording.h"
+#include "desktop/record_file.h"
 #include "desktop/signals.h"
 #include "desktop/unattended_end.h"
+#include "notation/game_recorder.h"
 #include "notation/outside_text.h"
 #include "notation/standard_output.h"
 #include "platform/random.h"
-#include "settings/sqlite_store.h"
-#include "settings/store_path.h"
+#include "settings/sqlite/sqlite_store.h"
+#include "settings/sqlite/store_path.h"
 #include "ui/program.h"
 
 namespace {
@@ -76,7 +78,9 @@ int run(const CommandLine& command, int argc, char** argv) {
     QGuiApplication::setDesktopFileName("org.tarnwick.tarnwick");
 
     const std::string store_path = command.store.empty() ? default_store_path() : command.store;
-    const std::unique_ptr<GameRecorder> recorder = recorder_for(command.record, store_path);
+    const std::unique_ptr<RecordFile> record = record_beside_store(command.record, store_path);
+    std::optional<GameRecorder> recorder;
+    if (record) recorder.emplace(*record);
     // Outlives the windows, which may ask for settings until they are gone.
     SqliteStore store(store_path);
     QtDesktop desktop;

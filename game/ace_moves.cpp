@@ -35,7 +35,7 @@ std::string ace_pile_message(int top_rank, int beneath_rank, int pile_suit) {
 }
 
 void show_help(const std::string& message) {
-    if (!message.empty()) desktop().message_box({"Tarnwick", message});
+    if (!message.empty()) desktop().notify({"Tarnwick", message});
 }
 
 bool help_is_wanted() { return !suppress_help && setting_is_on(key_show_message); }

@@ -29,8 +29,6 @@ Action drag_of(int target, const Image& source, float x) {
 
 }  // namespace
 
-GameRecorder::GameRecorder(const std::string& file) : file_(file) {}
-
 void GameRecorder::begin() {
     write_new_deal();
     const ImageEvents events = frmcards.image_events;
@@ -69,14 +67,15 @@ void GameRecorder::write_new_deal() {
 
 void GameRecorder::write(const Action& action) {
     if (action.kind != ActionKind::deal) write_new_deal();
-    if (!file_) return;
+    if (!stream_) return;
     try {
-        file_->write_line(text_of(action));
+        if (!(*stream_ << text_of(action) << std::endl)) {
+            throw std::runtime_error("The record of the game could not be written");
+        }
     } catch (const std::runtime_error& failure) {
-        file_.reset();
+        stream_ = nullptr;
         desktop().after_event([happened = printable(failure.what())] {
-            desktop().message_box(
-                {"Tarnwick", happened + ": it ends here, and the game goes on without it."});
+            desktop().notify({"Tarnwick", happened + ": it ends here, and the game goes on without it."});
         });
     }
 }

@@ -1,20 +1,20 @@
 #pragma once
 
-#include <optional>
-#include <string>
+#include <cstdint>
+#include <ostream>
 
 #include "notation/record.h"
-#include "notation/record_file.h"
 
 namespace tarnwick {
 
-/// Writes what the player does into a file as it happens, as a record that can be played again (see
-/// record.h). All but a new deal is in the file before it begins, so that the last line tells what went
-/// wrong.
+/// Writes what the player does into a stream as it happens, as a record that can be played again (see
+/// record.h). All but a new deal is written, and the stream flushed, before it begins, so that the last line
+/// tells what went wrong.
 class GameRecorder {
   public:
-    /// Goes on behind what the file holds. Throws as RecordFile does.
-    explicit GameRecorder(const std::string& file);
+    /// The stream outlives the recorder. One whose failures throw tells in the exception, as the beginning of
+    /// a sentence, what happened to the record.
+    explicit GameRecorder(std::ostream& stream) : stream_(&stream) {}
     GameRecorder(const GameRecorder&) = delete;
     GameRecorder& operator=(const GameRecorder&) = delete;
 
@@ -25,8 +25,8 @@ class GameRecorder {
     void write(const Action& action);
     void write_new_deal();
 
-    std::optional<RecordFile> file_;  ///< none any more when the record has ended before the game
-    std::uint64_t deals_ = 0;         ///< how many have been written, or had begun before
+    std::ostream* stream_;     ///< null when the record has ended before the game
+    std::uint64_t deals_ = 0;  ///< how many have been written, or had begun before
 };
 
 }  // namespace tarnwick

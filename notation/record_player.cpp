@@ -4,10 +4,9 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "board/display.h"
+#include "notation/table_hand.h"
 #include "platform/random.h"
 #include "settings/settings.h"
-#include "state/variables.h"
 #include "ui/program.h"
 #include "windows/frmcards.h"
 
@@ -16,31 +15,6 @@ namespace {
 
 // The window becomes 800 pixels wide: every card has its natural size.
 constexpr PixelSize screen{810, 660};
-
-const Image& image_of_source(int pile) {
-    const Image& image = top_image(pile);
-    const bool is_card = image.index() >= first_face_image && image.index() <= last_face_image;
-    if (!is_card) throw std::invalid_argument("there is no card to drag");
-    return image;
-}
-
-void drag(const Action& action) {
-    const Image& source = image_of_source(action.source);
-    const Image& target = top_image(action.target);
-    Mouse& mouse = frmcards.mouse();
-    constexpr float halfway_down = 48;
-    mouse.press(source.left() + 1, source.top() + halfway_down);
-    const float x = target.left() + static_cast<float>(action.offset);
-    const float y = target.top() + halfway_down;
-    mouse.move(x, y);
-    mouse.release(x, y);
-}
-
-void turn() {
-    const Image& stock = frmcards.Image1(stock_image);
-    frmcards.mouse().press(stock.left() + 1, stock.top() + 1);
-    frmcards.mouse().release(stock.left() + 1, stock.top() + 1);
-}
 
 }  // namespace
 
@@ -68,20 +42,7 @@ void RecordPlayer::play(const Action& action) {
     }
     if (!started_) throw std::invalid_argument("a record begins with a deal");
     if (!frmcards.accepts_input()) throw std::invalid_argument("the game is over");
-    switch (action.kind) {
-        case ActionKind::turn:
-            turn();
-            break;
-        case ActionKind::drag:
-            drag(action);
-            break;
-        case ActionKind::undo:
-            frmcards.mnuUndo.choose();
-            break;
-        default:
-            frmcards.mnuRestart.choose();
-            break;
-    }
+    play_action(action);
 }
 
 std::vector<std::string> RecordPlayer::messages() const {

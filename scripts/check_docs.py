@@ -54,7 +54,8 @@ RUN = {
 TESTED = {"./test", "./test --long", "scripts/lint.sh", "scripts/format.sh", "bench/run", "scripts/check_package.sh",
           "scripts/check_reproducible.sh",
           "scripts/fuzz.sh events 60",
-          "cmake --preset sanitizers && cmake --build --preset sanitizers", "python3 scripts/check_docs.py"}
+          "cmake --preset sanitizers && cmake --build --preset sanitizers",
+          "cmake --preset libcxx && cmake --build --preset libcxx", "python3 scripts/check_docs.py"}
 
 
 def commands_of(text):

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <clocale>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 #include <string_view>
 
@@ -22,6 +24,30 @@ std::string_view trimmed(const std::string& text) {
 bool is_word(std::string_view text, std::string_view word) {
     return std::equal(text.begin(), text.end(), word.begin(), word.end(),
                       [](char a, char b) { return (a >= 'A' && a <= 'Z' ? a - 'A' + 'a' : a) == b; });
+}
+
+// Takes the decimal digits off the front of a text; false when there is none.
+bool take_digits(std::string_view& text) {
+    const std::size_t digits = std::min(text.find_first_not_of("0123456789"), text.size());
+    text.remove_prefix(digits);
+    return digits > 0;
+}
+
+bool take_one_of(std::string_view& text, std::string_view letters) {
+    if (text.empty() || letters.find(text[0]) == std::string_view::npos) return false;
+    text.remove_prefix(1);
+    return true;
+}
+
+// Whether a text is a number with or without sign, decimals and exponent, and nothing else.
+bool is_decimal(std::string_view text) {
+    take_one_of(text, "+-");
+    bool has_digits = take_digits(text);
+    if (take_one_of(text, ".")) has_digits = take_digits(text) || has_digits;
+    if (!has_digits) return false;
+    if (!take_one_of(text, "eE")) return text.empty();
+    take_one_of(text, "+-");
+    return take_digits(text) && text.empty();
 }
 
 template <class Whole>
@@ -48,12 +74,18 @@ std::string beginning_of(const std::string& text, std::size_t most_characters) {
 }
 
 double to_double(const std::string& text) {
-    std::string_view number = trimmed(text);
-    if (number.size() > 1 && number[0] == '+' && number[1] != '-') number.remove_prefix(1);
-    double value = 0;
-    const char* end = number.data() + number.size();
-    const auto [stop, error] = std::from_chars(number.data(), end, value);
-    if (error != std::errc{} || stop != end || !std::isfinite(value)) throw ConversionError(text, "a number");
+    const std::string_view number = trimmed(text);
+    if (!is_decimal(number)) throw ConversionError(text, "a number");
+    // Not every standard library has std::from_chars for a double. strtod reads the same numbers, with the
+    // point of the locale.
+    std::string readable(number);
+    const std::size_t point = readable.find('.');
+    if (point != std::string::npos) readable.replace(point, 1, std::localeconv()->decimal_point);
+    const double value = std::strtod(readable.c_str(), nullptr);
+    const bool too_small =
+        value == 0 &&
+        number.substr(0, number.find_first_of("eE")).find_first_of("123456789") != std::string_view::npos;
+    if (too_small || !std::isfinite(value)) throw ConversionError(text, "a number");
     return value;
 }
 

@@ -3,7 +3,7 @@
 #include "board/display.h"
 #include "notation/position.h"
 #include "state/variables.h"
-#include "tools/driver/play.h"
+#include "tests/play/play.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {

@@ -2,6 +2,7 @@
 
 #include "desktop/board_painter.h"
 #include "state/variables.h"
+#include "tests/play/play.h"
 #include "tools/driver/board_picture.h"
 #include "tools/driver/eventually.h"
 #include "windows/frmcards.h"
@@ -138,7 +139,7 @@ TEST(Drag, HeldAtTheLowerEdgeItReachesTheCardsBelow) {
     EXPECT_TRUE(eventually(scrolled));
     game.screen().release();
     game.resize(game.board().width, 900);
-    game.headless().drag(column_of_jack, column_of_queen);
+    play_action({.kind = ActionKind::drag, .source = column_of_jack, .target = column_of_queen});
     ASSERT_EQ(column_top(column_of_queen), column_of_queen + 1);
     EXPECT_EQ(board_faults(game), "");
 }

@@ -6,6 +6,7 @@
 #include "notation/position.h"
 #include "tests/desktop/inner_game.h"
 #include "tests/desktop/reach.h"
+#include "tests/play/play.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {

@@ -6,8 +6,9 @@
 #include <filesystem>
 #include <set>
 
-#include "settings/sqlite_store.h"
+#include "settings/sqlite/sqlite_store.h"
 #include "tests/desktop/reach.h"
+#include "tests/play/play.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {

@@ -5,7 +5,7 @@
 
 #include "state/undo_list.h"
 #include "state/variables.h"
-#include "tools/driver/play.h"
+#include "tests/play/play.h"
 
 namespace tarnwick {
 

@@ -5,8 +5,8 @@
 #include "notation/position.h"
 #include "platform/random.h"
 #include "state/variables.h"
+#include "tests/play/play.h"
 #include "tests/play/soundness.h"
-#include "tools/driver/play.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "state/variables.h"
-#include "tools/driver/play.h"
+#include "tests/play/play.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {

@@ -4,8 +4,8 @@
 #include "state/piles.h"
 #include "state/undo_list.h"
 #include "state/variables.h"
+#include "tests/play/play.h"
 #include "tests/play/soundness.h"
-#include "tools/driver/play.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {
@@ -159,7 +159,7 @@ TEST(Move, IsOfTheCardThatFitsWhicheverOneIsTakenHoldOf) {
         EXPECT_TRUE(shows("0: J♦ 10♠ 9♥\nace 0: A♣ .. 8♣")) << slot;
         // The card beneath on an ace pile stands for the pile, as what is dragged and as what is dropped on.
         const Image& beneath = frmcards.Image1(aces(0, beneath_picture_field));
-        play.drag_image(top_image(0), beneath, 5);
+        drag_image(top_image(0), beneath, 5);
         EXPECT_EQ(play.message(), "Place the other 8 of Clubs on top");
         frmcards.mouse().press(beneath.left() + 9, beneath.top() + 9);
         frmcards.mouse().release(top_image(0).left() + middle, top_image(0).top() + 8);

@@ -3,8 +3,8 @@
 #include "notation/position.h"
 #include "state/piles.h"
 #include "state/variables.h"
+#include "tests/play/play.h"
 #include "tests/play/soundness.h"
-#include "tools/driver/play.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {

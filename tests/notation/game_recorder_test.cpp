@@ -3,12 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <sstream>
 
 #include "notation/position.h"
 #include "notation/record_player.h"
 #include "state/variables.h"
-#include "tests/store/scratch_folder.h"
-#include "tools/driver/play.h"
+#include "tests/play/play.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmcards.h"
 #include "windows/frmyouwin.h"
@@ -38,13 +38,11 @@ void play_wildly(Play& play, std::mt19937& random) {
 }
 
 TEST(GameRecorder, WritesAGameThatComesOutTheSame) {
-    const ScratchFolder folder("record");
-    const std::string name = folder / "game.txt";
     for (std::uint32_t seed = 1; seed <= 20; ++seed) {
-        ScratchFolder::write(name, "# an older game\n");
+        std::stringstream record;
         std::string end;
         {
-            GameRecorder recorder(name);
+            GameRecorder recorder(record);
             Play play;
             play.start(seed);
             recorder.begin();
@@ -53,11 +51,22 @@ TEST(GameRecorder, WritesAGameThatComesOutTheSame) {
             play.space();  // A deal of the last moment is written with its first action.
             end = position_text();
         }
-        EXPECT_TRUE(ScratchFolder::contents(name).starts_with("# an older game\n")) << "it is kept";
         RecordPlayer player;
-        for (const Action& action : parse_record(ScratchFolder::contents(name))) player.play(action);
+        for (const Action& action : parse_record(record.str())) player.play(action);
         ASSERT_EQ(position_text(), end) << "seed " << seed;
     }
+}
+
+TEST(GameRecorder, EndsWithItsStream) {
+    std::ostream nowhere(nullptr);
+    GameRecorder recorder(nowhere);
+    Play play;
+    play.start();
+    recorder.begin();
+    EXPECT_EQ(play.message(),
+              "The record of the game could not be written: it ends here, and the game goes on without it.");
+    play.space();
+    EXPECT_EQ(play.message(), "") << "told once";
 }
 
 }  // namespace

@@ -4,8 +4,8 @@
 
 #include "notation/position.h"
 #include "tests/notation/refusal.h"
+#include "tests/play/play.h"
 #include "tests/play/soundness.h"
-#include "tools/driver/play.h"
 
 namespace tarnwick {
 namespace {

@@ -33,12 +33,20 @@ TEST(Conversion, OfStoredTexts) {
         {"1,5", "-", "-", "-", "-"},
         {"nan", "-", "-", "-", "-"},
         {"1e999", "-", "-", "-", "-"},
+        {"1e-999", "-", "-", "-", "-"},
+        {"0e999", "0", "0", "0", "False"},
+        {"-5.", "-5", "-5", "-5", "True"},
+        {"\t.5E+1", "5", "5", "5", "True"},
+        {"99999999999999999999999999999999999999999999e-43", "10", "10", "10", "True"},
     };
     for (const auto& [text, integer, long_integer, number, boolean] : cases) {
         EXPECT_EQ(converted(to_integer, text), integer) << text;
         EXPECT_EQ(converted(to_long, text), long_integer) << text;
         EXPECT_EQ(converted(to_double, text), number) << text;
         EXPECT_EQ(converted(to_boolean, text), boolean) << text;
+    }
+    for (const char* text : {".", "-", "+-1", "--1", "e5", "1e", "1e+", "0x10", "inf", "1\v", "1_0"}) {
+        EXPECT_EQ(converted(to_double, text), "-") << text;
     }
     EXPECT_EQ(text_of(33.3), "33.3");
     EXPECT_EQ(text_of(1e15), "1000000000000000");

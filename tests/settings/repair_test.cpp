@@ -4,7 +4,7 @@
 
 #include "settings/settings.h"
 #include "state/variables.h"
-#include "tools/driver/play.h"
+#include "tests/play/play.h"
 #include "ui/program.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmError.h"

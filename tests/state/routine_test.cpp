@@ -4,7 +4,7 @@
 
 #include "board/display.h"
 #include "state/undo_list.h"
-#include "tools/driver/play.h"
+#include "tests/play/play.h"
 #include "windows/frmError.h"
 #include "windows/frmcards.h"
 

@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <optional>
 
-#include "settings/store_path.h"
+#include "settings/sqlite/store_path.h"
 #include "tests/store/store_test.h"
 
 namespace tarnwick {

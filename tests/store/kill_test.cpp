@@ -14,7 +14,7 @@
 #include "game/end_game.h"
 #include "platform/headless.h"
 #include "settings/settings.h"
-#include "settings/sqlite_store.h"
+#include "settings/sqlite/sqlite_store.h"
 #include "state/variables.h"
 #include "tests/store/scratch_folder.h"
 #include "ui/program.h"

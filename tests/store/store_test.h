@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "settings/sqlite_store.h"
+#include "settings/sqlite/sqlite_store.h"
 #include "tests/store/scratch_folder.h"
 
 namespace tarnwick {

@@ -2,8 +2,8 @@
 
 #include "notation/position.h"
 #include "state/variables.h"
+#include "tests/play/play.h"
 #include "tests/play/soundness.h"
-#include "tools/driver/play.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {

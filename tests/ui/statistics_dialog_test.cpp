@@ -2,7 +2,7 @@
 
 #include "notation/position.h"
 #include "state/variables.h"
-#include "tools/driver/play.h"
+#include "tests/play/play.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmcards.h"
 

@@ -5,7 +5,7 @@
 #include "board/twinkle.h"
 #include "notation/position.h"
 #include "state/variables.h"
-#include "tools/driver/play.h"
+#include "tests/play/play.h"
 #include "windows/frmcards.h"
 #include "windows/pictures.h"
 
@@ -65,7 +65,7 @@ class SlideUnderWay : public testing::Test {
 
 TEST_F(SlideUnderWay, LandsWhenItsCardIsClicked) {
     slide("0: 2♠\n4: 3♥\nace 3: A♠", 0, 95);
-    play.drag_image(frmcards.Image1(226), frmcards.Image1(226));
+    drag_image(frmcards.Image1(226), frmcards.Image1(226));
     EXPECT_TRUE(shows("ace 3: A♠ 2♠"));
 }
 
@@ -75,7 +75,7 @@ TEST_F(SlideUnderWay, TakesADropOnItsCardAlongToTheAcePile) {
     const Image& flying = frmcards.Image1(226);
     while (flying.left() <= 150) play.desktop.advance(30);
     ASSERT_TRUE(slide_is_under_way() && flying.left() < 162);
-    play.drag_image(top_image(0), flying);
+    drag_image(top_image(0), flying);
     EXPECT_TRUE(shows("ace 3: A♠ 2♠ 2♠'"));
 }
 
@@ -84,7 +84,7 @@ TEST_F(SlideUnderWay, IsInFrontFromItsStartAndBelongsToItsPile) {
     const Image* flying = &frmcards.Image1(226);
     EXPECT_EQ(frmcards.mouse().image_at(flying->left() + 5, flying->top() + 5), flying)
         << "before the card that was turned up";
-    play.drag_image(top_image(0), *flying);
+    drag_image(top_image(0), *flying);
     EXPECT_TRUE(shows("ace 3: A♠ 2♠ 2♠'")) << "dropped on it over its column";
     slide("ace 3: A♠\ntablet: 9♣ (2♠) ..", tablet_pile, 0);
     flying = &frmcards.Image1(226);

@@ -7,8 +7,8 @@
 
 #include "notation/position.h"
 #include "state/variables.h"
+#include "tests/play/play.h"
 #include "tests/play/soundness.h"
-#include "tools/driver/play.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmFeatures.h"
 #include "windows/frmcards.h"

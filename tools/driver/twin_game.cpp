@@ -7,7 +7,7 @@
 #include <functional>
 #include <stdexcept>
 
-#include "settings/sqlite_store.h"
+#include "settings/sqlite/sqlite_store.h"
 #include "state/variables.h"
 #include "tools/driver/eventually.h"
 #include "windows/frmcards.h"
@@ -34,7 +34,7 @@ void TwinGame::begin() {
     // On the middle of nothing, so that the last game's pointer presses no button and lights none up.
     screen_.move_pointer(screen_.screen().width - 1, screen_.screen().height - 1);
     headless_.reset();
-    headless_ = std::make_unique<Play>(
+    headless_ = std::make_unique<HeadlessGame>(
         PixelSize{screen_.screen().width / start_.scale, screen_.screen().height / start_.scale});
     for (const auto& [key, text] : start_.settings) headless_->save(key, text);
     headless_->start(start_.deal);

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "settings/store.h"
+#include "board/display.h"
 #include "tools/driver/child_process.h"
-#include "tools/driver/play.h"
+#include "tools/driver/headless_game.h"
 #include "tools/driver/x_driver.h"
 
 namespace tarnwick {
@@ -62,7 +62,7 @@ class TwinGame {
     XDriver& screen() { return screen_; }
     ChildProcess& program() { return *program_; }
     XWindow window() const { return window_; }
-    Play& headless() { return *headless_; }
+    HeadlessGame& headless() { return *headless_; }
 
     /// Where the board lies within the pixels of the window.
     XPlace board() const;
@@ -120,7 +120,7 @@ class TwinGame {
     TemporaryFolder folder_;
     std::string store_file_ = folder_.path() + "/settings.sqlite";
     XDriver screen_;
-    std::unique_ptr<Play> headless_;
+    std::unique_ptr<HeadlessGame> headless_;
     std::unique_ptr<ChildProcess> program_;
     XWindow window_ = 0;
 };

@@ -1,4 +1,4 @@
-#include "settings/sqlite_file.h"
+#include "settings/sqlite/sqlite_file.h"
 
 #include <sqlite3.h>
 

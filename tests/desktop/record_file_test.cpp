@@ -1,4 +1,4 @@
-#include "notation/record_file.h"
+#include "desktop/record_file.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -12,8 +12,8 @@
 
 #include "notation/game_recorder.h"
 #include "tests/notation/refusal.h"
+#include "tests/play/play.h"
 #include "tests/store/scratch_folder.h"
-#include "tools/driver/play.h"
 
 namespace tarnwick {
 namespace {
@@ -38,14 +38,13 @@ TEST_F(RecordFileTest, GoesOnBehindWhatIsThereAndLeavesNoHalfLine) {
     for (const char* before : {"# old\n", "# old"}) {
         ScratchFolder::write(name, before);
         RecordFile file(name);
-        file.write_line("deal 1");
-        file.write_line("turn");
+        file << "deal 1" << std::endl << "turn" << std::endl;
         rlimit unlimited{};
         getrlimit(RLIMIT_FSIZE, &unlimited);
         rlimit twenty_bytes = unlimited;
         twenty_bytes.rlim_cur = 20;
         setrlimit(RLIMIT_FSIZE, &twenty_bytes);
-        EXPECT_THROW(file.write_line("drag 4 7"), std::runtime_error);
+        EXPECT_THROW(file << "drag 4 7" << std::endl, std::runtime_error);
         setrlimit(RLIMIT_FSIZE, &unlimited);
         EXPECT_EQ(ScratchFolder::contents(name), "# old\ndeal 1\nturn\n");
     }
@@ -78,7 +77,8 @@ TEST_F(RecordFileTest, RefusesInOneSentence) {
 
 // The record of a game that goes on while something happens to its file.
 void expect_end(const std::string& name, const std::function<void()>& mishap, const std::string& message) {
-    GameRecorder recorder(name);
+    RecordFile file(name);
+    GameRecorder recorder(file);
     Play play;
     play.start();
     recorder.begin();

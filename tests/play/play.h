@@ -4,12 +4,11 @@
 #include <string>
 
 #include "board/display.h"
-#include "game/drops.h"
-#include "platform/headless.h"
+#include "notation/table_hand.h"
 #include "platform/image.h"
-#include "settings/store.h"
 #include "state/cards.h"
 #include "tests/play/display_check.h"
+#include "tools/driver/headless_game.h"
 
 namespace tarnwick {
 
@@ -19,16 +18,12 @@ constexpr int ace_pile(int p) { return 12 + p; }
 /// A drop this far into an image is never tried on a neighbouring column.
 inline constexpr float middle = plain_click_offset;
 
-/// A running game on the headless desktop, played with mouse and keys at pixel positions. Settings that the
-/// program finds at its start are saved into the store before `start`.
-class Play {
+/// A running game on the headless desktop, played with mouse and keys at pixel positions.
+class Play : public HeadlessGame {
   public:
-    explicit Play(PixelSize screen = {810, 610}) : desktop(screen) {}
-    ~Play();
-    Play(const Play&) = delete;
-    Play& operator=(const Play&) = delete;
+    using HeadlessGame::HeadlessGame;
 
-    void start(std::uint32_t deal = 1);
+    using HeadlessGame::start;
     /// Starts, without sliding cards, in a position.
     void start(const std::string& position);
 
@@ -40,7 +35,6 @@ class Play {
     void drag(int from, int to, float offset = middle);
     /// A drag that takes hold of slot `slot` of column `from`.
     void drag_slot(int from, int slot, int to);
-    void drag_image(const Image& from, const Image& to, float offset = middle);
     /// Press and release at one place of a pile's top card: the way to send it to its ace pile.
     void click(int pile, float offset = middle);
     void click_stock(int times = 1);
@@ -51,14 +45,8 @@ class Play {
     /// The text of the last message box, which is then forgotten; empty when there was none.
     std::string message();
 
-    void save(const std::string& key, const std::string& text) {
-        store.save("Tarnwick", "setting", key, text);
-    }
     /// The stored text of a key, "-" when there is none.
     std::string stored(const std::string& key);
-
-    HeadlessDesktop desktop;
-    MemoryStore store;
 };
 
 /// The undo list, newest record first, as "(25 25 -1) (3 12 1)".

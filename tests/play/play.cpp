@@ -1,34 +1,13 @@
-#include "tools/driver/play.h"
+#include "tests/play/play.h"
 
 #include <sstream>
 
 #include "notation/position.h"
 #include "notation/record.h"
-#include "platform/random.h"
 #include "state/variables.h"
-#include "ui/program.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {
-namespace {
-
-void click_image(const Image& image, float offset) {
-    frmcards.mouse().press(image.left() + offset, image.top() + 8);
-    frmcards.mouse().release(image.left() + offset, image.top() + 8);
-}
-
-}  // namespace
-
-Play::~Play() {
-    end_program();
-    random_generator().stop_replay();
-}
-
-void Play::start(std::uint32_t deal) {
-    random_generator().replay(deal);
-    start_program(store);
-}
-
 void Play::start(const std::string& position) {
     save("anamate", "False");
     start();
@@ -40,26 +19,14 @@ void Play::act(const std::string& record) {
     for (std::string line; std::getline(lines, line, ',');) {
         Action action;
         parse_action(line, action);
-        if (action.kind == ActionKind::turn) click_stock();
-        if (action.kind == ActionKind::undo) undo();
-        if (action.kind == ActionKind::drag) {
-            drag(action.source, action.target, static_cast<float>(action.offset));
-        }
+        play_action(action);
     }
-}
-
-void Play::drag_image(const Image& from, const Image& to, float offset) {
-    // Near the upper edge: the part of a card that the next one in its column leaves free.
-    Mouse& mouse = frmcards.mouse();
-    mouse.press(from.left() + middle * card_scale, from.top() + 5);
-    mouse.move(to.left() + offset, to.top() + 8);
-    mouse.release(to.left() + offset, to.top() + 8);
 }
 
 void Play::drag(int from, int to, float offset) { drag_image(top_image(from), top_image(to), offset); }
 
 void Play::drag_slot(int from, int slot, int to) {
-    drag_image(frmcards.Image1(layout(from, slot, column_picture_field)), top_image(to));
+    drag_image(frmcards.Image1(layout(from, slot, column_picture_field)), top_image(to), middle);
 }
 
 void Play::click(int pile, float offset) { click_image(top_image(pile), offset); }

@@ -1,4 +1,4 @@
-#include "notation/record_file.h"
+#include "desktop/record_file.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -9,6 +9,10 @@
 #include <filesystem>
 #include <fstream>
 #include <optional>
+#include <stdexcept>
+#include <utility>
+
+#include "desktop/command_line.h"
 
 namespace tarnwick {
 namespace {
@@ -71,7 +75,12 @@ fs::path place_of(fs::path path) {
 
 }  // namespace
 
-RecordFile::RecordFile(const std::string& name) : name_(name) {
+RecordFile::RecordFile(const std::string& name) : std::ostream(nullptr), buffer_(name) {
+    rdbuf(&buffer_);
+    exceptions(badbit);
+}
+
+RecordFile::Buffer::Buffer(const std::string& name) : name_(name) {
     constexpr int flags = O_WRONLY | O_APPEND | O_CREAT | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
     constexpr mode_t mode = 0666;
     descriptor_ = open(name.c_str(), flags, mode);
@@ -80,26 +89,31 @@ RecordFile::RecordFile(const std::string& name) : name_(name) {
         throw std::runtime_error(why_not_opened(name, errno));
     }
     if (is_used_by_another(descriptor_, status)) {
-        close(descriptor_);
+        close();
         throw std::runtime_error("another game is recorded in " + name +
                                  ": end that one, or name another file with --record");
     }
     within_a_line_ = S_ISREG(status.st_mode) && ends_within_a_line(name);
 }
 
-RecordFile::~RecordFile() { close(descriptor_); }
+void RecordFile::Buffer::close() {
+    if (descriptor_ >= 0) ::close(std::exchange(descriptor_, -1));
+}
 
-void RecordFile::write_line(const std::string& line) {
+int RecordFile::Buffer::sync() {
     struct stat before {};
     const auto named = status_of(name_);
     if (fstat(descriptor_, &before) != 0 || !named || !is_one_file(*named, before)) {
+        close();
         throw std::runtime_error("The record of the game in " + name_ + " was deleted or replaced");
     }
-    if (write_whole(descriptor_, (within_a_line_ ? "\n" : "") + line + '\n')) {
+    if (write_whole(descriptor_, (within_a_line_ ? "\n" : "") + str())) {
         within_a_line_ = false;
-        return;
+        str({});
+        return 0;
     }
     const bool whole = !S_ISREG(before.st_mode) || ftruncate(descriptor_, before.st_size) == 0;
+    close();
     throw std::runtime_error("The record of the game could not be written to " + name_ +
                              (whole ? "" : ", whose last line is broken off"));
 }
@@ -109,6 +123,15 @@ bool names_one_file(const std::string& a, const std::string& b) {
     const auto second = status_of(b);
     if (first && second) return is_one_file(*first, *second);
     return place_of(a) == place_of(b);
+}
+
+std::unique_ptr<RecordFile> record_beside_store(const std::string& name, const std::string& store_file) {
+    if (name.empty()) return nullptr;
+    // What stands in its journal SQLite plays into the store.
+    if (names_one_file(name, store_file) || names_one_file(name, store_file + "-journal")) {
+        throw CommandLineError("--record must not name the file of the settings, " + store_file);
+    }
+    return std::make_unique<RecordFile>(name);
 }
 
 }  // namespace tarnwick

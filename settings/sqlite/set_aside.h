@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "settings/sqlite_file.h"
+#include "settings/sqlite/sqlite_file.h"
 
 namespace tarnwick {
 

@@ -1,4 +1,4 @@
-#include "settings/store_path.h"
+#include "settings/sqlite/store_path.h"
 
 #include <pwd.h>
 #include <unistd.h>
@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <stdexcept>
 
-#include "settings/sqlite_file.h"
+#include "settings/sqlite/sqlite_file.h"
 
 namespace tarnwick {
 namespace fs = std::filesystem;

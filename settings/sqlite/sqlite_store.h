@@ -5,8 +5,8 @@
 #include <set>
 #include <string>
 
-#include "settings/lock_patience.h"
-#include "settings/sqlite_file.h"
+#include "settings/sqlite/lock_patience.h"
+#include "settings/sqlite/sqlite_file.h"
 #include "settings/store.h"
 
 namespace tarnwick {

@@ -1,4 +1,4 @@
-#include "settings/set_aside.h"
+#include "settings/sqlite/set_aside.h"
 
 #include <fcntl.h>
 #include <sys/file.h>

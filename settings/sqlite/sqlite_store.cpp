@@ -1,12 +1,12 @@
-#include "settings/sqlite_store.h"
+#include "settings/sqlite/sqlite_store.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <stdexcept>
 #include <utility>
 
-#include "settings/set_aside.h"
-#include "settings/store_path.h"
+#include "settings/sqlite/set_aside.h"
+#include "settings/sqlite/store_path.h"
 
 namespace tarnwick {
 namespace fs = std::filesystem;

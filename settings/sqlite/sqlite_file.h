@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "settings/lock_patience.h"
+#include "settings/sqlite/lock_patience.h"
 
 struct sqlite3;
 struct sqlite3_stmt;
