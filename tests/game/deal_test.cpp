@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <optional>
+
 #include "board/peek.h"
 #include "board/slide.h"
 #include "notation/position.h"
@@ -21,8 +23,8 @@ TEST(Random, OfTheSystemDiffersFromTimeToTime) {
 }
 
 TEST(Deal, NumberOneIsTheSameEverywhere) {
-    Play play;
-    play.start(1);
+    std::optional<Play> play(std::in_place);
+    play->start(1);
     EXPECT_TRUE(
         position_text().starts_with("0: 8♠\n"
                                     "1: [K♠] Q♥'\n"
@@ -38,8 +40,8 @@ TEST(Deal, NumberOneIsTheSameEverywhere) {
     EXPECT_EQ(state_faults() + display_faults(), "") << "every card of both packs lies there";
     frmcards.mnuNew.choose();
     const std::string next_deal = position_text();
-    Play another;
-    another.start(2);
+    play.reset();
+    play.emplace().start(2);
     EXPECT_EQ(position_text(), next_deal) << "the next deal takes the next number";
 }
 
