@@ -74,9 +74,7 @@ QRect BoardItemAccessible::rect() const {
     // A label may be drawn larger than it is placed.
     QRect place = to_qt(widget_.place()).toAlignedRect();
     if (!is_image) {
-        BoardPainter painter(board.form());
-        painter.set_scrolled(board.scroll_offset());
-        place = painter.area_of(widget_, widget_.place());
+        place = board.area_of(widget_);
     }
     return place.translated(board.mapToGlobal(QPoint(0, -board.scroll_offset())));
 }

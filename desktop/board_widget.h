@@ -3,32 +3,29 @@
 #include <QBasicTimer>
 #include <QWidget>
 
-#include "desktop/board_accessible.h"
 #include "desktop/board_painter.h"
-#include "desktop/glide_back.h"
 #include "desktop/slim_scroll_bar.h"
+#include "view/board_stage.h"
 
 namespace tarnwick {
 
-/// Shows a window's board and hands the mouse, the keys and the user's resizing on to the window.
-/// When cards lie below its lower edge, the board can be scrolled down to them.
-class BoardWidget : public QWidget {
+/// Shows a window's board, and hands the mouse, the keys and the user's resizing on to its stage.
+class BoardWidget : public QWidget, private BoardFront {
   public:
     explicit BoardWidget(Form& form);
 
-    /// Repaints a widget that was seen at `before`.
-    void widget_changed(const Widget& widget, const Rect& before);
-    /// Repaints what a step of a drag has changed.
+    // What the view of the window is told.
+    void widget_changed(const Widget& widget, const Rect& before) { stage_.widget_changed(widget, before); }
     void drag_changed();
-    /// Repaints all of the board.
-    void repaint_all();
-
-    /// Scrolls the board as far as it takes to see this spot of it, in its pixels.
-    void reveal(QPointF spot);
+    void form_changed() { stage_.form_changed(); }
 
     Form& form() const { return form_; }
+    /// Scrolls the board as far as it takes to see this spot of it, in its pixels.
+    void reveal(QPointF spot) { stage_.reveal(qRound(spot.y())); }
     /// How far the board is scrolled down, in pixels.
-    int scroll_offset() const { return offset_; }
+    int scroll_offset() const { return stage_.scroll().offset(); }
+    /// Where one of the board's widgets is seen, in pixels of the board.
+    QRect area_of(const Widget& widget) const;
 
   protected:
     bool event(QEvent* event) override;
@@ -46,39 +43,21 @@ class BoardWidget : public QWidget {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
-    void repaint_area(const QRect& area);
-    void repaint_lifted();
-    void repaint_mark();
-    void take_up_or_put_down();
-    void move_pointer(QPointF place);
-    /// Tells the window which part of the board is seen.
-    void show_part(int offset);
-    void scroll_with(int key);
-    void scroll_at_edge();
-    /// Which way a drag scrolls the board now: -1 up, 1 down, 0 not at all.
-    int edge_ahead() const;
-    void update_label_scale();
-    void update_scrolling_later();
-    void update_scrolling();
-    QPointF on_board(const QMouseEvent& event) const;
+    // What the stage asks for.
+    void repaint(const Area& area) override;
+    void repaint_all() override { update(); }
+    void scroll_changed() override;
+    void settle_later() override;
+    void steps_changed() override;
+
+    bool is_over_other_window(const QMouseEvent& event) const;
 
     Form& form_;
-    GlideBack glide_;
     BoardPainter painter_;
     SlimScrollBar scroll_bar_{this};
-    QRect lifted_area_;
-    std::vector<Image*> lifted_;  ///< the images of the drag
-    QRect mark_area_;
-    QPointF drag_offset_;  ///< how far the pointer has moved since the drag's press
-    QPointF pointer_;      ///< where the pointer was last seen, in the widget
-    BoardNews news_{*this};
-    QBasicTimer edge_scroll_;  ///< runs while a drag is held at an edge beyond which there is more
-    QBasicTimer settling_;     ///< runs while the size changes, and a moment after
-    qreal label_scale_ = 1;
-    QRect plate_;       ///< what is painted anew when anything below the labels changes
-    int offset_ = 0;    ///< how far the board is scrolled down, in pixels
-    int repaints_ = 0;  ///< rectangles since the board was last painted
-    bool scrolling_is_stale_ = false;
+    BoardStage stage_;
+    QBasicTimer steps_;     ///< runs until the stage's next step
+    QBasicTimer settling_;  ///< runs while the size changes, and a moment after
 };
 
 }  // namespace tarnwick

@@ -30,8 +30,7 @@ int whole_device_height(int height, qreal ratio) {
 
 }  // namespace
 
-BoardWindow::BoardWindow(Form& form)
-    : form_(form), board_(*new BoardWidget(form)), color_(form.back_color()) {
+BoardWindow::BoardWindow(Form& form) : form_(form), board_(*new BoardWidget(form)) {
     setObjectName(to_qt(form.name()));
     make_menus();
     setCentralWidget(&board_);
@@ -58,9 +57,13 @@ void BoardWindow::sync_menus() {
 void BoardWindow::sync() {
     setWindowTitle(to_qt(form_.caption()));
     menuBar()->setEnabled(form_.enabled());
-    if (color_ != form_.back_color()) board_.repaint_all();
-    color_ = form_.back_color();
+    board_.form_changed();
     sync_size();
+}
+
+void BoardWindow::widget_changed(const Widget& widget, const Rect& before) {
+    board_.widget_changed(widget, before);
+    news_.board_changed();
 }
 
 void BoardWindow::sync_size() {
@@ -86,7 +89,7 @@ void BoardWindow::changeEvent(QEvent* event) {
 }
 
 void BoardView::widget_changed(const Widget& widget, const Rect& before) {
-    if (board_window_) board_window_->board().widget_changed(widget, before);
+    if (board_window_) board_window_->widget_changed(widget, before);
 }
 
 void BoardView::menu_changed() {

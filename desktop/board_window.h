@@ -3,6 +3,7 @@
 #include <QMainWindow>
 #include <vector>
 
+#include "desktop/board_accessible.h"
 #include "desktop/board_widget.h"
 #include "desktop/window_view.h"
 
@@ -16,6 +17,7 @@ class BoardWindow : public QMainWindow {
     BoardWidget& board() { return board_; }
     /// Takes over title, size, colour and whether the window takes input.
     void sync();
+    void widget_changed(const Widget& widget, const Rect& before);
     /// Shows and hides the menus' entries as they say.
     void sync_menus();
 
@@ -34,8 +36,8 @@ class BoardWindow : public QMainWindow {
 
     Form& form_;
     BoardWidget& board_;
+    BoardNews news_{board_};
     std::vector<Entry> entries_;
-    Color color_;
 };
 
 class BoardView : public WindowView {

@@ -5,6 +5,8 @@
 #include <array>
 #include <utility>
 
+#include "platform/key_codes.h"
+
 namespace tarnwick {
 
 int key_code_of(int qt_key) {
@@ -13,11 +15,11 @@ int key_code_of(int qt_key) {
         std::pair{Qt::Key_Tab, 9},
         std::pair{Qt::Key_Return, enter_key},
         std::pair{Qt::Key_Enter, enter_key},
-        std::pair{Qt::Key_Escape, 27},
-        std::pair{Qt::Key_PageUp, 33},
-        std::pair{Qt::Key_PageDown, 34},
-        std::pair{Qt::Key_End, 35},
-        std::pair{Qt::Key_Home, 36},
+        std::pair{Qt::Key_Escape, escape_key},
+        std::pair{Qt::Key_PageUp, page_up_key},
+        std::pair{Qt::Key_PageDown, page_down_key},
+        std::pair{Qt::Key_End, end_key},
+        std::pair{Qt::Key_Home, home_key},
         std::pair{Qt::Key_Left, 37},
         std::pair{Qt::Key_Up, 38},
         std::pair{Qt::Key_Right, 39},

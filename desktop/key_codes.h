@@ -2,8 +2,6 @@
 
 namespace tarnwick {
 
-inline constexpr int enter_key = 13;
-
 /// The key code that the windows' handlers know a key by, or 0 for a key without one. `qt_key` is a Qt::Key.
 int key_code_of(int qt_key);
 

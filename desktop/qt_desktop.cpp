@@ -25,6 +25,7 @@
 #include "desktop/qt_convert.h"
 #include "notation/outside_text.h"
 #include "platform/timer.h"
+#include "view/ticking.h"
 
 namespace tarnwick {
 
@@ -112,9 +113,9 @@ void QtDesktop::event_ended() {
 }
 
 void QtDesktop::arm_timer() {
-    const std::optional<std::int64_t> due = timer_queue().next_due();
-    if (due) {
-        timer_.start(std::chrono::milliseconds(std::max<std::int64_t>(0, *due - now())));
+    const std::optional<std::int64_t> time = time_to_next_tick();
+    if (time) {
+        timer_.start(std::chrono::milliseconds(*time));
     } else {
         timer_.stop();
     }

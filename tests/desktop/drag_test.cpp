@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "desktop/board_painter.h"
 #include "state/variables.h"
 #include "tools/driver/board_picture.h"
 #include "tools/driver/eventually.h"

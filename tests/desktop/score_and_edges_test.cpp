@@ -2,17 +2,19 @@
 
 #include <QScrollBar>
 
-#include "desktop/board_painter.h"
+#include "desktop/qt_convert.h"
+#include "desktop/qt_texts.h"
 #include "notation/position_text.h"
 #include "tests/desktop/inner_game.h"
 #include "tests/desktop/reach.h"
+#include "view/board_scene.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {
 namespace {
 
 // Where the labels are, without the rounded edges of the plate under them.
-QRect labels() { return BoardPainter(frmcards).plate().adjusted(4, 2, -4, -2); }
+QRect labels() { return to_qt(BoardScene(frmcards, qt_texts()).plate()).adjusted(4, 2, -4, -2); }
 
 TEST(Score, IsReadAboveEveryCard) {
     // A short column, and one that ends below the score.
