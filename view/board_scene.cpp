@@ -68,7 +68,7 @@ Area BoardScene::plate(double label_scale) const {
 
 const BoardLayers& BoardScene::layers(double ratio) {
     const PixelSize size = form_.client_size();
-    return layers({0, 0, size.width, size.height}, ratio);
+    return layers({0, scrolled_, size.width, size.height}, ratio);
 }
 
 const BoardLayers& BoardScene::layers(const Area& area, double ratio) {

@@ -23,7 +23,7 @@ class BoardScene {
     /// What is to be painted of an area (pixels of the board), so many device pixels to a pixel. Valid until
     /// the next call.
     const BoardLayers& layers(const Area& area, double ratio);
-    /// The same of all of the window's client area.
+    /// The same of all that is seen in the window's client area.
     const BoardLayers& layers(double ratio);
 
     /// Where a widget that lies at `place` is seen, in pixels of the board.
