@@ -6,7 +6,6 @@
 #include <cmath>
 
 #include "desktop/qt_convert.h"
-#include "desktop/qt_desktop.h"
 
 namespace tarnwick {
 namespace {

@@ -8,7 +8,6 @@
 #include <algorithm>
 
 #include "desktop/qt_convert.h"
-#include "desktop/qt_desktop.h"
 
 namespace tarnwick {
 namespace {
@@ -173,7 +172,7 @@ void DialogView::widget_changed(const Widget& widget, const Rect&) {
 }
 
 QWidget* DialogView::make_window() {
-    dialog_ = new DialogWindow(form(), desktop().main_window());
+    dialog_ = new DialogWindow(form(), windows().main_window());
     return dialog_;
 }
 

@@ -57,28 +57,9 @@ QtDesktop::QtDesktop() {
 
 QtDesktop::~QtDesktop() {
     // Forms may outlive the toolkit; their views and windows must not.
-    while (!views_.empty()) views_.back()->form().take_view().reset();
+    windows_.close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     use_desktop(nullptr);
-}
-
-void QtDesktop::remove(WindowView& view) { std::erase(views_, &view); }
-
-void QtDesktop::abandon_windows() {
-    for (const WindowView* view : std::exchange(views_, {})) {
-        static_cast<void>(view->form().take_view().release());
-    }
-}
-
-void QtDesktop::detach_dialogs_of(const QWidget& window) {
-    for (const WindowView* view : views_) {
-        QWidget* dialog = view->window();
-        if (!dialog || dialog->parentWidget() != &window) continue;
-        const QPoint place = dialog->pos();
-        dialog->setParent(nullptr, dialog->windowFlags());
-        dialog->move(place);
-        if (view->form().visible()) dialog->show();
-    }
 }
 
 PixelSize QtDesktop::screen_size() const {
@@ -98,8 +79,8 @@ std::string QtDesktop::short_date() const {
 std::int64_t QtDesktop::double_click_time() const { return QApplication::doubleClickInterval(); }
 
 std::unique_ptr<FormView> QtDesktop::make_view(Form& form) {
-    if (form.menus().empty()) return std::make_unique<DialogView>(*this, form);
-    return std::make_unique<BoardView>(*this, form);
+    if (form.menus().empty()) return std::make_unique<DialogView>(windows_, form);
+    return std::make_unique<BoardView>(windows_, form);
 }
 
 void QtDesktop::timers_changed() {
@@ -109,7 +90,7 @@ void QtDesktop::timers_changed() {
 void QtDesktop::event_ended() {
     arm_timer();
     // What a message has kept from being settled.
-    if (!front_window()) windows_changed();
+    if (!windows_.front_window()) windows_changed();
 }
 
 void QtDesktop::arm_timer() {
@@ -145,7 +126,7 @@ void QtDesktop::windows_changed() {
 void QtDesktop::settle_windows() {
     // A message that waits for its answer is the last window of the program, whatever happens to the others.
     if (in_event()) return;
-    QWidget* front = front_window();
+    QWidget* front = windows_.front_window();
     if (!front) {
         // Where no event loop runs, the next one, a message's, would end at once. QApplication::quit() is for
         // those who want the program to end: it asks every window.
@@ -156,30 +137,13 @@ void QtDesktop::settle_windows() {
     if (!QApplication::activeWindow() && !QApplication::activeModalWidget()) front->activateWindow();
 }
 
-QWidget* QtDesktop::main_window() const {
-    for (const WindowView* view : views_) {
-        if (view->window() && !view->form().menus().empty() && !view->form().unloading())
-            return view->window();
-    }
-    return nullptr;
-}
-
-QWidget* QtDesktop::front_window() const {
-    const auto shown = [](const WindowView* view) { return view->window() && view->form().visible(); };
-    const auto front = std::find_if(views_.rbegin(), views_.rend(), shown);
-    return front == views_.rend() ? nullptr : (*front)->window();
-}
-
 void QtDesktop::hand_on_keyboard() {
     // A disabled window that the user clicks hands the keyboard on to the dialog that it waits for.
-    QWidget* front = front_window();
-    const QWidget* main = main_window();
+    QWidget* front = windows_.front_window();
+    const QWidget* main = windows_.main_window();
     if (QApplication::activeModalWidget()) return;
     if (!front || !main || front == main || main->windowHandle() != QGuiApplication::focusWindow()) return;
-    const auto is_disabled = [main](const WindowView* view) {
-        return view->window() == main && !view->form().enabled();
-    };
-    if (std::none_of(views_.begin(), views_.end(), is_disabled)) return;
+    if (!windows_.is_disabled(*main)) return;
     front->activateWindow();
     // A window manager that is still busy with the click may give the keyboard back: looked at again.
     constexpr std::chrono::milliseconds a_moment{100};
@@ -187,7 +151,7 @@ void QtDesktop::hand_on_keyboard() {
 }
 
 MessageAnswer QtDesktop::show_message(const Message& message) {
-    const QPointer<QMessageBox> box = new QMessageBox(front_window());
+    const QPointer<QMessageBox> box = new QMessageBox(windows_.front_window());
     box->setWindowTitle(to_qt(message.title));
     box->setTextFormat(Qt::PlainText);
     box->setText(to_qt(message.text));
@@ -210,7 +174,7 @@ void QtDesktop::unheard(const Message& message) { write_message(message); }
 
 std::optional<Color> QtDesktop::pick_color(const std::string& title) {
     if (!attended()) return std::nullopt;
-    const QPointer<QColorDialog> dialog = make_color_picker(Qt::white, to_qt(title), front_window());
+    const QPointer<QColorDialog> dialog = make_color_picker(Qt::white, to_qt(title), windows_.front_window());
     const bool picked = ask(*dialog) == QDialog::Accepted;
     const std::optional<Color> color =
         picked && dialog ? std::optional(from_qt(dialog->selectedColor())) : std::nullopt;

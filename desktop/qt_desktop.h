@@ -6,15 +6,14 @@
 #include <string>
 #include <vector>
 
+#include "desktop/window_list.h"
 #include "platform/desktop.h"
 
 class QDialog;
-class QWidget;
 
 namespace tarnwick {
 
 class HelpWindow;
-class WindowView;
 
 /// Writes a message for a player who is not there to the standard error output.
 void write_message(const Message& message);
@@ -37,20 +36,11 @@ class QtDesktop : public Desktop {
     std::optional<Color> pick_color(const std::string& title) override;
     bool show_help(const std::string& file_name) override;
 
-    /// Keeps track of the views; called by the views.
-    void add(WindowView& view) { views_.push_back(&view); }
-    void remove(WindowView& view);
     /// Lets the forms go on without their windows, which stay as they are: the display is lost, and nothing
     /// of the toolkit may be called any more.
-    void abandon_windows();
+    void abandon_windows() { windows_.abandon(); }
     /// Takes back the messages and colour pickers that wait for an answer; they count as cancelled.
     void cancel_questions();
-    /// Lets the dialogs of a window that is about to go stay on the screen without it.
-    void detach_dialogs_of(const QWidget& window);
-    /// The window that new dialogs belong to (not one that is about to go), and the front one of all; null
-    /// when there is none.
-    QWidget* main_window() const;
-    QWidget* front_window() const;
 
   protected:
     MessageAnswer show_message(const Message& message) override;
@@ -67,7 +57,7 @@ class QtDesktop : public Desktop {
     QTimer timer_;
     QTimer background_;
     std::function<void()> background_action_;
-    std::vector<WindowView*> views_;  ///< in the order in which the windows were loaded
+    WindowList windows_;
     std::vector<QPointer<QDialog>> questions_;
     std::unique_ptr<HelpWindow> help_;
 };

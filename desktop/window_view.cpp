@@ -1,39 +1,37 @@
 #include "desktop/window_view.h"
 
-#include "desktop/qt_convert.h"
-#include "desktop/qt_desktop.h"
-
 namespace tarnwick {
 
-WindowView::WindowView(QtDesktop& desktop, Form& form) : desktop_(desktop), form_(form) {
-    desktop_.add(*this);
+WindowView::WindowView(WindowList& windows, Form& form) : windows_(windows), here_{form} {
+    windows_.add(here_);
 }
 
 WindowView::~WindowView() {
-    desktop_.remove(*this);
-    if (!window_) return;
-    desktop_.detach_dialogs_of(*window_);
-    window_->hide();
-    window_->deleteLater();
+    windows_.remove(here_);
+    if (!here_.native) return;
+    windows_.detach_dialogs_of(*here_.native);
+    here_.native->hide();
+    here_.native->deleteLater();
 }
 
 void WindowView::form_changed() {
-    if (!form_.visible()) return;
-    if (window_) {
+    if (!form().visible()) return;
+    if (here_.native) {
         sync_window();
         return;
     }
-    window_ = make_window();
+    here_.native = make_window();
     sync_window();
     show_window();
-    window_->activateWindow();
+    here_.native->activateWindow();
 }
 
 void WindowView::raise() {
-    if (!window_) return;
-    if (window_->isMinimized()) window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
-    window_->raise();
-    window_->activateWindow();
+    QWidget* window = here_.native;
+    if (!window) return;
+    if (window->isMinimized()) window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+    window->raise();
+    window->activateWindow();
 }
 
 }  // namespace tarnwick

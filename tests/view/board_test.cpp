@@ -7,6 +7,7 @@
 
 #include "board/display.h"
 #include "platform/key_codes.h"
+#include "settings/settings.h"
 #include "state/variables.h"
 #include "tests/view/grid_window.h"
 #include "view/ticking.h"
@@ -29,11 +30,12 @@ constexpr Place bare_table{60, 500};
 
 class ShownBoard : public testing::Test {
   protected:
-    // Where the card lies in the window.
+    // Where the card is taken hold of, in the window; and where another one dropped on it lies beside it.
     Place on(const Widget& widget) {
         return {static_cast<double>(widget.left()) + 30,
                 static_cast<double>(widget.place().bottom()) - 8 - stage.scroll().offset()};
     }
+    Place beside(const Widget& widget) { return {on(widget).x + 15, on(widget).y - 40}; }
     void press(Place at) { stage.press(at.x, at.y, MouseButton::left); }
     void press(int column) { press(on(top_image(column))); }
     void move(Place to) { stage.move(to.x, to.y, true); }
@@ -69,9 +71,8 @@ TEST_F(ShownBoard, IsListedFromBackToFront) {
         EXPECT_EQ(std::count_if(layers.images.begin(), layers.images.end(), is_there), 1) << "covered";
     }
     const Picture jack = top_image(column_of_jack).picture();
-    const Place queen = on(top_image(column_of_queen));
     press(column_of_jack);
-    move(queen);
+    move(on(top_image(column_of_queen)));
     game.layers();
     EXPECT_EQ(layers.images.size(), at_rest - 1) << "the Jack is not where it lay";
     ASSERT_EQ(layers.lifted.size(), 1U);
@@ -87,12 +88,12 @@ TEST_F(ShownBoard, IsListedFromBackToFront) {
 TEST_F(ShownBoard, IsPaintedAnewWhereItIsToldToHaveChanged) {
     press(column_of_jack);
     EXPECT_TRUE(shows_all()) << "taken up";
-    for (const Place& place : {bare_table, on(top_image(column_of_queen)), on(top_image(column_of_king)),
-                               Place{100, 590}, on(top_image(column_of_queen))}) {
+    for (const Place& place : {bare_table, beside(top_image(column_of_queen)), on(top_image(column_of_king)),
+                               Place{100, 590}, beside(top_image(column_of_queen))}) {
         move(place);
         EXPECT_TRUE(shows_all()) << place.x << ", " << place.y;
     }
-    release(on(top_image(column_of_queen)));
+    release(beside(top_image(column_of_queen)));
     EXPECT_EQ(column_top(column_of_queen), column_of_queen + 1);
     EXPECT_TRUE(shows_all()) << "put down";
     press(column_of_ace);
@@ -109,9 +110,16 @@ TEST_F(ShownBoard, IsPaintedAnewWhereItIsToldToHaveChanged) {
         if (kind < 3 && event % 2 == 0) press(below(10));
         if (kind >= 3 && kind < 6) move(anywhere());
         if (kind == 6 || kind == 7) release(event % 2 == 0 ? on(top_image(below(10))) : anywhere());
-        if (kind == 8) stage.key_down(' ');
+        if (kind == 8) {
+            save_setting(key_anamate, event % 2 == 0 ? "True" : "False");
+            stage.cancel();
+            const Place card = on(top_image(below(10)));
+            press(card);
+            release(card);
+        }
         if (kind == 9) stage.scroll_by(below(200) - 100);
         if (kind == 10) pass(below(60));
+        if (kind == 10 && event % 3 == 0) stage.key_down(' ');
         if (kind == 11 && event % 3 == 0) view.resize({700 + below(100), 300 + below(300)});
         if (kind == 11 && event % 3 == 1 && frmcards.mnuUndo.visible()) frmcards.mnuUndo.choose();
         ASSERT_TRUE(shows_all()) << event << ", " << kind;
@@ -233,9 +241,14 @@ TEST_F(ShownBoard, ScrollsUnderACardHeldAtItsEdge) {
     EXPECT_EQ(stage.scroll().value(), 24) << "a step every 25 milliseconds";
     EXPECT_TRUE(shows_all());
     pass(1000);
-    EXPECT_EQ(stage.scroll().value(), stage.scroll().range());
+    const int range = stage.scroll().range();
+    EXPECT_EQ(stage.scroll().value(), range);
     EXPECT_FALSE(stage.next_step());
     EXPECT_EQ(frmcards.mouse().receiver(), &top_image(column_of_queen)) << "another card under the pointer";
+    const double down = drag().offset().y;
+    stage.scroll_to(0);
+    EXPECT_EQ(drag().offset().y, down - range / 4 * 4) << "under the pointer at once";
+    stage.scroll_to(range);
     move({edge.x, 20});
     pass(1000);
     EXPECT_EQ(stage.scroll().value(), 0);
