@@ -131,12 +131,12 @@ TEST_F(ShownBoard, LetsARefusedCardGlideBack) {
         press(column_of_jack);
         move(bare_table);
         release(bare_table);
+        EXPECT_TRUE(shows_all());
     };
     const Place home = on(top_image(column_of_jack));
     refuse();
     ASSERT_EQ(drag().lifted().size(), 1U);
     EXPECT_EQ(drag().offset().x, bare_table.x - home.x) << "begins where it was let go";
-    EXPECT_TRUE(shows_all());
     pass(80);
     EXPECT_NEAR(drag().offset().x, (bare_table.x - home.x) * std::pow(70.0 / 150, 3), 0.1);
     EXPECT_TRUE(shows_all());
