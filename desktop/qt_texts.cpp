@@ -29,7 +29,8 @@ class QtTexts : public TextMeasure {
         return static_cast<float>(QFontMetricsF(qt_font(font)).height());
     }
     TextSize wrapped(const std::string& text, const TextFont& font, float width) const override {
-        const QRectF column(0, 0, static_cast<qreal>(width), QWIDGETSIZE_MAX);
+        constexpr qreal any_height = 1e6;
+        const QRectF column(0, 0, static_cast<qreal>(width), any_height);
         const QSizeF size =
             QFontMetricsF(qt_font(font)).boundingRect(column, Qt::TextWordWrap, to_qt(text)).size();
         return {static_cast<float>(size.width()), static_cast<float>(size.height())};

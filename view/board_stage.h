@@ -42,7 +42,9 @@ class BoardStage {
     // What happens on the screen.
     /// The desktop's font is another one.
     void font_changed() { update_labels(); }
+    /// The board's window has this size now, in pixels.
     void resized(PixelSize size);
+    /// The event is over after which BoardFront::settle_later() was to be answered.
     void settle();
     void press(double x, double y, MouseButton button);
     /// The pointer has moved; a drag whose button is no longer held has lost it, and ends without a drop.

@@ -49,11 +49,6 @@ TEST(Score, StaysInTheWindowWhenTheBoardIsScrolled) {
         game.screen().key("Home");
         EXPECT_TRUE(eventually([&] { return seen() == home; }));
     }
-    ASSERT_GT(TwinGame::spot_on(top_image(9)).y, 300);
-    game.drag(6, 9);
-    EXPECT_EQ(column_top(9), 9) << "nobody receives what is let go below the window";
-    game.screen().key("Home");
-    EXPECT_TRUE(eventually([&] { return seen() == home; }));
 }
 
 TEST(ScrollBar, CoversNoCardAtRest) {
