@@ -11,8 +11,8 @@
 #include <iostream>
 
 #include "bench/screen_watch.h"
-#include "desktop/board_painter.h"
-#include "desktop/qt_texts.h"
+#include "desktop/board/board_painter.h"
+#include "desktop/shared/qt_texts.h"
 #include "tools/driver/play.h"
 #include "view/board_scene.h"
 #include "windows/frmcards.h"

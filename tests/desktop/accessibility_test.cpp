@@ -2,7 +2,7 @@
 
 #include <QScrollBar>
 
-#include "desktop/board_accessible.h"
+#include "desktop/board/board_accessible.h"
 #include "state/variables.h"
 #include "tests/desktop/inner_game.h"
 #include "windows/frmcards.h"

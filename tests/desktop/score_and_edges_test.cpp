@@ -2,8 +2,8 @@
 
 #include <QScrollBar>
 
-#include "desktop/qt_convert.h"
-#include "desktop/qt_texts.h"
+#include "desktop/shared/qt_convert.h"
+#include "desktop/shared/qt_texts.h"
 #include "notation/position_text.h"
 #include "tests/desktop/inner_game.h"
 #include "tests/desktop/reach.h"

@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <sstream>
 
-#include "desktop/board_painter.h"
-#include "desktop/qt_texts.h"
+#include "desktop/board/board_painter.h"
+#include "desktop/shared/qt_texts.h"
 #include "tools/driver/eventually.h"
 #include "view/board_scene.h"
 #include "windows/frmcards.h"
