@@ -11,8 +11,10 @@
 #include <iostream>
 
 #include "bench/screen_watch.h"
-#include "desktop/board_painter.h"
+#include "desktop/board/board_painter.h"
+#include "desktop/shared/qt_texts.h"
 #include "tools/driver/headless_game.h"
+#include "view/board_scene.h"
 #include "windows/frmcards.h"
 
 namespace {
@@ -41,9 +43,8 @@ class Board {
     void fill() { image(frmcards.client_size()).fill(Qt::darkGreen); }
 
     void paint() {
-        const PixelSize size = frmcards.client_size();
-        QPainter painter(&image(size));
-        painter_.paint(painter, QRect(0, 0, size.width, size.height));
+        QPainter painter(&image(frmcards.client_size()));
+        painter_.paint(painter, scene_.layers(scale_));
     }
 
   private:
@@ -58,7 +59,8 @@ class Board {
 
     int scale_;
     QImage image_;
-    BoardPainter painter_{frmcards};
+    BoardScene scene_{frmcards, qt_texts()};
+    BoardPainter painter_;
 };
 
 void narrow(int step) {

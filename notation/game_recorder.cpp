@@ -6,7 +6,7 @@
 #include "game/tablet.h"
 #include "notation/outside_text.h"
 #include "platform/desktop.h"
-#include "platform/keys.h"
+#include "platform/key_codes.h"
 #include "platform/random.h"
 #include "windows/frmcards.h"
 

@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <iostream>
 
-#include "desktop/picture_cache.h"
+#include "desktop/shared/picture_cache.h"
 
 int main(int argc, char** argv) {
     const int size = argc == 3 ? std::atoi(argv[1]) : 0;

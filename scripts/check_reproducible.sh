@@ -41,7 +41,7 @@ if [ "${1:-}" = --quick ]; then
     copy_source "$scratch/elsewhere"
     # One with the core's precompiled headers, one with the toolkit's, and the drawings.
     objects=(CMakeFiles/tarnwick_core.dir/windows/frmcards.cpp.o
-        desktop/CMakeFiles/tarnwick_desktop.dir/help_window.cpp.o
+        desktop/CMakeFiles/tarnwick_desktop.dir/dialogs/help_window.cpp.o
         desktop/CMakeFiles/tarnwick_desktop.dir/qrc_art.cpp.o)
     must cmake --build "$scratch/elsewhere/build" --target "${objects[@]}"
     for object in "${objects[@]}"; do same "build/$object" "$scratch/elsewhere/build/$object"; done

@@ -10,6 +10,6 @@ cmake --preset release -B build-lint -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev
 git ls-files '*.cpp' ':!tests/faults' ':!bench' | xargs -P "$(nproc)" -n 4 \
     clang-tidy --quiet -p build-lint 2>/dev/null | grep -E '(warning|error):' && status=1
 git ls-files 'platform/*.cpp' 'settings/*.cpp' 'windows/*.cpp' 'state/*.cpp' 'board/*.cpp' 'game/*.cpp' 'ui/*.cpp' \
-    'notation/*.cpp' | xargs cppcheck --std=c++20 --enable=warning,performance,portability --inline-suppr --quiet \
+    'view/*.cpp' 'notation/*.cpp' | xargs cppcheck --std=c++20 --enable=warning,performance,portability --inline-suppr --quiet \
     --error-exitcode=1 -I . || status=1
 exit $status

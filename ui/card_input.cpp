@@ -5,7 +5,7 @@
 #include "board/peek.h"
 #include "game/drops.h"
 #include "game/tablet.h"
-#include "platform/keys.h"
+#include "platform/key_codes.h"
 #include "settings/conversions.h"
 #include "settings/settings.h"
 #include "state/variables.h"

@@ -1,7 +1,7 @@
 #include "game/best_scores.h"
 #include "game/end_game.h"
 #include "platform/desktop.h"
-#include "platform/keys.h"
+#include "platform/key_codes.h"
 #include "state/variables.h"
 #include "ui/handlers.h"
 #include "windows/frmBestScore.h"

@@ -4,7 +4,7 @@
 
 #include "board/peek.h"
 #include "board/slide.h"
-#include "desktop/board_accessible.h"
+#include "desktop/board/board_accessible.h"
 #include "state/variables.h"
 #include "tests/desktop/inner_game.h"
 #include "windows/frmcards.h"

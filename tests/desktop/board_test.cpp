@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "desktop/picture_cache.h"
+#include "desktop/shared/picture_cache.h"
 #include "state/variables.h"
 #include "tools/driver/board_picture.h"
 #include "tools/driver/eventually.h"

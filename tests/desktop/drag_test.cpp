@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "desktop/board_painter.h"
 #include "state/variables.h"
 #include "tests/play/play.h"
 #include "tools/driver/board_picture.h"
@@ -103,45 +102,6 @@ TEST(Drag, ARefusedCardIsSeenToGlideBack) {
         EXPECT_EQ(board_faults(game), "") << "home again";
     }
     EXPECT_TRUE(seen_between);
-}
-
-TEST(Drag, HeldAtTheLowerEdgeItReachesTheCardsBelow) {
-    TwinGame game({program, deal});
-    const Image& jack = top_image(column_of_jack);
-    const Image& queen = top_image(column_of_queen);
-    const int height = static_cast<int>(jack.top()) + 40;
-    ASSERT_GT(queen.top() + queen.height(), static_cast<float>(height)) << "all of the Queen can be seen";
-    game.resize(game.board().width, height + game.board().y);
-    ASSERT_EQ(game.board().height, height);
-    // The scroll bar is not part of what is expected.
-    const QRect without_bar(0, 0, game.board().width - 60, height);
-    ASSERT_TRUE(eventually([&] {
-        return image_of(game.board_pixels()).copy(without_bar) == expected_board().copy(without_bar);
-    }));
-    const Spot lower_edge{TwinGame::spot_on(queen).x, height - 20};
-    game.screen().move_pointer(game.on_screen(TwinGame::spot_on(jack)).x,
-                               game.on_screen(TwinGame::spot_on(jack)).y);
-    game.screen().press();
-    game.screen().move_pointer(game.on_screen(lower_edge).x, game.on_screen(lower_edge).y);
-    // The card beside the Queen is seen whole only when the board has been scrolled.
-    frmcards.user_resized({game.board().width, 900});
-    const QRect beside(static_cast<int>(top_image(8).left()), static_cast<int>(top_image(8).top()) + 20, 40,
-                       60);
-    const QImage face = expected_board().copy(beside);
-    frmcards.user_resized({game.board().width, height});
-    const auto scrolled = [&] {
-        const QImage seen = image_of(game.board_pixels());
-        for (int offset = beside.bottom() - height; offset <= beside.top(); ++offset) {
-            if (seen.copy(beside.translated(0, -offset)) == face) return true;
-        }
-        return false;
-    };
-    EXPECT_TRUE(eventually(scrolled));
-    game.screen().release();
-    game.resize(game.board().width, 900);
-    play_action({.kind = ActionKind::drag, .source = column_of_jack, .target = column_of_queen});
-    ASSERT_EQ(column_top(column_of_queen), column_of_queen + 1);
-    EXPECT_EQ(board_faults(game), "");
 }
 
 }  // namespace

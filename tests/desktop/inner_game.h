@@ -7,8 +7,8 @@
 #include <cstdint>
 #include <string>
 
-#include "desktop/qt_convert.h"
-#include "desktop/qt_desktop.h"
+#include "desktop/app/qt_desktop.h"
+#include "desktop/shared/qt_convert.h"
 #include "platform/form.h"
 #include "platform/random.h"
 #include "settings/store.h"

@@ -2,7 +2,7 @@
 
 #include <QImage>
 
-#include "desktop/picture_cache.h"
+#include "desktop/shared/picture_cache.h"
 #include "windows/pictures.h"
 
 namespace tarnwick {

@@ -1,4 +1,4 @@
-#include "desktop/record_file.h"
+#include "desktop/app/record_file.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>

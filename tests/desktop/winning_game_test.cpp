@@ -3,6 +3,7 @@
 #include <QDate>
 #include <QLocale>
 
+#include "platform/key_codes.h"
 #include "notation/record.h"
 #include "state/variables.h"
 #include "tests/store/scratch_folder.h"
@@ -13,7 +14,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr int enter_key = 13;
 
 void act(TwinGame& game, const Action& action) {
     if (action.kind == ActionKind::turn) return game.space();

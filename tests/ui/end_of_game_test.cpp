@@ -3,6 +3,7 @@
 #include <array>
 #include <functional>
 
+#include "platform/key_codes.h"
 #include "board/display.h"
 #include "game/end_game.h"
 #include "notation/position.h"
@@ -18,7 +19,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr int enter_key = 13;
 
 std::string key(const char* name, int place) { return std::string(name) + std::to_string(place); }
 

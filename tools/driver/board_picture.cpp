@@ -4,8 +4,10 @@
 #include <cstdlib>
 #include <sstream>
 
-#include "desktop/board_painter.h"
+#include "desktop/board/board_painter.h"
+#include "desktop/shared/qt_texts.h"
 #include "tools/driver/eventually.h"
+#include "view/board_scene.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {
@@ -43,7 +45,8 @@ QImage expected_board(int scale) {
     QImage image(size.width * scale, size.height * scale, QImage::Format_RGB32);
     image.setDevicePixelRatio(scale);
     QPainter painter(&image);
-    BoardPainter(frmcards).paint(painter, QRect(0, 0, size.width, size.height));
+    BoardScene scene(frmcards, qt_texts());
+    BoardPainter().paint(painter, scene.layers(scale));
     painter.end();
     image.setDevicePixelRatio(1);
     return image;

@@ -11,7 +11,7 @@
 #include <map>
 #include <string_view>
 
-#include "desktop/qt_desktop.h"
+#include "desktop/app/qt_desktop.h"
 #include "platform/random.h"
 #include "settings/settings.h"
 #include "settings/store.h"

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QPainter>
+
+#include "desktop/board/drag_shadow.h"
+#include "desktop/shared/picture_cache.h"
+#include "view/board_layers.h"
+
+namespace tarnwick {
+
+/// Paints a board onto anything that can be painted on.
+class BoardPainter {
+  public:
+    /// Paints with the board's pixels as the painter's units. What reaches beyond the layers' area is clipped
+    /// by the painter, if it is to be. The layers are meant for the device's pixel ratio.
+    void paint(QPainter& painter, const BoardLayers& layers);
+    /// Draws the pictures that a painting of these layers will want.
+    void prepare(const BoardLayers& layers);
+
+    PictureCache& pictures() { return pictures_; }
+
+  private:
+    void paint_image(QPainter& painter, const PaintedImage& image);
+
+    PictureCache pictures_;
+    DragShadow shadow_;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,153 @@
+#include "desktop/board/board_widget.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QTimer>
+#include <algorithm>
+
+#include "desktop/shared/key_codes.h"
+#include "desktop/shared/qt_convert.h"
+#include "desktop/shared/qt_texts.h"
+#include "platform/desktop.h"
+
+namespace tarnwick {
+namespace {
+
+// A size that has not changed for so many milliseconds has settled.
+constexpr int settling_time = 100;
+
+MouseButton button_of(const QMouseEvent& event) {
+    return event.button() == Qt::LeftButton ? MouseButton::left : MouseButton::other;
+}
+
+}  // namespace
+
+BoardWidget::BoardWidget(Form& form) : form_(form), stage_(form, qt_texts(), *this) {
+    setObjectName("board");
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
+    setMinimumSize(320, 240);
+    scroll_bar_.hide();
+    scroll_bar_.setSingleStep(BoardScroll::step);
+    connect(&scroll_bar_, &QScrollBar::valueChanged, this, [this](int value) { stage_.scroll_to(value); });
+}
+
+void BoardWidget::drag_changed() {
+    stage_.drag_changed();
+    setMouseTracking(stage_.holds());
+    scroll_bar_.set_out_of_the_way(stage_.holds());
+}
+
+QRect BoardWidget::area_of(const Widget& widget) const { return to_qt(stage_.scene().area_of(widget)); }
+
+void BoardWidget::repaint(const Area& area) { update(to_qt(area)); }
+
+void BoardWidget::scroll_changed() {
+    const BoardScroll& scroll = stage_.scroll();
+    scroll_bar_.setPageStep(scroll.page());
+    scroll_bar_.setRange(0, scroll.range());
+    scroll_bar_.setValue(scroll.value());
+    scroll_bar_.setVisible(scroll.range() > 0);
+}
+
+void BoardWidget::settle_later() {
+    QMetaObject::invokeMethod(
+        this, [this] { stage_.settle(); }, Qt::QueuedConnection);
+}
+
+void BoardWidget::steps_changed() {
+    const std::optional<std::int64_t> due = stage_.next_step();
+    if (!due) return steps_.stop();
+    const std::int64_t left = std::max<std::int64_t>(0, *due - desktop().now());
+    steps_.start(static_cast<int>(left), Qt::PreciseTimer, this);
+}
+
+void BoardWidget::timerEvent(QTimerEvent* event) {
+    if (event->timerId() == settling_.timerId()) {
+        settling_.stop();
+        if (painter_.pictures().end_haste()) update();
+    } else if (event->timerId() == steps_.timerId()) {
+        stage_.step();
+        steps_changed();
+    } else {
+        QWidget::timerEvent(event);
+    }
+}
+
+void BoardWidget::paintEvent(QPaintEvent* event) {
+    stage_.begin_painting();
+    QPainter painter(this);
+    painter.translate(0, -scroll_offset());
+    // One rectangle at a time: clipped to several at once, the toolkit blends pictures line by line, shared
+    // among threads that wake each other for every few of them.
+    for (const QRect& rect : event->region()) {
+        const QRect area = rect.translated(0, scroll_offset());
+        painter.setClipRect(area);
+        painter_.paint(painter, stage_.scene().layers(from_qt(area), devicePixelRatioF()));
+    }
+}
+
+void BoardWidget::showEvent(QShowEvent* event) {
+    // The desktop takes a while to give a new window its place on the screen: time to draw pictures.
+    QTimer::singleShot(0, this, [this] { painter_.prepare(stage_.scene().layers(devicePixelRatioF())); });
+    QWidget::showEvent(event);
+}
+
+void BoardWidget::resizeEvent(QResizeEvent*) {
+    painter_.pictures().begin_haste();
+    settling_.start(settling_time, this);
+    scroll_bar_.settle();
+    stage_.resized({width(), height()});
+    // The window may have been moved as well, from under a pointer that holds a card.
+    if (!stage_.holds()) return;
+    const QPointF pointer = mapFromGlobal(QPointF(QCursor::pos()));
+    stage_.move(pointer.x(), pointer.y(), true);
+}
+
+bool BoardWidget::event(QEvent* event) {
+    if (event->type() == QEvent::UngrabMouse || event->type() == QEvent::Hide) stage_.cancel();
+    if (event->type() == QEvent::FontChange) stage_.font_changed();
+    // The board looks the same with the keyboard and without: no need to paint it as a widget does by itself.
+    if (event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate) {
+        return scroll_bar_.isHidden() || QCoreApplication::sendEvent(&scroll_bar_, event);
+    }
+    return QWidget::event(event);
+}
+
+void BoardWidget::mousePressEvent(QMouseEvent* event) {
+    stage_.press(event->position().x(), event->position().y(), button_of(*event));
+}
+
+bool BoardWidget::is_over_other_window(const QMouseEvent& event) const {
+    const QWidget* there = QApplication::topLevelAt(event.globalPosition().toPoint());
+    return there && there != window();
+}
+
+// The windows find out themselves which presses belong together.
+void BoardWidget::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+
+void BoardWidget::mouseMoveEvent(QMouseEvent* event) {
+    stage_.move(event->position().x(), event->position().y(), event->buttons() & Qt::LeftButton);
+}
+
+void BoardWidget::mouseReleaseEvent(QMouseEvent* event) {
+    const QPointF place = event->position();
+    stage_.release(place.x(), place.y(), button_of(*event), stage_.holds() && is_over_other_window(*event));
+}
+
+void BoardWidget::wheelEvent(QWheelEvent* event) {
+    stage_.scroll_by(-event->angleDelta().y() * BoardScroll::step / QWheelEvent::DefaultDeltasPerStep);
+}
+
+void BoardWidget::keyPressEvent(QKeyEvent* event) {
+    event->setAccepted(stage_.key_down(key_code_of(event->key())));
+}
+
+// Nor do these paint.
+void BoardWidget::focusInEvent(QFocusEvent*) {}
+void BoardWidget::focusOutEvent(QFocusEvent*) { stage_.cancel(); }
+
+}  // namespace tarnwick

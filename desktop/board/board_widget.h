@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QBasicTimer>
+#include <QWidget>
+
+#include "desktop/board/board_painter.h"
+#include "desktop/board/slim_scroll_bar.h"
+#include "view/board_stage.h"
+
+namespace tarnwick {
+
+/// Shows a window's board, and hands the mouse, the keys and the user's resizing on to its stage.
+class BoardWidget : public QWidget, private BoardFront {
+  public:
+    explicit BoardWidget(Form& form);
+
+    // What the view of the window is told.
+    void widget_changed(const Widget& widget, const Rect& before) { stage_.widget_changed(widget, before); }
+    void drag_changed();
+    void form_changed() { stage_.form_changed(); }
+
+    Form& form() const { return form_; }
+    /// Scrolls the board as far as it takes to see this spot of it, in its pixels.
+    void reveal(QPointF spot) { stage_.reveal(qRound(spot.y())); }
+    /// How far the board is scrolled down, in pixels.
+    int scroll_offset() const { return stage_.scroll().offset(); }
+    /// Where one of the board's widgets is seen, in pixels of the board.
+    QRect area_of(const Widget& widget) const;
+
+  protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+  private:
+    // What the stage asks for.
+    void repaint(const Area& area) override;
+    void repaint_all() override { update(); }
+    void scroll_changed() override;
+    void settle_later() override;
+    void steps_changed() override;
+
+    bool is_over_other_window(const QMouseEvent& event) const;
+
+    Form& form_;
+    BoardPainter painter_;
+    SlimScrollBar scroll_bar_{this};
+    BoardStage stage_;
+    QBasicTimer steps_;     ///< runs until the stage's next step
+    QBasicTimer settling_;  ///< runs while the size changes, and a moment after
+};
+
+}  // namespace tarnwick

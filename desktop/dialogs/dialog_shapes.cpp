@@ -1,0 +1,175 @@
+#include <QGroupBox>
+#include <QMouseEvent>
+#include <QPainter>
+#include <cmath>
+
+#include "desktop/dialogs/dialog_accessible.h"
+#include "desktop/dialogs/dialog_control.h"
+#include "desktop/shared/picture_cache.h"
+#include "desktop/shared/qt_convert.h"
+#include "platform/desktop.h"
+#include "platform/form.h"
+#include "windows/pictures.h"
+
+namespace tarnwick {
+namespace {
+
+// A group box with its title on the border rather than above it: the layouts use all of the room inside.
+class FrameBox : public QGroupBox {
+  public:
+    using QGroupBox::QGroupBox;
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        constexpr int title_left = 8;
+        constexpr int gap = 3;
+        constexpr int border_alpha = 70;
+        constexpr qreal radius = 3;
+        QPainter painter(this);
+        QRect text;
+        if (!title().isEmpty()) {
+            text = QRect(title_left, 0, fontMetrics().horizontalAdvance(title()), fontMetrics().height());
+        }
+        painter.setPen(
+            palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+        painter.drawText(text, Qt::AlignLeft | Qt::TextDontClip, title());
+        painter.setClipRegion(QRegion(rect()) - text.adjusted(-gap, 0, gap, 0));
+        painter.setRenderHint(QPainter::Antialiasing);
+        QColor border = palette().color(QPalette::WindowText);
+        border.setAlpha(border_alpha);
+        painter.setPen(border);
+        const int middle = text.height() / 2;
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, middle + 0.5, -0.5, -0.5), radius, radius);
+    }
+};
+
+class FrameControl : public DialogControl {
+  public:
+    FrameControl(const Frame& frame, QGroupBox* native)
+        : DialogControl(native), frame_(frame), native_(*native) {}
+
+    void sync(qreal) override { native_.setTitle(to_qt(frame_.caption())); }
+
+    bool fits(const QSizeF& place) const override {
+        constexpr int air = 8;
+        return QFontMetricsF(native_.font()).horizontalAdvance(to_qt(frame_.caption())) + 2 * air <=
+               place.width();
+    }
+
+  private:
+    const Frame& frame_;
+    QGroupBox& native_;
+};
+
+class PictureBox : public QWidget, public Pressable {
+  public:
+    PictureBox(const Image& image, QWidget* parent) : QWidget(parent), image_(image) {}
+
+    void set_scale(qreal scale) {
+        scale_ = scale;
+        update();
+    }
+
+    bool takes_presses() const override { return image_.events().click != nullptr; }
+
+    void press() override {
+        const auto& click = image_.events().click;
+        if (click && image_.form().accepts_input()) desktop().event([&] { click(image_.index()); });
+    }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        if (image_.picture().none()) return;
+        const qreal ratio = devicePixelRatioF();
+        const QRectF place = whole_device_pixels(ratio);
+        const QSize device_size = (place.size() * ratio).toSize();
+        if (shown_ != image_.picture() || pixmap_.size() != device_size) {
+            shown_ = image_.picture();
+            pixmap_ = render_picture(shown_, device_size);
+        }
+        pixmap_.setDevicePixelRatio(ratio);
+        QPainter painter(this);
+        painter.drawPixmap(place.topLeft(), pixmap_);
+        if (!image_.bordered()) return;
+        const qreal half = 0.5 / ratio;
+        painter.setPen(QPen(palette().color(QPalette::WindowText), 1 / ratio));
+        painter.drawRect(place.adjusted(half, half, -half, -half));
+    }
+
+    // The press is taken, so that the release comes here too.
+    void mousePressEvent(QMouseEvent* event) override { event->accept(); }
+
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        const bool inside = rect().contains(event->position().toPoint());
+        if (event->button() == Qt::LeftButton && inside) press();
+    }
+
+  private:
+    // Where the picture is drawn: nothing of it may lie on a device pixel that belongs to the box in part
+    // only.
+    QRectF whole_device_pixels(qreal ratio) const {
+        const QSizeF size =
+            image_.stretch() ? QSizeF(this->size()) : QSizeF(card_width, card_height) * scale_;
+        const QRectF place(mapTo(window(), QPoint(0, 0)), size);
+        const QPointF first(std::ceil(place.left() * ratio), std::ceil(place.top() * ratio));
+        const QPointF last(std::floor(place.right() * ratio), std::floor(place.bottom() * ratio));
+        return QRectF(first / ratio, last / ratio).translated(-place.topLeft());
+    }
+
+    const Image& image_;
+    Picture shown_;
+    QPixmap pixmap_;
+    qreal scale_ = 1;
+};
+
+class ImageControl : public DialogControl {
+  public:
+    explicit ImageControl(PictureBox* native) : DialogControl(native), native_(*native) {}
+    void sync(qreal scale) override { native_.set_scale(scale); }
+
+  private:
+    PictureBox& native_;
+};
+
+class OutlineBox : public QWidget {
+  public:
+    OutlineBox(const Outline& outline, QWidget* parent) : QWidget(parent), outline_(outline) {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        constexpr qreal radius = 4;
+        // Black is the colour of an outline that was never given one, and cannot be seen on a dark desktop.
+        const bool plain = outline_.border_color() == black;
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(plain ? palette().color(QPalette::WindowText) : to_qt(outline_.border_color()));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    }
+
+  private:
+    const Outline& outline_;
+};
+
+class OutlineControl : public DialogControl {
+  public:
+    explicit OutlineControl(OutlineBox* native) : DialogControl(native) {}
+    void sync(qreal) override { native()->update(); }
+};
+
+}  // namespace
+
+std::unique_ptr<DialogControl> make_frame_control(const Frame& frame, QWidget* parent) {
+    return std::make_unique<FrameControl>(frame, new FrameBox(parent));
+}
+
+std::unique_ptr<DialogControl> make_image_control(const Image& image, QWidget* parent) {
+    return std::make_unique<ImageControl>(new PictureBox(image, parent));
+}
+
+std::unique_ptr<DialogControl> make_outline_control(const Outline& outline, QWidget* parent) {
+    return std::make_unique<OutlineControl>(new OutlineBox(outline, parent));
+}
+
+}  // namespace tarnwick

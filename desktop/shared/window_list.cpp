@@ -1,0 +1,49 @@
+#include "desktop/shared/window_list.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tarnwick {
+
+QWidget* WindowList::main_window() const {
+    for (const OpenWindow* window : windows_) {
+        if (window->native && !window->form.menus().empty() && !window->form.unloading())
+            return window->native;
+    }
+    return nullptr;
+}
+
+QWidget* WindowList::front_window() const {
+    const auto shown = [](const OpenWindow* window) { return window->native && window->form.visible(); };
+    const auto front = std::find_if(windows_.rbegin(), windows_.rend(), shown);
+    return front == windows_.rend() ? nullptr : (*front)->native.data();
+}
+
+bool WindowList::is_disabled(const QWidget& native) const {
+    return std::any_of(windows_.begin(), windows_.end(), [&native](const OpenWindow* window) {
+        return window->native == &native && !window->form.enabled();
+    });
+}
+
+void WindowList::detach_dialogs_of(const QWidget& window) const {
+    for (const OpenWindow* other : windows_) {
+        QWidget* dialog = other->native;
+        if (!dialog || dialog->parentWidget() != &window) continue;
+        const QPoint place = dialog->pos();
+        dialog->setParent(nullptr, dialog->windowFlags());
+        dialog->move(place);
+        if (other->form.visible()) dialog->show();
+    }
+}
+
+void WindowList::close() {
+    while (!windows_.empty()) windows_.back()->form.take_view().reset();
+}
+
+void WindowList::abandon() {
+    for (const OpenWindow* window : std::exchange(windows_, {})) {
+        static_cast<void>(window->form.take_view().release());
+    }
+}
+
+}  // namespace tarnwick

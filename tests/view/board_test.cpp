@@ -1,0 +1,271 @@
+// A dealt board and what is done with it, seen through a front end that knows no toolkit.
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <random>
+
+#include "board/display.h"
+#include "platform/key_codes.h"
+#include "settings/settings.h"
+#include "state/variables.h"
+#include "tests/view/grid_window.h"
+#include "view/ticking.h"
+
+namespace tarnwick {
+namespace {
+
+// The columns of this deal end in Q♦ 10♥ K♦ 6♠ A♣ 2♥ J♦ 9♣ 6♦ Q♣.
+constexpr std::uint32_t deal = 26;
+constexpr int column_of_king = 2;
+constexpr int column_of_ace = 4;
+constexpr int column_of_jack = 6;
+constexpr int column_of_queen = 9;
+
+struct Place {
+    double x;
+    double y;
+};
+constexpr Place bare_table{60, 500};
+
+class ShownBoard : public testing::Test {
+  protected:
+    // Where the card is taken hold of, in the window; and where another one dropped on it lies beside it.
+    Place on(const Widget& widget) {
+        return {static_cast<double>(widget.left()) + 30,
+                static_cast<double>(widget.place().bottom()) - 8 - stage.scroll().offset()};
+    }
+    Place beside(const Widget& widget) { return {on(widget).x + 15, on(widget).y - 40}; }
+    void press(Place at) { stage.press(at.x, at.y, MouseButton::left); }
+    void press(int column) { press(on(top_image(column))); }
+    void move(Place to) { stage.move(to.x, to.y, true); }
+    void release(Place at, bool elsewhere = false) {
+        stage.release(at.x, at.y, MouseButton::left, elsewhere);
+    }
+    bool shows_all() { return view.shows_all(); }
+    void pass(int milliseconds) {
+        for (int i = 0; i < milliseconds; ++i) {
+            game.desktop.advance(1);
+            if (stage.next_step() && *stage.next_step() <= game.desktop.now()) stage.step();
+        }
+    }
+    void resize(int width, int height) {
+        view.resize({width, height});
+        EXPECT_TRUE(shows_all());
+    }
+    const BoardDrag& drag() { return stage.scene().drag(); }
+
+    GridGame game{deal};
+    GridView& view = game.view();
+    BoardStage& stage = game.stage();
+};
+
+TEST_F(ShownBoard, IsListedFromBackToFront) {
+    const BoardLayers& layers = game.layers();
+    EXPECT_EQ(layers.background, frmcards.back_color());
+    EXPECT_EQ(layers.labels.size(), 3U);
+    EXPECT_FALSE(layers.mark || layers.shadow || layers.plate);
+    const std::size_t at_rest = layers.images.size();
+    for (const PaintedImage& image : layers.images) {
+        const auto is_there = [&](const PaintedImage& other) { return other.place == image.place; };
+        EXPECT_EQ(std::count_if(layers.images.begin(), layers.images.end(), is_there), 1) << "covered";
+    }
+    const Picture jack = top_image(column_of_jack).picture();
+    press(column_of_jack);
+    move(on(top_image(column_of_queen)));
+    game.layers();
+    EXPECT_EQ(layers.images.size(), at_rest - 1) << "the Jack is not where it lay";
+    ASSERT_EQ(layers.lifted.size(), 1U);
+    EXPECT_EQ(layers.lifted[0].picture, jack);
+    EXPECT_EQ(layers.shadow->pile, layers.lifted[0].place);
+    EXPECT_TRUE(layers.mark && !layers.plate);
+    const Area label = around(layers.labels[0].place);
+    move({label.left + 20.0, label.top + 5.0});
+    EXPECT_TRUE(game.layers().plate) << "a card under the score";
+    EXPECT_TRUE(stage.scene().layers({400, 0, 10, 10}, 1).lifted.empty()) << "of another part";
+}
+
+TEST_F(ShownBoard, IsPaintedAnewWhereItIsToldToHaveChanged) {
+    press(column_of_jack);
+    EXPECT_TRUE(shows_all()) << "taken up";
+    for (const Place& place : {bare_table, beside(top_image(column_of_queen)), on(top_image(column_of_king)),
+                               Place{100, 590}, beside(top_image(column_of_queen))}) {
+        move(place);
+        EXPECT_TRUE(shows_all()) << place.x << ", " << place.y;
+    }
+    release(beside(top_image(column_of_queen)));
+    EXPECT_EQ(column_top(column_of_queen), column_of_queen + 1);
+    EXPECT_TRUE(shows_all()) << "put down";
+    press(column_of_ace);
+    move(on(frmcards.Shape1(2)));
+    EXPECT_TRUE(shows_all()) << "over an empty pile";
+    stage.cancel();
+    // Whatever is done next, at any time.
+    std::mt19937 random(1);
+    const auto below = [&](unsigned limit) { return static_cast<int>(random() % limit); };
+    const auto anywhere = [&] { return Place{below(800) + 0.0, below(560) + 0.0}; };
+    for (int event = 0; event < 600; ++event) {
+        const int kind = below(12);
+        if (kind < 3) press(anywhere());
+        if (kind < 3 && event % 2 == 0) press(below(10));
+        if (kind >= 3 && kind < 6) move(anywhere());
+        if (kind == 6 || kind == 7) release(event % 2 == 0 ? on(top_image(below(10))) : anywhere());
+        if (kind == 8) {
+            save_setting(key_anamate, event % 2 == 0 ? "True" : "False");
+            stage.cancel();
+            const Place card = on(top_image(below(10)));
+            press(card);
+            release(card);
+        }
+        if (kind == 9) stage.scroll_by(below(200) - 100);
+        if (kind == 10) pass(below(60));
+        if (kind == 10 && event % 3 == 0) stage.key_down(' ');
+        if (kind == 11 && event % 3 == 0) view.resize({700 + below(100), 300 + below(300)});
+        if (kind == 11 && event % 3 == 1 && frmcards.mnuUndo.visible()) frmcards.mnuUndo.choose();
+        ASSERT_TRUE(shows_all()) << event << ", " << kind;
+    }
+}
+
+TEST_F(ShownBoard, LetsARefusedCardGlideBack) {
+    const auto refuse = [this] {
+        press(column_of_jack);
+        move(bare_table);
+        release(bare_table);
+        EXPECT_TRUE(shows_all());
+    };
+    const Place home = on(top_image(column_of_jack));
+    refuse();
+    ASSERT_EQ(drag().lifted().size(), 1U);
+    EXPECT_EQ(drag().offset().x, bare_table.x - home.x) << "begins where it was let go";
+    pass(80);
+    EXPECT_NEAR(drag().offset().x, (bare_table.x - home.x) * std::pow(70.0 / 150, 3), 0.1);
+    EXPECT_TRUE(shows_all());
+    pass(90);
+    EXPECT_TRUE(drag().lifted().empty());
+    EXPECT_FALSE(stage.next_step());
+    EXPECT_TRUE(shows_all()) << "home again";
+    const std::vector<std::function<void()>> ends{
+        [&] { press(bare_table); },       [&] { stage.key_down(0); },
+        [&] { view.resize({700, 500}); }, [&] { top_image(column_of_jack).bring_to_front(); },
+        [&] { press(column_of_ace); },
+    };
+    for (const auto& end : ends) {
+        refuse();
+        ASSERT_FALSE(drag().lifted().empty());
+        end();
+        EXPECT_TRUE(drag().glide().images().empty()) << &end - ends.data();
+        EXPECT_TRUE(shows_all());
+        stage.cancel();
+    }
+    press(column_of_jack);
+    stage.cancel();
+    EXPECT_TRUE(drag().lifted().empty()) << "what was not moved has no way back";
+}
+
+TEST_F(ShownBoard, EndsADragWhoseCardCannotBeDroppedAnyMore) {
+    const Place queen = on(top_image(column_of_queen));
+    const std::vector<std::function<void()>> ends{
+        [&] { EXPECT_TRUE(stage.key_down(escape_key)); },
+        [&] { stage.cancel(); },
+        [&] { stage.move(queen.x, queen.y, false); },
+        [&] { release(queen, true); },
+    };
+    for (const auto& end : ends) {
+        press(column_of_jack);
+        move(queen);
+        ASSERT_TRUE(stage.holds());
+        end();
+        EXPECT_FALSE(stage.holds()) << &end - ends.data();
+        release(queen);
+        EXPECT_EQ(column_top(column_of_queen), column_of_queen);
+        EXPECT_TRUE(shows_all());
+    }
+}
+
+TEST_F(ShownBoard, IsScrolledToWhatLiesBelowTheWindow) {
+    EXPECT_EQ(stage.scroll().range(), 0);
+    stage.key_down(end_key);
+    stage.scroll_by(BoardScroll::step);
+    EXPECT_EQ(stage.scroll().value(), 0) << "all is seen";
+    resize(800, 300);
+    const int range = stage.scroll().range();
+    EXPECT_GE(range, stage.scene().lower_edge() - 300 + 4);
+    const Box label = game.layers().labels[0].place;
+    const auto scrolled = [&](int value) {
+        EXPECT_EQ(stage.scroll().value(), value);
+        EXPECT_EQ(stage.scroll().offset(), value / 4 * 4) << "whole device pixels at quarter scales";
+        EXPECT_EQ(game.layers().labels[0].place.top, label.top + value / 4 * 4) << "the score stays";
+        EXPECT_TRUE(shows_all());
+    };
+    stage.scroll_by(50);
+    scrolled(50);
+    stage.key_down(page_up_key);
+    scrolled(0);
+    stage.scroll_to(range + 1);
+    scrolled(range);
+    stage.key_down(home_key);
+    stage.key_down(page_down_key);
+    scrolled(std::min(range, 150));
+    stage.key_down(end_key);
+    scrolled(range);
+    stage.reveal(20);
+    scrolled(0);
+    stage.reveal(310);
+    scrolled(34);
+    view.texts.scale = 3;
+    stage.font_changed();
+    EXPECT_TRUE(shows_all()) << "larger labels";
+    resize(800, 570);
+    EXPECT_EQ(stage.scroll().value(), 0) << "all is seen again";
+}
+
+TEST_F(ShownBoard, ScrollsUnderACardHeldAtItsEdge) {
+    const Place jack = on(top_image(column_of_jack));
+    const int height = static_cast<int>(jack.y) + 40;
+    ASSERT_GT(on(top_image(column_of_queen)).y, height) << "not seen";
+    resize(800, height);
+    press(column_of_jack);
+    move(on(top_image(column_of_queen)));
+    release(on(top_image(column_of_queen)));
+    EXPECT_EQ(column_top(column_of_queen), column_of_queen) << "nobody receives what falls below the window";
+    pass(200);
+    press({jack.x, height - 10.0});
+    EXPECT_FALSE(stage.next_step()) << "only pressed";
+    release({jack.x, height - 10.0});
+    press(column_of_jack);
+    const Place edge{on(top_image(column_of_queen)).x, height - 20.0};
+    move(edge);
+    pass(24);
+    EXPECT_EQ(stage.scroll().value(), 0);
+    pass(26);
+    EXPECT_EQ(stage.scroll().value(), 24) << "a step every 25 milliseconds";
+    EXPECT_TRUE(shows_all());
+    pass(1000);
+    const int range = stage.scroll().range();
+    EXPECT_EQ(stage.scroll().value(), range);
+    EXPECT_FALSE(stage.next_step());
+    EXPECT_EQ(frmcards.mouse().receiver(), &top_image(column_of_queen)) << "another card under the pointer";
+    const double down = drag().offset().y;
+    stage.scroll_to(0);
+    EXPECT_EQ(drag().offset().y, down - range / 4 * 4) << "under the pointer at once";
+    stage.scroll_to(range);
+    move({edge.x, 20});
+    pass(1000);
+    EXPECT_EQ(stage.scroll().value(), 0);
+    stage.cancel();
+    EXPECT_TRUE(shows_all());
+}
+
+TEST_F(ShownBoard, TellsWhenTheNextTimerTicks) {
+    const std::optional<std::int64_t> left = time_to_next_tick();
+    ASSERT_TRUE(left && *left > 0);
+    game.desktop.sleep(*left - 1);
+    EXPECT_EQ(time_to_next_tick(), 1);
+    game.desktop.event([&] {
+        game.desktop.sleep(5000);
+        EXPECT_EQ(time_to_next_tick(), 0) << "late";
+    });
+}
+
+}  // namespace
+}  // namespace tarnwick

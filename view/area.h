@@ -1,0 +1,98 @@
+#pragma once
+
+#include <algorithm>
+#include <cmath>
+
+#include "platform/geometry.h"
+
+namespace tarnwick {
+
+/// The nearest whole number, halves away from zero.
+inline int rounded(double value) { return static_cast<int>(value + std::copysign(0.5, value)); }
+
+/// How far something is moved, in pixels.
+struct Shift {
+    double x = 0;
+    double y = 0;
+    bool none() const { return x == 0 && y == 0; }
+};
+
+/// A rectangle of whole pixels, those of the board or those of a device.
+struct Area {
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+
+    int right() const { return left + width; }
+    int bottom() const { return top + height; }
+    bool empty() const { return width <= 0 || height <= 0; }
+    Area shifted(int dx, int dy) const { return {left + dx, top + dy, width, height}; }
+    bool meets(const Area& other) const {
+        return !empty() && !other.empty() && left < other.right() && other.left < right() &&
+               top < other.bottom() && other.top < bottom();
+    }
+    bool operator==(const Area&) const = default;
+};
+
+/// A rectangle that need not begin and end at whole pixels.
+struct Box {
+    double left = 0;
+    double top = 0;
+    double width = 0;
+    double height = 0;
+
+    double right() const { return left + width; }
+    double bottom() const { return top + height; }
+    bool empty() const { return width <= 0 || height <= 0; }
+    Box shifted(Shift by) const { return {left + by.x, top + by.y, width, height}; }
+    Box grown(double margin) const {
+        return {left - margin, top - margin, width + 2 * margin, height + 2 * margin};
+    }
+    bool meets(const Box& other) const {
+        return !empty() && !other.empty() && left < other.right() && other.left < right() &&
+               top < other.bottom() && other.top < bottom();
+    }
+};
+
+inline Box box_of(const Rect& rect) {
+    return {static_cast<double>(rect.left), static_cast<double>(rect.top), static_cast<double>(rect.width),
+            static_cast<double>(rect.height)};
+}
+inline Box box_of(const Area& area) {
+    return {static_cast<double>(area.left), static_cast<double>(area.top), static_cast<double>(area.width),
+            static_cast<double>(area.height)};
+}
+
+/// The smallest rectangle around both; one without any size adds nothing.
+template <class Rectangle>
+Rectangle united(const Rectangle& a, const Rectangle& b) {
+    if (a.width == 0 && a.height == 0) return b;
+    if (b.width == 0 && b.height == 0) return a;
+    const auto left = std::min(a.left, b.left);
+    const auto top = std::min(a.top, b.top);
+    return {left, top, std::max(a.right(), b.right()) - left, std::max(a.bottom(), b.bottom()) - top};
+}
+
+/// All pixels that a rectangle touches.
+inline Area around(const Box& box) {
+    const int left = static_cast<int>(std::floor(box.left));
+    const int top = static_cast<int>(std::floor(box.top));
+    return {left, top, static_cast<int>(std::ceil(box.right())) - left,
+            static_cast<int>(std::ceil(box.bottom())) - top};
+}
+
+/// The pixels that a rectangle touches, with a margin for what rounding to device pixels adds.
+inline Area touched(const Box& box) {
+    const Area inner = around(box);
+    return {inner.left - 1, inner.top - 1, inner.width + 2, inner.height + 2};
+}
+
+/// The rectangle in whole device pixels, so many to a pixel. Position and size are rounded apart: widgets of
+/// one size stay so.
+inline Area snapped(const Box& box, double ratio) {
+    return {rounded(box.left * ratio), rounded(box.top * ratio), std::max(1, rounded(box.width * ratio)),
+            std::max(1, rounded(box.height * ratio))};
+}
+
+}  // namespace tarnwick

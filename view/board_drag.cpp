@@ -1,0 +1,102 @@
+#include "view/board_drag.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "view/picture_place.h"
+
+namespace tarnwick {
+namespace {
+
+// Faint: the mark must not keep the eye from the cards.
+constexpr Color mark_color = color_of(250, 200, 60);
+constexpr int mark_line_opacity = 200;
+constexpr int mark_fill_opacity = 50;
+
+// How far the shadow of lifted cards reaches beyond them, in pixels on every side.
+constexpr int shadow_reach = 12;
+constexpr double darkest_shadow = 110;
+
+Box marked_place(const Widget& receiver) {
+    if (receiver.kind() != WidgetKind::image) return box_of(receiver.place());
+    return picture_place(static_cast<const Image&>(receiver));
+}
+
+// The light comes from above: the shadow lies a little lower than the pile.
+PaintedShadow shadow_of(const Area& pile, double ratio) {
+    const int reach = rounded(shadow_reach * ratio);
+    return {pile, reach, reach * 0.25, reach * 0.75, darkest_shadow};
+}
+
+}  // namespace
+
+const std::vector<Image*>& BoardDrag::lifted() const {
+    const std::vector<Image*>& dragged = form_.mouse().lifted();
+    return dragged.empty() ? glide_.images() : dragged;
+}
+
+Shift BoardDrag::offset() const {
+    const Mouse& mouse = form_.mouse();
+    if (mouse.lifted().empty()) return glide_.offset();
+    return {static_cast<double>(mouse.drag_dx()), static_cast<double>(mouse.drag_dy())};
+}
+
+Box BoardDrag::place_of(const Image& image) const { return picture_place(image).shifted(offset()); }
+
+Area BoardDrag::area() const {
+    Box bounds;
+    for (const Image* image : lifted()) bounds = united(bounds, place_of(*image));
+    return bounds.empty() ? Area() : touched(bounds.grown(shadow_reach));
+}
+
+Area BoardDrag::mark_area() const {
+    const Widget* receiver = form_.mouse().receiver();
+    return receiver && receiver->visible() ? touched(marked_place(*receiver)) : Area();
+}
+
+void BoardDrag::add_to(BoardLayers& layers, double ratio) const {
+    if (layers.area.meets(mark_area())) {
+        const Box place = marked_place(*form_.mouse().receiver());
+        const double line = std::max(2.0, std::floor(2 * ratio));
+        layers.mark = PaintedMark{box_of(snapped(place, ratio)).grown(-line / 2),
+                                  mark_color,
+                                  line,
+                                  corner_radius(place.width, ratio),
+                                  mark_line_opacity,
+                                  mark_fill_opacity};
+    }
+    if (!layers.area.meets(area())) return;
+    Area pile;
+    const auto add = [&](const Image& image) {
+        if (!is_seen(image)) return;
+        layers.lifted.push_back({image.picture(), snapped(place_of(image), ratio), image.bordered()});
+    };
+    for (const Image* image : lifted()) {
+        pile = united(pile, snapped(place_of(*image), ratio));
+        add(*image);
+    }
+    layers.shadow = shadow_of(pile, ratio);
+    // Held where it lies, a card shows its whole face.
+    const Image* dragged = form_.mouse().dragged();
+    if (dragged && offset().none()) add(*dragged);
+}
+
+std::vector<Image*> BoardDrag::follow(std::int64_t now) {
+    const Mouse& mouse = form_.mouse();
+    if (mouse.lifted().empty() == held_.empty()) {
+        held_offset_ = {static_cast<double>(mouse.drag_dx()), static_cast<double>(mouse.drag_dy())};
+        return {};
+    }
+    std::vector<Image*> changed = end_glide();
+    const std::vector<Image*>& turned = held_.empty() ? mouse.lifted() : held_;
+    changed.insert(changed.end(), turned.begin(), turned.end());
+    // Should somebody receive the images after all, they are seen to change, and that ends their glide.
+    if (!held_.empty() && !held_offset_.none() && mouse.glides_back()) {
+        glide_.begin(held_, held_offset_, now);
+    }
+    held_ = mouse.lifted();
+    held_offset_ = {};
+    return changed;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,158 @@
+#include "view/board_scene.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "platform/controls.h"
+#include "view/picture_place.h"
+#include "windows/pictures.h"
+
+namespace tarnwick {
+namespace {
+
+template <class W, class Action>
+void for_each_visible(const Form& form, WidgetKind kind, Action action) {
+    for (const Widget* widget : form.widgets()) {
+        if (widget->kind() == kind && widget->visible()) action(static_cast<const W&>(*widget));
+    }
+}
+
+}  // namespace
+
+// A row of labels at the lower left corner grows to the right and upwards, and keeps its order.
+Box BoardScene::label_place(const Rect& place, double scale) const {
+    const Box given = box_of(place);
+    const double height = given.height * scale;
+    return {given.left * scale, given.bottom() - height + scrolled_, given.width * scale, height};
+}
+
+Area BoardScene::area_of(const Widget& widget, const Rect& place) const {
+    if (widget.kind() == WidgetKind::image) {
+        const Box seen = picture_place(static_cast<const Image&>(widget), place);
+        // An image that has not moved may have begun or ceased to stretch.
+        return touched(place == widget.place() ? united(seen, box_of(place)) : seen);
+    }
+    if (widget.kind() == WidgetKind::label) return touched(label_place(place, label_scale()));
+    return touched(box_of(place));
+}
+
+int BoardScene::lower_edge() const {
+    double edge = 0;
+    for_each_visible<Image>(form_, WidgetKind::image, [&edge](const Image& image) {
+        if (is_seen(image)) edge = std::max(edge, picture_place(image).bottom());
+    });
+    return static_cast<int>(std::ceil(edge));
+}
+
+double BoardScene::label_scale() const {
+    const double height = static_cast<double>(texts_.height({}));
+    double scale = 1;
+    for_each_visible<Label>(form_, WidgetKind::label, [&](const Label& label) {
+        const Box place = box_of(label.place());
+        if (label.caption().empty() || place.empty()) return;
+        const double width = static_cast<double>(texts_.width(label.caption(), {}));
+        scale = std::max({scale, width / place.width, height / place.height});
+    });
+    return scale;
+}
+
+Area BoardScene::plate(double label_scale) const {
+    constexpr double margin = 4;
+    Box row;
+    for_each_visible<Label>(form_, WidgetKind::label, [&](const Label& label) {
+        row = united(row, label_place(label.place(), label_scale));
+    });
+    if (row.empty()) return {};
+    return around({row.left - margin, row.top - 1, row.width + 2 * margin, row.height + 2});
+}
+
+const BoardLayers& BoardScene::layers(double ratio) {
+    const PixelSize size = form_.client_size();
+    return layers({0, scrolled_, size.width, size.height}, ratio);
+}
+
+const BoardLayers& BoardScene::layers(const Area& area, double ratio) {
+    layers_.area = area;
+    layers_.background = form_.back_color();
+    layers_.outlines.clear();
+    layers_.images.clear();
+    layers_.mark.reset();
+    layers_.shadow.reset();
+    layers_.lifted.clear();
+    layers_.plate.reset();
+    layers_.labels.clear();
+    add_outlines(ratio);
+    add_images(ratio);
+    drag_.add_to(layers_, ratio);
+    add_labels();
+    return layers_;
+}
+
+void BoardScene::add_outlines(double ratio) {
+    const double line = std::max(1, static_cast<int>(ratio));
+    for_each_visible<Outline>(form_, WidgetKind::outline, [&](const Outline& outline) {
+        const Box place = box_of(outline.place());
+        if (!layers_.area.meets(touched(place))) return;
+        layers_.outlines.push_back({box_of(snapped(place, ratio)).grown(-line / 2), outline.border_color(),
+                                    line, corner_radius(place.width, ratio)});
+    });
+}
+
+void BoardScene::sort_images() {
+    if (images_.empty()) {
+        for (const Widget* widget : form_.widgets()) {
+            if (widget->kind() == WidgetKind::image) images_.push_back(static_cast<const Image*>(widget));
+        }
+    }
+    const auto lower = [](const Image* a, const Image* b) { return a->stacking() < b->stacking(); };
+    // To see that the order still holds costs far less than to sort.
+    if (!std::is_sorted(images_.begin(), images_.end(), lower)) {
+        std::sort(images_.begin(), images_.end(), lower);
+    }
+}
+
+void BoardScene::add_images(double ratio) {
+    sort_images();
+    std::vector<PaintedImage>& painted = layers_.images;
+    const std::vector<Image*>& elsewhere = drag_.lifted();
+    // From the top one down, so that cards under another one at the same place are left out: piles stay crisp
+    // at their rounded corners, and no drawing is rendered before it is seen.
+    for (auto image = images_.rbegin(); image != images_.rend(); ++image) {
+        if (!is_seen(**image) || std::find(elsewhere.begin(), elsewhere.end(), *image) != elsewhere.end())
+            continue;
+        const Box box = picture_place(**image);
+        if (!layers_.area.meets(touched(box))) continue;
+        const Area place = snapped(box, ratio);
+        const auto covers = [&](const PaintedImage& upper) { return upper.place == place; };
+        if (std::any_of(painted.begin(), painted.end(), covers)) continue;
+        painted.push_back({(*image)->picture(), place, (*image)->bordered()});
+    }
+    std::reverse(painted.begin(), painted.end());
+}
+
+bool BoardScene::is_seen_within(const Area& place) const {
+    const Box box = box_of(place);
+    bool found = false;
+    for_each_visible<Image>(form_, WidgetKind::image, [&](const Image& image) {
+        found = found || (is_seen(image) && picture_place(image).meets(box));
+    });
+    return found || drag_.area().meets(place);
+}
+
+// Above all cards: the score can always be read. Where cards lie under it, the colour of the table is laid
+// between them.
+void BoardScene::add_labels() {
+    const double scale = label_scale();
+    const Area around_labels = plate(scale);
+    if (!layers_.area.meets(around_labels)) return;
+    if (is_seen_within(around_labels)) {
+        layers_.plate = PaintedPlate{around_labels, form_.back_color(), corner_radius(card_width, 1)};
+    }
+    for_each_visible<Label>(form_, WidgetKind::label, [&](const Label& label) {
+        const Box place = label_place(label.place(), scale);
+        if (!layers_.area.meets(touched(place))) return;
+        layers_.labels.push_back({place, label.caption(), label.text_color(), label.alignment()});
+    });
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <vector>
+
+#include "platform/form.h"
+#include "platform/image.h"
+#include "view/board_drag.h"
+#include "view/board_layers.h"
+#include "view/text_measure.h"
+
+namespace tarnwick {
+
+/// What a window's board looks like: its outlines, images and labels, and what is seen of a drag. It depends
+/// on nothing but the window's widgets, the size of texts, and how far the board is scrolled.
+class BoardScene {
+  public:
+    /// @param texts  measures the desktop's font; outlives the scene
+    BoardScene(const Form& form, const TextMeasure& texts) : form_(form), texts_(texts), drag_(form) {}
+
+    /// How far the board is scrolled down, in pixels: the labels keep their places in the window.
+    void set_scrolled(int offset) { scrolled_ = offset; }
+
+    /// What is to be painted of an area (pixels of the board), so many device pixels to a pixel. Valid until
+    /// the next call.
+    const BoardLayers& layers(const Area& area, double ratio);
+    /// The same of all that is seen in the window's client area.
+    const BoardLayers& layers(double ratio);
+
+    /// Where a widget that lies at `place` is seen, in pixels of the board.
+    Area area_of(const Widget& widget, const Rect& place) const;
+    Area area_of(const Widget& widget) const { return area_of(widget, widget.place()); }
+    /// The lower edge of the lowest picture, in pixels of the board.
+    int lower_edge() const;
+    /// What of the labels' surroundings changes when something else moves below them, in pixels of the board.
+    Area plate() const { return plate(label_scale()); }
+    /// How much larger than given the labels are seen, so that their texts fit; 1 or more.
+    double label_scale() const;
+
+    BoardDrag& drag() { return drag_; }
+    const BoardDrag& drag() const { return drag_; }
+
+  private:
+    Box label_place(const Rect& place, double scale) const;
+    Area plate(double label_scale) const;
+    void add_outlines(double ratio);
+    void add_images(double ratio);
+    void add_labels();
+    bool is_seen_within(const Area& place) const;
+    void sort_images();
+
+    const Form& form_;
+    const TextMeasure& texts_;
+    BoardDrag drag_;
+    int scrolled_ = 0;
+    std::vector<const Image*> images_;  ///< from the lowest one up
+    BoardLayers layers_;
+};
+
+}  // namespace tarnwick

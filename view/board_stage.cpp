@@ -1,0 +1,242 @@
+#include "view/board_stage.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "platform/desktop.h"
+#include "platform/key_codes.h"
+
+namespace tarnwick {
+namespace {
+
+// Beyond so many areas, painting the whole board costs less than keeping them apart.
+constexpr int most_repaints = 24;
+// Milliseconds from one picture of a glide to the next.
+constexpr int frame_time = 16;
+
+}  // namespace
+
+BoardStage::BoardStage(Form& form, const TextMeasure& texts, BoardFront& front)
+    : form_(form),
+      front_(front),
+      scene_(form, texts),
+      color_(form.back_color()),
+      plate_(scene_.plate()),
+      label_scale_(scene_.label_scale()) {}
+
+void BoardStage::widget_changed(const Widget& widget, const Rect& before) {
+    if (widget.kind() == WidgetKind::label) update_labels();
+    if (widget.kind() == WidgetKind::image) {
+        if (scene_.drag().glide().moves(static_cast<const Image&>(widget))) end_glide();
+        settle_later();
+    }
+    repaint(scene_.area_of(widget, before));
+    if (widget.place() != before) repaint(scene_.area_of(widget));
+}
+
+void BoardStage::update_labels() {
+    plate_ = scene_.plate();
+    const double scale = scene_.label_scale();
+    if (scale == label_scale_) return;
+    label_scale_ = scale;
+    repaint_all();
+}
+
+void BoardStage::form_changed() {
+    if (color_ == form_.back_color()) return;
+    color_ = form_.back_color();
+    repaint_all();
+}
+
+void BoardStage::drag_changed() {
+    repaint_home(scene_.drag().follow(desktop().now()));
+    repaint_lifted();
+    repaint_mark();
+    update_steps();
+}
+
+// What lies at the images' own places is seen or hidden.
+void BoardStage::repaint_home(const std::vector<Image*>& images) {
+    for (const Image* image : images) repaint(scene_.area_of(*image));
+}
+
+void BoardStage::repaint_lifted() {
+    const Area before = lifted_area_;
+    lifted_area_ = scene_.drag().area();
+    // One rectangle paints faster than the several that two overlapping ones are made of.
+    if (before.meets(lifted_area_)) {
+        repaint(united(before, lifted_area_));
+    } else {
+        repaint(before);
+        repaint(lifted_area_);
+    }
+}
+
+void BoardStage::repaint_mark() {
+    const Area before = mark_area_;
+    mark_area_ = scene_.drag().mark_area();
+    if (mark_area_ == before) return;
+    repaint(before);
+    repaint(mark_area_);
+}
+
+void BoardStage::repaint_all() {
+    repaints_ = most_repaints;
+    front_.repaint_all();
+}
+
+void BoardStage::repaint(const Area& area) {
+    if (area.empty() || repaints_ >= most_repaints) return;
+    if (++repaints_ == most_repaints) {
+        front_.repaint_all();
+        return;
+    }
+    front_.repaint(area.shifted(0, -scroll_.offset()));
+    // With a card below them, the labels are painted on a plate.
+    if (area.meets(plate_)) front_.repaint(plate_.shifted(0, -scroll_.offset()));
+}
+
+void BoardStage::resized(PixelSize size) {
+    size_ = size;
+    scroll_.set_page(size.height);
+    end_glide();
+    repaint_all();
+    show_part();
+    settle_later();
+    form_.user_resized(size);
+}
+
+void BoardStage::settle_later() {
+    if (settles_later_) return;
+    settles_later_ = true;
+    front_.settle_later();
+}
+
+void BoardStage::settle() {
+    settles_later_ = false;
+    if (!form_.loaded()) return;
+    scroll([this] { scroll_.set_lower_edge(scene_.lower_edge()); });
+    front_.scroll_changed();
+    update_steps();
+}
+
+void BoardStage::press(double x, double y, MouseButton button) {
+    end_glide();
+    pointer_x_ = x;
+    pointer_y_ = y;
+    form_.mouse().press(static_cast<float>(x), static_cast<float>(y + scroll_.offset()), button);
+}
+
+void BoardStage::move(double x, double y, bool left_button) {
+    // Somebody else took the mouse, and its button was let go there.
+    if (!left_button) return cancel();
+    point_at(x, y);
+}
+
+void BoardStage::point_at(double x, double y) {
+    pointer_x_ = x;
+    pointer_y_ = y;
+    form_.mouse().move(static_cast<float>(x), static_cast<float>(y + scroll_.offset()));
+}
+
+void BoardStage::release(double x, double y, MouseButton button, bool elsewhere) {
+    if (elsewhere && holds()) return cancel();
+    form_.mouse().release(static_cast<float>(x), static_cast<float>(y + scroll_.offset()), button);
+}
+
+bool BoardStage::key_down(int key_code) {
+    end_glide();
+    if (key_code == escape_key && holds()) {
+        cancel();
+        return true;
+    }
+    if (form_.accepts_input()) scroll([=, this] { scroll_.press(key_code); });
+    return key_code != 0 && form_.key_down(key_code);
+}
+
+void BoardStage::scroll_to(int value) {
+    scroll([=, this] { scroll_.go_to(value); });
+}
+
+void BoardStage::scroll_by(int pixels) {
+    if (form_.accepts_input()) scroll_to(scroll_.value() + pixels);
+}
+
+void BoardStage::reveal(int y) {
+    scroll([=, this] { scroll_.reveal(y); });
+}
+
+template <class Action>
+void BoardStage::scroll(Action action) {
+    const int value = scroll_.value();
+    const int offset = scroll_.offset();
+    action();
+    if (scroll_.value() == value) return;
+    front_.scroll_changed();
+    if (scroll_.offset() == offset) return;
+    show_part();
+    repaint_all();
+    // Under a pointer that holds cards another part of the board lies now.
+    if (holds()) point_at(pointer_x_, pointer_y_);
+}
+
+// What is not seen takes no clicks and no drops.
+void BoardStage::show_part() {
+    scene_.set_scrolled(scroll_.offset());
+    plate_ = scene_.plate();
+    form_.mouse().set_seen_area(Rect{0, static_cast<float>(scroll_.offset()), static_cast<float>(size_.width),
+                                     static_cast<float>(size_.height)});
+}
+
+int BoardStage::edge_ahead() const {
+    const Shift moved = scene_.drag().offset();
+    if (!holds() || std::abs(moved.x) + std::abs(moved.y) < BoardScroll::edge_reach) return 0;
+    return scroll_.ahead(pointer_y_);
+}
+
+void BoardStage::end_glide() {
+    if (scene_.drag().glide().images().empty()) return;
+    repaint_home(scene_.drag().end_glide());
+    repaint_lifted();
+    update_steps();
+}
+
+void BoardStage::update_steps() {
+    const std::optional<std::int64_t> before = next_step();
+    const std::int64_t now = desktop().now();
+    if (scene_.drag().glide().images().empty()) {
+        next_frame_.reset();
+    } else if (!next_frame_) {
+        next_frame_ = now + frame_time;
+    }
+    if (edge_ahead() == 0) {
+        next_edge_step_.reset();
+    } else if (!next_edge_step_) {
+        next_edge_step_ = now + BoardScroll::edge_step_time;
+    }
+    if (next_step() != before) front_.steps_changed();
+}
+
+std::optional<std::int64_t> BoardStage::next_step() const {
+    if (!next_frame_ || !next_edge_step_) return next_frame_ ? next_frame_ : next_edge_step_;
+    return std::min(*next_frame_, *next_edge_step_);
+}
+
+void BoardStage::step() {
+    const std::int64_t now = desktop().now();
+    if (next_frame_ && *next_frame_ <= now) {
+        next_frame_.reset();
+        if (scene_.drag().glide_on(now)) {
+            repaint_lifted();
+        } else {
+            end_glide();
+        }
+    }
+    if (next_edge_step_ && *next_edge_step_ <= now) {
+        next_edge_step_.reset();
+        scroll([this] { scroll_.step_ahead(pointer_y_); });
+    }
+    update_steps();
+}
+
+}  // namespace tarnwick
