@@ -95,9 +95,7 @@ class CheckBoxControl : public MarkedControl {
   public:
     CheckBoxControl(CheckBox& box, QCheckBox* native) : MarkedControl(native), box_(box) {
         native->setText(to_qt(box.caption()));
-        QObject::connect(native, &QCheckBox::clicked, native, [&box](bool checked) {
-            if (box.form().accepts_input()) box.set_checked(checked);
-        });
+        QObject::connect(native, &QCheckBox::clicked, native, [&box] { box.click(); });
     }
 
     void sync(qreal) override { show(box_.caption(), box_.checked()); }

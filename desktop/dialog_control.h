@@ -40,7 +40,7 @@ std::unique_ptr<DialogControl> make_button_control(Button& button, QWidget* pare
 std::unique_ptr<DialogControl> make_check_box_control(CheckBox& box, QWidget* parent);
 std::unique_ptr<DialogControl> make_option_control(OptionButton& option, QWidget* parent);
 std::unique_ptr<DialogControl> make_frame_control(const Frame& frame, QWidget* parent);
-std::unique_ptr<DialogControl> make_image_control(const Image& image, QWidget* parent);
+std::unique_ptr<DialogControl> make_image_control(Image& image, QWidget* parent);
 std::unique_ptr<DialogControl> make_outline_control(const Outline& outline, QWidget* parent);
 
 }  // namespace tarnwick

@@ -7,7 +7,6 @@
 #include "desktop/dialog_control.h"
 #include "desktop/picture_cache.h"
 #include "desktop/qt_convert.h"
-#include "platform/desktop.h"
 #include "platform/form.h"
 #include "windows/pictures.h"
 
@@ -63,7 +62,7 @@ class FrameControl : public DialogControl {
 
 class PictureBox : public QWidget, public Pressable {
   public:
-    PictureBox(const Image& image, QWidget* parent) : QWidget(parent), image_(image) {}
+    PictureBox(Image& image, QWidget* parent) : QWidget(parent), image_(image) {}
 
     void set_scale(qreal scale) {
         scale_ = scale;
@@ -72,10 +71,7 @@ class PictureBox : public QWidget, public Pressable {
 
     bool takes_presses() const override { return image_.events().click != nullptr; }
 
-    void press() override {
-        const auto& click = image_.events().click;
-        if (click && image_.form().accepts_input()) desktop().event([&] { click(image_.index()); });
-    }
+    void press() override { image_.click(); }
 
   protected:
     void paintEvent(QPaintEvent*) override {
@@ -116,7 +112,7 @@ class PictureBox : public QWidget, public Pressable {
         return QRectF(first / ratio, last / ratio).translated(-place.topLeft());
     }
 
-    const Image& image_;
+    Image& image_;
     Picture shown_;
     QPixmap pixmap_;
     qreal scale_ = 1;
@@ -164,7 +160,7 @@ std::unique_ptr<DialogControl> make_frame_control(const Frame& frame, QWidget* p
     return std::make_unique<FrameControl>(frame, new FrameBox(parent));
 }
 
-std::unique_ptr<DialogControl> make_image_control(const Image& image, QWidget* parent) {
+std::unique_ptr<DialogControl> make_image_control(Image& image, QWidget* parent) {
     return std::make_unique<ImageControl>(new PictureBox(image, parent));
 }
 

@@ -40,9 +40,9 @@ void change_settings(TwinGame& game, XWindow dialog) {
     click_control(game, dialog, frmFeatures.ImgCardBacks(3));
     click_control(game, dialog, frmFeatures.chkAnamate);
     click_control(game, dialog, frmFeatures.chkScaleCards);
-    frmFeatures.optCardBack(3).click();
-    frmFeatures.chkAnamate.set_checked(false);
-    frmFeatures.chkScaleCards.set_checked(false);
+    frmFeatures.ImgCardBacks(3).click();
+    frmFeatures.chkAnamate.click();
+    frmFeatures.chkScaleCards.click();
 }
 
 TEST(Settings, AreTakenOverAndKept) {
