@@ -7,7 +7,7 @@
 #include "desktop/dialog_control.h"
 #include "desktop/picture_cache.h"
 #include "desktop/qt_convert.h"
-#include "platform/form.h"
+#include "view/presses.h"
 #include "windows/pictures.h"
 
 namespace tarnwick {
@@ -44,19 +44,11 @@ class FrameBox : public QGroupBox {
 
 class FrameControl : public DialogControl {
   public:
-    FrameControl(const Frame& frame, QGroupBox* native)
-        : DialogControl(native), frame_(frame), native_(*native) {}
+    explicit FrameControl(QGroupBox* native) : DialogControl(native), native_(*native) {}
 
-    void sync(qreal) override { native_.setTitle(to_qt(frame_.caption())); }
-
-    bool fits(const QSizeF& place) const override {
-        constexpr int air = 8;
-        return QFontMetricsF(native_.font()).horizontalAdvance(to_qt(frame_.caption())) + 2 * air <=
-               place.width();
-    }
+    void sync(const ControlLooks& looks) override { native_.setTitle(to_qt(looks.text.text)); }
 
   private:
-    const Frame& frame_;
     QGroupBox& native_;
 };
 
@@ -69,9 +61,7 @@ class PictureBox : public QWidget, public Pressable {
         update();
     }
 
-    bool takes_presses() const override { return image_.events().click != nullptr; }
-
-    void press() override { image_.click(); }
+    Widget& pressed() const override { return image_; }
 
   protected:
     void paintEvent(QPaintEvent*) override {
@@ -97,7 +87,7 @@ class PictureBox : public QWidget, public Pressable {
 
     void mouseReleaseEvent(QMouseEvent* event) override {
         const bool inside = rect().contains(event->position().toPoint());
-        if (event->button() == Qt::LeftButton && inside) press();
+        if (event->button() == Qt::LeftButton && inside) press(image_);
     }
 
   private:
@@ -121,7 +111,7 @@ class PictureBox : public QWidget, public Pressable {
 class ImageControl : public DialogControl {
   public:
     explicit ImageControl(PictureBox* native) : DialogControl(native), native_(*native) {}
-    void sync(qreal scale) override { native_.set_scale(scale); }
+    void sync(const ControlLooks& looks) override { native_.set_scale(looks.scale); }
 
   private:
     PictureBox& native_;
@@ -151,13 +141,13 @@ class OutlineBox : public QWidget {
 class OutlineControl : public DialogControl {
   public:
     explicit OutlineControl(OutlineBox* native) : DialogControl(native) {}
-    void sync(qreal) override { native()->update(); }
+    void sync(const ControlLooks&) override { native()->update(); }
 };
 
 }  // namespace
 
-std::unique_ptr<DialogControl> make_frame_control(const Frame& frame, QWidget* parent) {
-    return std::make_unique<FrameControl>(frame, new FrameBox(parent));
+std::unique_ptr<DialogControl> make_frame_control(QWidget* parent) {
+    return std::make_unique<FrameControl>(new FrameBox(parent));
 }
 
 std::unique_ptr<DialogControl> make_image_control(Image& image, QWidget* parent) {
