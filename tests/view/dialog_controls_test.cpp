@@ -62,7 +62,6 @@ TEST_F(DialogControls, ChooseAnOptionWithArrowKeysCountedAround) {
     EXPECT_TRUE(options(1).on() && !options(0).on());
     EXPECT_TRUE(takes_keyboard_from(options(1), &options(0)));
     EXPECT_FALSE(takes_keyboard_from(options(0), &options(1)));
-    EXPECT_FALSE(takes_keyboard_from(options(1), &frmFeatures.cmdOk));
     EXPECT_FALSE(takes_keyboard_from(options(1), nullptr));
 }
 
