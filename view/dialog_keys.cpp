@@ -46,7 +46,8 @@ OptionButton& option_beside(const OptionButton& option, int step) {
         options.push_back(static_cast<OptionButton*>(widget));
     }
     const int count = static_cast<int>(options.size());
-    return *options[static_cast<std::size_t>((self + step + count) % count)];
+    OptionButton* beside = options[static_cast<std::size_t>((self + step + count) % count)];
+    return *beside;
 }
 
 bool takes_keyboard_from(const OptionButton& option, const Widget* focused) {
