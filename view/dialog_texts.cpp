@@ -95,7 +95,7 @@ TextFont fitting_label_font(const Label& label, PixelSize place, double scale, c
     const auto fits_in = [&](const TextFont& smaller) {
         return label_fits(label.caption(), smaller, place, measure);
     };
-    const TextFont smaller = shrunk(font, least, measure, fits_in);
+    TextFont smaller = shrunk(font, least, measure, fits_in);
     if (fits_in(smaller) || takes_two_lines(smaller, place, measure)) return smaller;
     return shrunk(font, least, measure, [&](const TextFont& lower) {
         return measure.height(lower) <= static_cast<float>(place.height);
