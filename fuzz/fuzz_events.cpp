@@ -80,7 +80,7 @@ void answer_dialogs(int number) {
             frmBestScore.cmdOk.click();
             break;
         case 3:
-            frmFeatures.chkScaleCards.set_checked(number % 4 == 1);
+            frmFeatures.chkScaleCards.click();
             break;
         case 4:
             frmFeatures.cmdOk.click();

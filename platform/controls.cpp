@@ -59,6 +59,10 @@ void CheckBox::set_checked(bool checked) {
     changed();
 }
 
+void CheckBox::click() {
+    if (form().accepts_input()) set_checked(!checked_);
+}
+
 void OptionButton::set_caption(const std::string& caption) {
     caption_ = caption;
     changed();

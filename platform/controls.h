@@ -101,6 +101,8 @@ class CheckBox : public Widget {
     void set_caption(const std::string& caption);
     bool checked() const { return checked_; }
     void set_checked(bool checked);
+    /// What a desktop calls when the user checks or unchecks the box.
+    void click();
 
   private:
     std::string caption_;

@@ -1,5 +1,8 @@
 #include "platform/image.h"
 
+#include "platform/desktop.h"
+#include "platform/form.h"
+
 namespace tarnwick {
 
 void Image::set_picture(Picture picture) {
@@ -18,6 +21,11 @@ void Image::set_bordered(bool bordered) {
     if (bordered == bordered_) return;
     bordered_ = bordered;
     changed();
+}
+
+void Image::click() {
+    if (!form().accepts_input() || !events_.click) return;
+    desktop().event([this] { events_.click(index_); });
 }
 
 void Image::reset() {

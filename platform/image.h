@@ -43,6 +43,9 @@ class Image : public Widget {
     DragMode drag_mode() const { return drag_mode_; }
     void set_drag_mode(DragMode mode) { drag_mode_ = mode; }
 
+    /// What a desktop calls when the user clicks the image.
+    void click();
+
     /// Back to how an image is stored: visible, without a picture, a border or stretching, dragged by hand.
     void reset();
 

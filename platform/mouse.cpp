@@ -111,7 +111,7 @@ void Mouse::release(float x, float y, MouseButton button) {
     } else if (pressed_) {
         Image& image = *pressed_;
         pressed_ = nullptr;
-        if (is_seen(x, y) && image_at(x, y) == &image) click(image);
+        if (is_seen(x, y) && image_at(x, y) == &image) image.click();
     }
 }
 
@@ -125,10 +125,6 @@ void Mouse::drop(float x, float y) {
         const float offset_y = (y - target->top()) * twips_per_pixel;
         desktop().event([&] { target->events().drop(target->index(), source, offset_x, offset_y); });
     }
-}
-
-void Mouse::click(Image& image) {
-    if (image.events().click) desktop().event([&] { image.events().click(image.index()); });
 }
 
 void Mouse::cancel() {

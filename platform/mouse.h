@@ -65,7 +65,6 @@ class Mouse {
     bool is_seen(float x, float y) const;
     const Widget* receiver_at(float x, float y) const;
     void drop(float x, float y);
-    void click(Image& image);
     void put_down();
     void drag_changed() const;
 

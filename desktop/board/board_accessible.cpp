@@ -1,11 +1,11 @@
 #include "desktop/board/board_accessible.h"
 
-#include <algorithm>
 #include <exception>
 #include <utility>
 
 #include "desktop/board/board_item_accessible.h"
 #include "desktop/board/board_widget.h"
+#include "view/spoken_board.h"
 
 namespace tarnwick {
 namespace {
@@ -17,30 +17,30 @@ QAccessibleInterface* make_accessible(const QString&, QObject* object) {
     return board ? new BoardAccessible(*board) : nullptr;
 }
 
-const BoardItem* find(const std::vector<BoardItem>& items, const Widget* widget) {
-    const auto item = std::find_if(items.begin(), items.end(),
-                                   [widget](const BoardItem& each) { return each.widget == widget; });
-    return item == items.end() ? nullptr : &*item;
-}
-
-// The widgets of `items` that are among `others` as well.
-std::vector<const Widget*> shared_widgets(const std::vector<BoardItem>& items,
-                                          const std::vector<BoardItem>& others) {
-    std::vector<const Widget*> widgets;
-    for (const BoardItem& item : items) {
-        if (find(others, item.widget)) widgets.push_back(item.widget);
-    }
-    return widgets;
-}
-
-void send(const BoardAccessible::Change& change) {
-    if (change.event == QAccessible::ValueChanged) {
-        QAccessibleValueChangeEvent event(change.subject, change.subject->valueInterface()->currentValue());
+void send(QAccessible::Event kind, QAccessibleInterface* subject) {
+    if (kind == QAccessible::ValueChanged) {
+        QAccessibleValueChangeEvent event(subject, subject->valueInterface()->currentValue());
         QAccessible::updateAccessibility(&event);
     } else {
-        QAccessibleEvent event(change.subject, change.event);
+        QAccessibleEvent event(subject, kind);
         QAccessible::updateAccessibility(&event);
     }
+}
+
+QAccessible::Event event_of(SpokenChange::Kind kind) {
+    switch (kind) {
+        case SpokenChange::Kind::gone:
+            return QAccessible::ObjectDestroyed;
+        case SpokenChange::Kind::came:
+            return QAccessible::ObjectCreated;
+        case SpokenChange::Kind::renamed:
+            return QAccessible::NameChanged;
+        case SpokenChange::Kind::other_value:
+            return QAccessible::ValueChanged;
+        case SpokenChange::Kind::reordered:
+            break;
+    }
+    return QAccessible::ObjectReorder;
 }
 
 }  // namespace
@@ -91,7 +91,7 @@ QAccessibleInterface* BoardAccessible::child(int index) const {
 int BoardAccessible::indexOfChild(const QAccessibleInterface* child) const {
     const std::vector<BoardItem> shown = items();
     if (const auto* item = dynamic_cast<const BoardItemAccessible*>(child)) {
-        const BoardItem* found = find(shown, &item->widget());
+        const BoardItem* found = find_item(shown, &item->widget());
         return found ? static_cast<int>(found - shown.data()) : -1;
     }
     const int index = QAccessibleWidget::indexOfChild(child);
@@ -106,7 +106,7 @@ QAccessibleInterface* BoardAccessible::childAt(int x, int y) const {
     const QPoint place = seen + QPoint(0, board().scroll_offset());
     const Image* image =
         board().form().mouse().image_at(static_cast<float>(place.x()), static_cast<float>(place.y()));
-    if (image) return find(shown, image) ? interface_of(*image) : nullptr;
+    if (image) return find_item(shown, image) ? interface_of(*image) : nullptr;
     for (const BoardItem& item : shown) {
         if (item.widget->kind() != WidgetKind::label) continue;
         QAccessibleInterface* label = interface_of(*item.widget);
@@ -115,28 +115,11 @@ QAccessibleInterface* BoardAccessible::childAt(int x, int y) const {
     return nullptr;
 }
 
-std::vector<BoardAccessible::Change> BoardAccessible::take_changes() {
+void BoardAccessible::tell_changes() {
     const std::vector<BoardItem> before = std::exchange(told_, items());
-    std::vector<Change> changes;
-    for (const BoardItem& item : before) {
-        if (!find(told_, item.widget)) {
-            changes.push_back({QAccessible::ObjectDestroyed, interface_of(*item.widget)});
-        }
+    for (const auto& [kind, widget] : spoken_changes(before, told_)) {
+        send(event_of(kind), widget ? interface_of(*widget) : this);
     }
-    for (const BoardItem& item : told_) {
-        const BoardItem* told = find(before, item.widget);
-        QAccessibleInterface* child = interface_of(*item.widget);
-        if (!told) {
-            changes.push_back({QAccessible::ObjectCreated, child});
-            continue;
-        }
-        if (told->name != item.name) changes.push_back({QAccessible::NameChanged, child});
-        if (told->value != item.value) changes.push_back({QAccessible::ValueChanged, child});
-    }
-    if (shared_widgets(before, told_) != shared_widgets(told_, before)) {
-        changes.push_back({QAccessible::ObjectReorder, this});
-    }
-    return changes;
 }
 
 BoardNews::BoardNews(BoardWidget& board) : wanted_(QAccessible::isActive()) {
@@ -145,8 +128,7 @@ BoardNews::BoardNews(BoardWidget& board) : wanted_(QAccessible::isActive()) {
     timer_.setInterval(news_delay);
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [&board] {
         auto* accessible = dynamic_cast<BoardAccessible*>(QAccessible::queryAccessibleInterface(&board));
-        if (!accessible || !accessible->isValid()) return;
-        for (const BoardAccessible::Change& change : accessible->take_changes()) send(change);
+        if (accessible && accessible->isValid()) accessible->tell_changes();
     });
 }
 

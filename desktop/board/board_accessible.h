@@ -30,13 +30,9 @@ class BoardAccessible : public QAccessibleWidget {
     /// What the board shows now; nothing when its window is not loaded.
     std::vector<BoardItem> items() const;
 
-    struct Change {
-        QAccessible::Event event;
-        QAccessibleInterface* subject;
-    };
-    /// What has changed since the last call, or since the board was first looked at. What comes into sight is
-    /// told as created, what goes as destroyed.
-    std::vector<Change> take_changes();
+    /// Tells screen readers what has changed since the last call, or since the board was first looked at.
+    /// What comes into sight is told as created, what goes as destroyed.
+    void tell_changes();
 
   protected:
     ~BoardAccessible() override;

@@ -1,49 +1,18 @@
 #include "desktop/board/board_item_accessible.h"
 
 #include <QApplication>
-#include <algorithm>
-#include <optional>
 
 #include "desktop/board/board_widget.h"
 #include "desktop/shared/qt_convert.h"
-#include "platform/desktop.h"
+#include "view/spoken_board.h"
 
 namespace tarnwick {
 namespace {
 
-// Nobody else is at work with the window: no dialog or menu is open, and nothing is dragged.
-bool takes_clicks(const Form& form) {
-    return form.accepts_input() && !desktop().in_event() && !form.mouse().dragged() &&
-           QApplication::mouseButtons() == Qt::NoButton && !QApplication::activePopupWidget();
-}
-
-// A place where a click reaches the widget, that is, where no other one lies over it. A click nearer to its
-// left or right edge might be meant for the neighbour.
-std::optional<QPointF> free_spot(const Widget& widget) {
-    constexpr qreal from_edge = 30;
-    constexpr int step = 4;
-    const QRectF place = to_qt(widget.place());
-    const qreal x = place.left() + std::min(from_edge, place.width() - 2);
-    for (int down = step; down < place.height(); down += step) {
-        const QPointF spot(x, place.top() + down);
-        const Mouse& mouse = widget.form().mouse();
-        if (mouse.image_at(static_cast<float>(spot.x()), static_cast<float>(spot.y())) == &widget)
-            return spot;
-    }
-    return std::nullopt;
-}
-
-void click(BoardWidget& board, const Widget& widget, int times) {
-    Form& form = widget.form();
-    for (int i = 0; i < times; ++i) {
-        if (!takes_clicks(form)) return;
-        const std::optional<QPointF> spot = free_spot(widget);
-        if (!spot) return;
-        // What is not seen takes no clicks.
-        board.reveal(*spot);
-        form.mouse().press(static_cast<float>(spot->x()), static_cast<float>(spot->y()));
-        form.mouse().release(static_cast<float>(spot->x()), static_cast<float>(spot->y()));
-    }
+// Whether a dialog or menu is open, or a mouse button held.
+bool waits_for_player() {
+    return QApplication::mouseButtons() != Qt::NoButton ||
+           QApplication::activePopupWidget();
 }
 
 }  // namespace
@@ -54,9 +23,8 @@ QAccessibleInterface* BoardItemAccessible::parent() const {
 
 BoardItem BoardItemAccessible::item() const {
     const std::vector<BoardItem> items = board_.items();
-    const auto item = std::find_if(items.begin(), items.end(),
-                                   [this](const BoardItem& each) { return each.widget == &widget_; });
-    return item == items.end() ? BoardItem{} : *item;
+    const BoardItem* item = find_item(items, &widget_);
+    return item ? *item : BoardItem{};
 }
 
 QString BoardItemAccessible::text(QAccessible::Text text) const {
@@ -114,7 +82,12 @@ void BoardItemAccessible::doAction(const QString& action) {
     // Later: a move may bring up a message, and whoever asks for it does not wait for the answer.
     BoardWidget& board = board_.board();
     QMetaObject::invokeMethod(
-        &board, [&board, &widget = widget_, clicks] { click(board, widget, clicks); }, Qt::QueuedConnection);
+        &board,
+        [&board, &widget = widget_, clicks] {
+            press_item(widget, clicks,
+                       {waits_for_player, [&board](Spot spot) { board.reveal(QPointF(spot.x, spot.y)); }});
+        },
+        Qt::QueuedConnection);
 }
 
 QVariant BoardItemAccessible::currentValue() const { return item().value.value_or(0); }

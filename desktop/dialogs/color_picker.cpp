@@ -3,34 +3,13 @@
 #include <QColorDialog>
 #include <QScreen>
 #include <QWindow>
-#include <algorithm>
-#include <array>
+
+#include "view/dialog_layout.h"
 
 namespace tarnwick {
 namespace {
 
-// The window moved into the room; where it is larger, its upper left corner is seen.
-QRect within(const QRect& room, QRect window) {
-    window.moveRight(std::min(window.right(), room.right()));
-    window.moveBottom(std::min(window.bottom(), room.bottom()));
-    window.moveLeft(std::max(window.left(), room.left()));
-    window.moveTop(std::max(window.top(), room.top()));
-    return window;
-}
-
-// The place beside `other`, on the side where the least of it is covered.
-QRect beside(const QRect& other, const QSize& size, const QRect& room) {
-    const auto at = [&](int left, int top) { return within(room, QRect(QPoint(left, top), size)); };
-    const std::array<QRect, 4> sides{
-        at(other.right() + 1, other.top()), at(other.left() - size.width(), other.top()),
-        at(other.left(), other.bottom() + 1), at(other.left(), other.top() - size.height())};
-    const auto covered = [&other](const QRect& side) {
-        const QRect both = side & other;
-        return both.width() * both.height();
-    };
-    return *std::min_element(sides.begin(), sides.end(),
-                             [&](const QRect& a, const QRect& b) { return covered(a) < covered(b); });
-}
+Area from_qt(const QRect& rect) { return {rect.left(), rect.top(), rect.width(), rect.height()}; }
 
 }  // namespace
 
@@ -41,9 +20,10 @@ QColorDialog* make_color_picker(const QColor& first, const QString& title, QWidg
     picker->adjustSize();
     // The frame that it will get is the one that its parent has.
     const QSize frame = parent->frameGeometry().size() - parent->size();
-    picker->move(
-        beside(parent->frameGeometry(), picker->size() + frame, parent->screen()->availableGeometry())
-            .topLeft());
+    const QSize size = picker->size() + frame;
+    const Area place = place_beside(from_qt(parent->frameGeometry()), {size.width(), size.height()},
+                                         from_qt(parent->screen()->availableGeometry()));
+    picker->move(place.left, place.top);
     return picker;
 }
 

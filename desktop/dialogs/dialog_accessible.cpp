@@ -3,7 +3,7 @@
 #include <QAccessibleWidget>
 #include <QWidget>
 
-#include "platform/desktop.h"
+#include "view/presses.h"
 
 namespace tarnwick {
 namespace {
@@ -18,18 +18,14 @@ class PressableAccessible : public QAccessibleWidget {
         if (action != pressAction()) return QAccessibleWidget::doAction(action);
         // Later: what is pressed may open a dialog, and whoever asks for it does not wait for its end.
         QMetaObject::invokeMethod(
-            widget(),
-            [pressed = widget()] {
-                if (desktop().in_event()) return;
-                dynamic_cast<Pressable&>(*pressed).press();
-            },
+            widget(), [pressed = widget()] { press(dynamic_cast<Pressable&>(*pressed).pressed()); },
             Qt::QueuedConnection);
     }
 };
 
 QAccessibleInterface* make_accessible(const QString&, QObject* object) {
     const auto* pressable = dynamic_cast<Pressable*>(object);
-    if (!pressable || !pressable->takes_presses()) return nullptr;
+    if (!pressable || !is_pressable(pressable->pressed())) return nullptr;
     return new PressableAccessible(*static_cast<QWidget*>(object));
 }
 

@@ -18,7 +18,7 @@ std::unique_ptr<DialogControl> make_control(Widget& widget, QWidget* parent) {
         case WidgetKind::label:
             return make_label_control(static_cast<Label&>(widget), parent);
         case WidgetKind::frame:
-            return make_frame_control(static_cast<Frame&>(widget), parent);
+            return make_frame_control(parent);
         case WidgetKind::button:
             return make_button_control(static_cast<Button&>(widget), parent);
         case WidgetKind::check_box:

@@ -5,8 +5,16 @@
 
 #include "platform/controls.h"
 #include "platform/image.h"
+#include "view/dialog_texts.h"
 
 namespace tarnwick {
+
+/// How a control looks: its text and the font of that, in a layout enlarged by `scale`.
+struct ControlLooks {
+    const ShownText& text;
+    const QFont& font;
+    qreal scale;
+};
 
 /// The toolkit's widget for one widget of a dialog.
 class DialogControl {
@@ -17,13 +25,8 @@ class DialogControl {
     DialogControl& operator=(const DialogControl&) = delete;
 
     QWidget* native() const { return native_; }
-    /// Makes the native widget show what the dialog's widget says, in a layout enlarged by `scale`. Its place
-    /// has been set before.
-    virtual void sync(qreal scale) = 0;
-    /// Whether the text can be read in full in a place of this size.
-    virtual bool fits(const QSizeF&) const { return true; }
-    /// The least height the control can be used at, in pixels; it grows evenly beyond its place.
-    virtual int least_height() const { return 0; }
+    /// Makes the native widget show what the dialog's widget says. Its place has been set before.
+    virtual void sync(const ControlLooks& looks) = 0;
 
   private:
     QWidget* native_;  ///< owned by its parent
@@ -39,8 +42,8 @@ std::unique_ptr<DialogControl> make_swatch_control(TextBox& box, QWidget* parent
 std::unique_ptr<DialogControl> make_button_control(Button& button, QWidget* parent);
 std::unique_ptr<DialogControl> make_check_box_control(CheckBox& box, QWidget* parent);
 std::unique_ptr<DialogControl> make_option_control(OptionButton& option, QWidget* parent);
-std::unique_ptr<DialogControl> make_frame_control(const Frame& frame, QWidget* parent);
-std::unique_ptr<DialogControl> make_image_control(const Image& image, QWidget* parent);
+std::unique_ptr<DialogControl> make_frame_control(QWidget* parent);
+std::unique_ptr<DialogControl> make_image_control(Image& image, QWidget* parent);
 std::unique_ptr<DialogControl> make_outline_control(const Outline& outline, QWidget* parent);
 
 }  // namespace tarnwick

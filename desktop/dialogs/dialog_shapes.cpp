@@ -7,8 +7,7 @@
 #include "desktop/dialogs/dialog_control.h"
 #include "desktop/shared/picture_cache.h"
 #include "desktop/shared/qt_convert.h"
-#include "platform/desktop.h"
-#include "platform/form.h"
+#include "view/presses.h"
 #include "windows/pictures.h"
 
 namespace tarnwick {
@@ -45,37 +44,24 @@ class FrameBox : public QGroupBox {
 
 class FrameControl : public DialogControl {
   public:
-    FrameControl(const Frame& frame, QGroupBox* native)
-        : DialogControl(native), frame_(frame), native_(*native) {}
+    explicit FrameControl(QGroupBox* native) : DialogControl(native), native_(*native) {}
 
-    void sync(qreal) override { native_.setTitle(to_qt(frame_.caption())); }
-
-    bool fits(const QSizeF& place) const override {
-        constexpr int air = 8;
-        return QFontMetricsF(native_.font()).horizontalAdvance(to_qt(frame_.caption())) + 2 * air <=
-               place.width();
-    }
+    void sync(const ControlLooks& looks) override { native_.setTitle(to_qt(looks.text.text)); }
 
   private:
-    const Frame& frame_;
     QGroupBox& native_;
 };
 
 class PictureBox : public QWidget, public Pressable {
   public:
-    PictureBox(const Image& image, QWidget* parent) : QWidget(parent), image_(image) {}
+    PictureBox(Image& image, QWidget* parent) : QWidget(parent), image_(image) {}
 
     void set_scale(qreal scale) {
         scale_ = scale;
         update();
     }
 
-    bool takes_presses() const override { return image_.events().click != nullptr; }
-
-    void press() override {
-        const auto& click = image_.events().click;
-        if (click && image_.form().accepts_input()) desktop().event([&] { click(image_.index()); });
-    }
+    Widget& pressed() const override { return image_; }
 
   protected:
     void paintEvent(QPaintEvent*) override {
@@ -101,7 +87,7 @@ class PictureBox : public QWidget, public Pressable {
 
     void mouseReleaseEvent(QMouseEvent* event) override {
         const bool inside = rect().contains(event->position().toPoint());
-        if (event->button() == Qt::LeftButton && inside) press();
+        if (event->button() == Qt::LeftButton && inside) press(image_);
     }
 
   private:
@@ -116,7 +102,7 @@ class PictureBox : public QWidget, public Pressable {
         return QRectF(first / ratio, last / ratio).translated(-place.topLeft());
     }
 
-    const Image& image_;
+    Image& image_;
     Picture shown_;
     QPixmap pixmap_;
     qreal scale_ = 1;
@@ -125,7 +111,7 @@ class PictureBox : public QWidget, public Pressable {
 class ImageControl : public DialogControl {
   public:
     explicit ImageControl(PictureBox* native) : DialogControl(native), native_(*native) {}
-    void sync(qreal scale) override { native_.set_scale(scale); }
+    void sync(const ControlLooks& looks) override { native_.set_scale(looks.scale); }
 
   private:
     PictureBox& native_;
@@ -155,16 +141,16 @@ class OutlineBox : public QWidget {
 class OutlineControl : public DialogControl {
   public:
     explicit OutlineControl(OutlineBox* native) : DialogControl(native) {}
-    void sync(qreal) override { native()->update(); }
+    void sync(const ControlLooks&) override { native()->update(); }
 };
 
 }  // namespace
 
-std::unique_ptr<DialogControl> make_frame_control(const Frame& frame, QWidget* parent) {
-    return std::make_unique<FrameControl>(frame, new FrameBox(parent));
+std::unique_ptr<DialogControl> make_frame_control(QWidget* parent) {
+    return std::make_unique<FrameControl>(new FrameBox(parent));
 }
 
-std::unique_ptr<DialogControl> make_image_control(const Image& image, QWidget* parent) {
+std::unique_ptr<DialogControl> make_image_control(Image& image, QWidget* parent) {
     return std::make_unique<ImageControl>(new PictureBox(image, parent));
 }
 

@@ -6,6 +6,7 @@
 #include "desktop/dialogs/dialog_accessible.h"
 #include "desktop/dialogs/dialog_control.h"
 #include "desktop/shared/qt_convert.h"
+#include "view/presses.h"
 
 namespace tarnwick {
 namespace {
@@ -18,12 +19,11 @@ QString name_of(const QColor& color) {
     return color.name();
 }
 
-// A text box in which nothing can be read is used as a button that shows a colour. What is typed into it has
-// the same effect as a click, as the box changes.
+// A text box in which nothing can be read is used as a button that shows a colour.
 class SwatchButton : public QPushButton, public Pressable {
   public:
     SwatchButton(TextBox& box, QWidget* parent) : QPushButton(parent), box_(box) {
-        connect(this, &QPushButton::clicked, this, [this] { press(); });
+        connect(this, &QPushButton::clicked, this, [this] { press(box_); });
     }
 
     void show_color() {
@@ -31,16 +31,13 @@ class SwatchButton : public QPushButton, public Pressable {
         update();
     }
 
-    bool takes_presses() const override { return true; }
-    void press() override { box_.click(); }
+    Widget& pressed() const override { return box_; }
 
   protected:
     void keyPressEvent(QKeyEvent* event) override {
-        const QString text = event->text();
-        const bool typed = !text.isEmpty() && text[0].isPrint() && event->key() != Qt::Key_Space;
         constexpr Qt::KeyboardModifiers commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-        if (!typed || (event->modifiers() & commands)) return QPushButton::keyPressEvent(event);
-        box_.type(text.toStdString());
+        const bool typed = !(event->modifiers() & commands);
+        if (!typed || !press_by_typing(box_, event->text().toStdString())) QPushButton::keyPressEvent(event);
     }
 
     void paintEvent(QPaintEvent*) override {
@@ -67,7 +64,7 @@ class SwatchButton : public QPushButton, public Pressable {
 class SwatchControl : public DialogControl {
   public:
     explicit SwatchControl(SwatchButton* native) : DialogControl(native), native_(*native) {}
-    void sync(qreal) override { native_.show_color(); }
+    void sync(const ControlLooks&) override { native_.show_color(); }
 
   private:
     SwatchButton& native_;

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <QDialog>
+#include <functional>
+#include <map>
 #include <memory>
-#include <unordered_map>
-#include <vector>
 
 #include "desktop/dialogs/dialog_control.h"
+#include "desktop/dialogs/dialog_measure.h"
 #include "desktop/shared/window_view.h"
+#include "view/presses.h"
 
 namespace tarnwick {
 
@@ -24,24 +26,23 @@ class DialogWindow : public QDialog {
     void reject() override;
 
   protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
     void make_controls();
-    /// Ties labels to what they stand beside, for players who cannot see it.
-    void name_controls();
-    void choose_scale();
-    bool all_fit(qreal scale, qreal most) const;
     void set_tab_order();
-    void place(const Widget& widget, const DialogControl& control);
     QWidget* native_of(const Widget& widget) const;
+    Widget* focused_widget() const;
+    bool is_background(const QPoint& at) const;
 
     Form& form_;
-    std::unordered_map<const Widget*, std::unique_ptr<DialogControl>> controls_;
+    QtDialogMeasure measure_{*this};
+    BackgroundPress background_;
+    std::map<Widget*, std::unique_ptr<DialogControl>, std::less<>> controls_;
     qreal scale_ = 1;
-    bool pressed_ = false;  ///< on the dialog's own background
 };
 
 class DialogView : public WindowView {

@@ -3,38 +3,42 @@
 #include <QApplication>
 #include <QFontInfo>
 #include <QFontMetricsF>
+#include <QWidget>
 
 #include "desktop/shared/qt_convert.h"
 
 namespace tarnwick {
-namespace {
-
-QFont qt_font(const TextFont& font) {
-    QFont native = QApplication::font();
+QFont qt_font(const QFont& own, const TextFont& font) {
+    QFont native = own;
     if (!font.family.empty()) native.setFamily(to_qt(font.family));
     if (font.pixels > 0) native.setPixelSize(qRound(font.pixels));
     if (font.bold) native.setBold(true);
     return native;
 }
 
+TextSize qt_wrapped(const QFont& font, const std::string& text, float width) {
+    const QRectF column(0, 0, static_cast<qreal>(width), QWIDGETSIZE_MAX);
+    const QRectF needed = QFontMetricsF(font).boundingRect(column, Qt::TextWordWrap, to_qt(text));
+    return {static_cast<float>(needed.width()), static_cast<float>(needed.height())};
+}
+
+namespace {
+
 class QtTexts : public TextMeasure {
   public:
-    float desktop_size() const override {
-        return static_cast<float>(QFontInfo(QApplication::font()).pixelSize());
-    }
+    float desktop_size() const override { return static_cast<float>(QFontInfo(own()).pixelSize()); }
     float width(const std::string& text, const TextFont& font) const override {
-        return static_cast<float>(QFontMetricsF(qt_font(font)).horizontalAdvance(to_qt(text)));
+        return static_cast<float>(QFontMetricsF(qt_font(own(), font)).horizontalAdvance(to_qt(text)));
     }
     float height(const TextFont& font) const override {
-        return static_cast<float>(QFontMetricsF(qt_font(font)).height());
+        return static_cast<float>(QFontMetricsF(qt_font(own(), font)).height());
     }
     TextSize wrapped(const std::string& text, const TextFont& font, float width) const override {
-        constexpr qreal any_height = 1e6;
-        const QRectF column(0, 0, static_cast<qreal>(width), any_height);
-        const QSizeF size =
-            QFontMetricsF(qt_font(font)).boundingRect(column, Qt::TextWordWrap, to_qt(text)).size();
-        return {static_cast<float>(size.width()), static_cast<float>(size.height())};
+        return qt_wrapped(qt_font(own(), font), text, width);
     }
+
+  private:
+    static QFont own() { return QApplication::font(); }
 };
 
 }  // namespace

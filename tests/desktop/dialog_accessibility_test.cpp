@@ -6,33 +6,11 @@
 #include "state/variables.h"
 #include "tests/desktop/inner_game.h"
 #include "windows/frmBestScore.h"
-#include "windows/frmError.h"
 #include "windows/frmFeatures.h"
 #include "windows/frmyouwin.h"
 
 namespace tarnwick {
 namespace {
-
-// Everything in a dialog that takes the keyboard, by its name.
-QStringList keyboard_names(const Form& form) {
-    QStringList names;
-    for (const QWidget* control : shown_widget(form.name())->findChildren<QWidget*>()) {
-        if (control->focusPolicy() == Qt::NoFocus || !control->isVisible()) continue;
-        names +=
-            QAccessible::queryAccessibleInterface(const_cast<QWidget*>(control))->text(QAccessible::Name);
-    }
-    names.sort();
-    return names;
-}
-
-// What can be read out in a dialog, in its order.
-QString read_out(QAccessibleInterface& part) {
-    QString text = part.role() == QAccessible::StaticText ? part.text(QAccessible::Name) + "; " : QString();
-    for (int i = 0; i < part.childCount(); ++i) {
-        if (!part.child(i)->state().invisible) text += read_out(*part.child(i));
-    }
-    return text;
-}
 
 QAccessibleInterface* find_child(QAccessibleInterface& part, const QString& name) {
     if (part.text(QAccessible::Name) == name) return &part;
@@ -46,18 +24,14 @@ QAccessibleInterface& accessible(const Form& form) {
     return *QAccessible::queryAccessibleInterface(shown_widget(form.name()));
 }
 
-TEST(DialogAccessibility, NamesWhatTakesTheKeyboard) {
+TEST(DialogAccessibility, NamesControls) {
     InnerGame game(26);
     high_score_place = none;
-    for (Form* form : std::initializer_list<Form*>{&frmFeatures, &frmBestScore, &frmyouwin, &frmError})
-        form->show();
-    EXPECT_EQ(
-        keyboard_names(frmFeatures).join(", "),
-        "Animate cards, Background Color, Cancel, Display Messages, Mid-Earth, Misty, OK, Pedal, Roman, "
-        "Rose, Scale Cards To Fit Window, Stained, Text Color");
-    EXPECT_EQ(keyboard_names(frmBestScore).join(", "), "Clear Score, OK");
-    EXPECT_EQ(keyboard_names(frmyouwin).join(", "), "Your Name");
-    EXPECT_EQ(keyboard_names(frmError).join(", "), "Close Game, Resume Next");
+    frmBestScore.show();
+    frmBestScore.lblGamesPlayed.set_caption("4");
+    EXPECT_TRUE(find_child(accessible(frmBestScore), "Games Played: 4"));
+    frmyouwin.show();
+    EXPECT_EQ(accessible(frmyouwin).text(QAccessible::Name), "Tarnwick");
     EXPECT_EQ(find_child(accessible(frmyouwin), "Congratulations")->role(), QAccessible::Grouping);
     EXPECT_TRUE(find_child(accessible(frmyouwin), "Logo of Tarnwick"));
     // The label beside a field is known for one.
@@ -66,21 +40,7 @@ TEST(DialogAccessibility, NamesWhatTakesTheKeyboard) {
     const auto tied = name_box->relations(QAccessible::Labelled);
     ASSERT_EQ(tied.size(), 1);
     EXPECT_EQ(tied.front().first->role(), QAccessible::EditableText);
-}
-
-TEST(DialogAccessibility, ReadsStatisticsInFull) {
-    InnerGame game(26);
-    const std::string name = "Wilhelmina Featherstonehaugh-Cholmondeley of Upper Tarnwick by the Water";
-    game.save("high score 1", "150");
-    game.save("high score name 1", name);
-    game.save("games played", "3");
-    frmBestScore.show();
-    const QString text = read_out(accessible(frmBestScore));
-    const QString row = "1.; Score: 150; Name: " + to_qt(name) + "; Date: ; 2.; Score: 0; ";
-    EXPECT_TRUE(text.contains(row)) << text.toStdString();
-    EXPECT_TRUE(text.contains("Games Played: 3; ")) << text.toStdString();
-    frmBestScore.lblGamesPlayed.set_caption("4");
-    EXPECT_TRUE(read_out(accessible(frmBestScore)).contains("Games Played: 4; "));
+    EXPECT_EQ(tied.front().first->text(QAccessible::Name), "Your Name");
 }
 
 TEST(DialogAccessibility, PressesPicturesAndDescribesSwatches) {
@@ -94,14 +54,6 @@ TEST(DialogAccessibility, PressesPicturesAndDescribesSwatches) {
     EXPECT_EQ(swatch.text(QAccessible::Description), "green");
     frmFeatures.txtBackColor.set_colors(color_of(1, 2, 254), color_of(1, 2, 254));
     EXPECT_EQ(swatch.text(QAccessible::Description), "#0102fe");
-    bool opened = false;
-    QTimer closer;
-    QObject::connect(&closer, &QTimer::timeout, &closer, [&opened] {
-        if (QWidget* picker = QApplication::activeModalWidget()) opened = picker->close();
-    });
-    closer.start(10);
-    press(swatch);
-    EXPECT_TRUE(comes_true([&opened] { return opened; })) << "the colour picker";
 }
 
 TEST(DialogAccessibility, EntersANameOfAnyLength) {

@@ -206,7 +206,7 @@ TEST_F(Locked, TheProgramSavesWithoutThePlayerDoingAnythingAndWritesNoDefault) {
     frmBestScore.close();
     frmcards.mnuSetings.choose();
     EXPECT_TRUE(frmFeatures.optCardBack(0).on()) << "the usual one stands in";
-    frmFeatures.chkDisplayMes.set_checked(false);
+    frmFeatures.chkDisplayMes.click();
     holder.reset();
     frmFeatures.cmdOk.click();
     desktop.advance(1500);

@@ -74,10 +74,10 @@ TEST_F(SettingsDialog, SavesAndAppliesTheChoices) {
     frmFeatures.optCardBack(2).click();
     EXPECT_EQ(bordered_back(), 2);
     // A click on a back chooses it like its option button.
-    frmFeatures.ImgCardBacks(5).events().click(5);
+    frmFeatures.ImgCardBacks(5).click();
     EXPECT_EQ(bordered_back(), 5);
     for (CheckBox* box : {&frmFeatures.chkScaleCards, &frmFeatures.chkAnamate, &frmFeatures.chkDisplayMes}) {
-        box->set_checked(false);
+        box->click();
     }
     EXPECT_EQ(stored(), "- - - - - - ") << "nothing is saved yet";
     frmFeatures.cmdOk.click();
@@ -85,7 +85,7 @@ TEST_F(SettingsDialog, SavesAndAppliesTheChoices) {
     EXPECT_EQ(card_scale, 1);
     EXPECT_EQ(display_faults(), "");
     open();
-    frmFeatures.chkScaleCards.set_checked(true);
+    frmFeatures.chkScaleCards.click();
     frmFeatures.cmdOk.click();
     EXPECT_EQ(play.stored("scale cards"), "True");
     EXPECT_EQ(card_scale, 1.5F);
