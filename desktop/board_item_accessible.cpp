@@ -14,8 +14,7 @@ namespace {
 // Nobody else is at work with the window: no dialog or menu is open, and nothing is dragged.
 bool takes_clicks(const Form& form) {
     return form.accepts_input() && !desktop().in_event() && !form.mouse().dragged() &&
-           QApplication::mouseButtons() == Qt::NoButton && !QApplication::activeModalWidget() &&
-           !QApplication::activePopupWidget();
+           QApplication::mouseButtons() == Qt::NoButton && !QApplication::activePopupWidget();
 }
 
 // A place where a click reaches the widget, that is, where no other one lies over it. A click nearer to its

@@ -1,7 +1,6 @@
 #include "desktop/dialog_accessible.h"
 
 #include <QAccessibleWidget>
-#include <QApplication>
 #include <QWidget>
 
 #include "platform/desktop.h"
@@ -21,7 +20,7 @@ class PressableAccessible : public QAccessibleWidget {
         QMetaObject::invokeMethod(
             widget(),
             [pressed = widget()] {
-                if (desktop().in_event() || QApplication::activeModalWidget()) return;
+                if (desktop().in_event()) return;
                 dynamic_cast<Pressable&>(*pressed).press();
             },
             Qt::QueuedConnection);

@@ -1,4 +1,3 @@
-#include <QApplication>
 #include <QCheckBox>
 #include <QKeyEvent>
 #include <QPushButton>
@@ -23,10 +22,7 @@ class ButtonControl : public DialogControl {
   public:
     ButtonControl(Button& button, QPushButton* native)
         : DialogControl(native), button_(button), native_(*native) {
-        QObject::connect(native, &QPushButton::clicked, native, [&button] {
-            // Screen readers and their like reach the button even while a message waits in front of it.
-            if (!QApplication::activeModalWidget()) button.click();
-        });
+        QObject::connect(native, &QPushButton::clicked, native, [&button] { button.click(); });
     }
 
     void sync(qreal) override {

@@ -185,7 +185,7 @@ void QtDesktop::hand_on_keyboard() {
     QTimer::singleShot(a_moment, &timer_, [this] { hand_on_keyboard(); });
 }
 
-MessageAnswer QtDesktop::show_message(const Message& message) {
+void QtDesktop::show_message(const Message& message) {
     const QPointer<QMessageBox> box = new QMessageBox(front_window());
     box->setWindowTitle(to_qt(message.title));
     box->setTextFormat(Qt::PlainText);
@@ -193,42 +193,29 @@ MessageAnswer QtDesktop::show_message(const Message& message) {
     const bool can_cancel = message.buttons == MessageButtons::ok_cancel;
     box->setStandardButtons(can_cancel ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
     box->setDefaultButton(QMessageBox::Ok);
-    const bool confirmed = ask(*box) == QMessageBox::Ok;
+    const bool confirmed = run_question(*box) == QMessageBox::Ok;
     delete box;
-    // The message may have been shown outside of any event, so that no event's end comes after it.
-    QMetaObject::invokeMethod(
-        &timer_,
-        [this] {
-            if (!in_event()) event_ended();
-        },
-        Qt::QueuedConnection);
-    return confirmed ? MessageAnswer::ok : MessageAnswer::cancel;
+    answered(confirmed ? MessageAnswer::ok : MessageAnswer::cancel);
 }
 
 void QtDesktop::unheard(const Message& message) { write_message(message); }
 
-std::optional<Color> QtDesktop::pick_color(const std::string& title) {
-    if (!attended()) return std::nullopt;
+void QtDesktop::show_color_picker(const std::string& title) {
     const QPointer<QColorDialog> dialog = make_color_picker(Qt::white, to_qt(title), front_window());
-    const bool picked = ask(*dialog) == QDialog::Accepted;
-    const std::optional<Color> color =
-        picked && dialog ? std::optional(from_qt(dialog->selectedColor())) : std::nullopt;
+    const bool picked = run_question(*dialog) == QDialog::Accepted && dialog;
+    const Color color = picked ? from_qt(dialog->selectedColor()) : black;
     delete dialog;
-    return color;
+    answered(picked ? MessageAnswer::ok : MessageAnswer::cancel, color);
 }
 
 // Runs a dialog in an event loop of its own. It may be gone afterwards, with the window that it belongs to.
-int QtDesktop::ask(QDialog& dialog) {
-    questions_.emplace_back(&dialog);
-    const int answer = dialog.exec();
-    questions_.pop_back();
-    return answer;
+int QtDesktop::run_question(QDialog& dialog) {
+    question_ = &dialog;
+    return dialog.exec();
 }
 
-void QtDesktop::cancel_questions() {
-    for (const QPointer<QDialog>& dialog : questions_) {
-        if (dialog) dialog->reject();
-    }
+void QtDesktop::take_back_question() {
+    if (question_) question_->reject();
 }
 
 bool QtDesktop::show_help(const std::string& file_name) {

@@ -34,7 +34,6 @@ class QtDesktop : public Desktop {
     void timers_changed() override;
     void windows_changed() override;
     void run_in_background(std::function<void()> action) override;
-    std::optional<Color> pick_color(const std::string& title) override;
     bool show_help(const std::string& file_name) override;
 
     /// Keeps track of the views; called by the views.
@@ -43,8 +42,6 @@ class QtDesktop : public Desktop {
     /// Lets the forms go on without their windows, which stay as they are: the display is lost, and nothing
     /// of the toolkit may be called any more.
     void abandon_windows();
-    /// Takes back the messages and colour pickers that wait for an answer; they count as cancelled.
-    void cancel_questions();
     /// Lets the dialogs of a window that is about to go stay on the screen without it.
     void detach_dialogs_of(const QWidget& window);
     /// The window that new dialogs belong to (not one that is about to go), and the front one of all; null
@@ -53,7 +50,9 @@ class QtDesktop : public Desktop {
     QWidget* front_window() const;
 
   protected:
-    MessageAnswer show_message(const Message& message) override;
+    void show_message(const Message& message) override;
+    void show_color_picker(const std::string& title) override;
+    void take_back_question() override;
     void unheard(const Message& message) override;
     void event_ended() override;
 
@@ -62,13 +61,13 @@ class QtDesktop : public Desktop {
     void tick();
     void settle_windows();
     void hand_on_keyboard();
-    int ask(QDialog& dialog);
+    int run_question(QDialog& dialog);
 
     QTimer timer_;
     QTimer background_;
     std::function<void()> background_action_;
     std::vector<WindowView*> views_;  ///< in the order in which the windows were loaded
-    std::vector<QPointer<QDialog>> questions_;
+    QPointer<QDialog> question_;
     std::unique_ptr<HelpWindow> help_;
 };
 

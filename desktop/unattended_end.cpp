@@ -17,7 +17,6 @@ UnattendedEnd::UnattendedEnd(QtDesktop& desktop) : desktop_(desktop) {
 
 void UnattendedEnd::begin() {
     desktop_.leave_unattended();
-    desktop_.cancel_questions();
     if (desktop_.in_event()) {
         QTimer::singleShot(0, this, [this] { begin(); });
         return;

@@ -84,7 +84,7 @@ bool to_ace(const Integer& target, const Integer& top_rank, const Integer& benea
             std::string message;
             then("find words for it", [&] { message = ace_pile_message(top_rank, beneath_rank, pile_suit); });
             if (message.empty()) return;
-            then("show the message", [&] { desktop().message_box({"Tarnwick", message}); });
+            then("show the message", [&] { desktop().notify({"Tarnwick", message}); });
         }
     });
     return placed;

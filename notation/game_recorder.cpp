@@ -74,8 +74,7 @@ void GameRecorder::write(const Action& action) {
     } catch (const std::runtime_error& failure) {
         stream_ = nullptr;
         desktop().after_event([happened = printable(failure.what())] {
-            desktop().message_box(
-                {"Tarnwick", happened + ": it ends here, and the game goes on without it."});
+            desktop().notify({"Tarnwick", happened + ": it ends here, and the game goes on without it."});
         });
     }
 }

@@ -1,5 +1,7 @@
 #include "platform/common_dialog.h"
 
+#include <utility>
+
 #include "platform/desktop.h"
 
 namespace tarnwick {
@@ -9,13 +11,17 @@ void CommonDialog::show_help() {
     if (!desktop().show_help(help_file_)) throw CommonDialogError("no help file " + help_file_);
 }
 
-void CommonDialog::show_color() {
-    const std::optional<Color> picked = desktop().pick_color(title_);
-    if (picked) {
-        color_ = *picked;
-    } else if (cancel_error_) {
-        throw CommonDialogError("cancelled");
-    }
+void CommonDialog::show_color(std::function<void()> then) {
+    desktop().pick_color(title_, [this, then = std::move(then)](std::optional<Color> picked) {
+        cancelled_ = !picked;
+        color_ = picked.value_or(color_);
+        then();
+    });
+}
+
+Color CommonDialog::color() const {
+    if (cancelled_ && cancel_error_) throw CommonDialogError("cancelled");
+    return color_;
 }
 
 }  // namespace tarnwick

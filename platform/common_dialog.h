@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <stdexcept>
 #include <string>
 
@@ -28,9 +29,10 @@ class CommonDialog {
     void set_flags(int flags) { flags_ = flags; }
     /// The title of the colour dialog: what gets the colour.
     void set_title(const std::string& title) { title_ = title; }
-    /// Lets the player pick a colour, which color() tells then. Throws CommonDialogError on cancel.
-    void show_color();
-    Color color() const { return color_; }
+    /// Lets the player pick a colour, and goes on when that is done.
+    void show_color(std::function<void()> then);
+    /// The colour that was picked last. Throws CommonDialogError when the player has cancelled instead.
+    Color color() const;
 
     /// The object as new.
     void reset() { *this = {}; }
@@ -42,6 +44,7 @@ class CommonDialog {
     int flags_ = 0;
     Color color_ = black;
     bool cancel_error_ = false;
+    bool cancelled_ = false;
 };
 
 /// The help command that opens the named file at its contents.

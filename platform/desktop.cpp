@@ -2,6 +2,7 @@
 
 #include <exception>
 #include <stdexcept>
+#include <utility>
 
 #include "platform/form.h"
 
@@ -19,15 +20,67 @@ Desktop& desktop() {
 
 void use_desktop(Desktop* desktop) { in_use = desktop; }
 
-MessageAnswer Desktop::message_box(const Message& message) {
+void Desktop::ask(const Message& message, std::function<void(MessageAnswer)> then) {
+    put({[this, message] { show_message(message); }, [this, message] { unheard(message); },
+         [then = std::move(then)](MessageAnswer answer, Color) {
+             if (then) then(answer);
+         }});
+}
+
+void Desktop::pick_color(const std::string& title, std::function<void(std::optional<Color>)> then) {
+    put({[this, title] { show_color_picker(title); }, [] {},
+         [then = std::move(then)](MessageAnswer answer, Color color) {
+             then(answer == MessageAnswer::ok ? std::optional(color) : std::nullopt);
+         }});
+}
+
+void Desktop::put(Question question) {
+    waiting_.push_back(std::move(question));
+    open_next();
+}
+
+void Desktop::open_next() {
+    if (asking_ || waiting_.empty()) return;
+    const Question next = std::move(waiting_.front());
+    waiting_.pop_front();
+    then_ = next.then;
+    asking_ = true;
     if (!attended_) {
-        unheard(message);
-        return MessageAnswer::cancel;
+        next.tell_nobody();
+        answered(MessageAnswer::cancel);
+        return;
     }
-    ++depth_;
-    const MessageAnswer answer = show_message(message);
-    --depth_;
-    return answer;
+    try {
+        next.show();
+    } catch (...) {
+        // Nobody could answer what is not seen.
+        answered(MessageAnswer::cancel);
+        throw;
+    }
+}
+
+void Desktop::answered(MessageAnswer answer, Color color) {
+    if (!asking_) return;
+    asking_ = false;
+    const auto then = std::exchange(then_, {});
+    event([&] {
+        after_event([then, answer, color] { then(answer, color); });
+        after_event([this] { open_next(); });
+    });
+}
+
+void Desktop::cancel_questions() {
+    const auto waiting = std::exchange(waiting_, {});
+    if (asking_) take_back_question();
+    for (const Question& question : waiting) {
+        question.tell_nobody();
+        after_event([then = question.then] { then(MessageAnswer::cancel, black); });
+    }
+}
+
+void Desktop::leave_unattended() {
+    attended_ = false;
+    cancel_questions();
 }
 
 void Desktop::event(const std::function<void()>& handler) {
@@ -45,7 +98,7 @@ void Desktop::run_guarded(const std::function<void()>& handler) {
         const std::string what = std::string("Something unexpected happened (") + failure.what() + ")";
         const char* advice = attended_ ? ". You can play on, or start a new game with F2."
                                        : " while the program ended: its last game may not be counted.";
-        message_box({"Tarnwick", what + advice, MessageButtons::ok});
+        notify({"Tarnwick", what + advice});
     }
 }
 

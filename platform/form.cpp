@@ -96,6 +96,8 @@ void Form::unload() {
     run(on_unload);
 }
 
+bool Form::accepts_input() const { return loaded_ && visible_ && enabled_ && !desktop().asking(); }
+
 void Form::close() {
     if (accepts_input()) desktop().event([this] { unload(); });
 }

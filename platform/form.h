@@ -71,7 +71,8 @@ class Form {
     bool enabled() const { return enabled_; }
     /// A disabled window is drawn but takes no input at all. Does nothing to a window that is not loaded.
     void set_enabled(bool enabled);
-    bool accepts_input() const { return loaded_ && visible_ && enabled_; }
+    /// Not while a question is open, whichever window it is about.
+    bool accepts_input() const;
     /// Brings the window to the front of the screen and gives it the keyboard.
     void raise();
 

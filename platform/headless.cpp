@@ -15,19 +15,21 @@ HeadlessDesktop::HeadlessDesktop(PixelSize screen) : screen_(screen) { use_deskt
 
 HeadlessDesktop::~HeadlessDesktop() { use_desktop(nullptr); }
 
-std::optional<Color> HeadlessDesktop::pick_color(const std::string&) {
-    if (colors_.empty()) return std::nullopt;
+void HeadlessDesktop::show_color_picker(const std::string&) {
+    if (leaves_open_) return;
+    if (colors_.empty()) return answered(MessageAnswer::cancel);
     const Color color = colors_.front();
     colors_.pop_front();
-    return color;
+    answered(MessageAnswer::ok, color);
 }
 
-MessageAnswer HeadlessDesktop::show_message(const Message& message) {
+void HeadlessDesktop::show_message(const Message& message) {
     messages_.push_back(message);
-    if (answers_.empty()) return MessageAnswer::ok;
+    if (leaves_open_) return;
+    if (answers_.empty()) return answered(MessageAnswer::ok);
     const MessageAnswer answer = answers_.front();
     answers_.pop_front();
-    return answer;
+    answered(answer);
 }
 
 void HeadlessDesktop::run_in_background(std::function<void()> action) {
@@ -49,7 +51,9 @@ void HeadlessDesktop::advance(std::int64_t milliseconds) {
 }
 
 void HeadlessDesktop::advance_timers(std::int64_t end) {
-    for (auto due = timer_queue().next_due(); due && *due <= end; due = timer_queue().next_due()) {
+    while (!in_event()) {
+        const auto due = timer_queue().next_due();
+        if (!due || *due > end) break;
         now_ = std::max(now_, *due);
         timer_queue().run_due();
     }

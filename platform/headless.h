@@ -22,7 +22,6 @@ class HeadlessDesktop : public Desktop {
     std::string short_date() const override { return date_; }
     std::unique_ptr<FormView> make_view(Form&) override { return nullptr; }
     void run_in_background(std::function<void()> action) override;
-    std::optional<Color> pick_color(const std::string& title) override;
     /// There are no help files.
     bool show_help(const std::string&) override { return false; }
 
@@ -32,16 +31,21 @@ class HeadlessDesktop : public Desktop {
     void sleep(std::int64_t milliseconds);
 
     void set_date(const std::string& date) { date_ = date; }
-    /// Answers for the message boxes and colour pickers to come, in order; without one, OK and cancel.
+    /// Answers for the messages and colour pickers to come, in order; without one, OK and cancel.
     void answer_message(MessageAnswer answer) { answers_.push_back(answer); }
     void answer_color(Color color) { colors_.push_back(color); }
+    /// From now on messages and colour pickers stay open until they are answered.
+    void leave_questions_open() { leaves_open_ = true; }
+    /// Answers the open one; of a colour picker, OK and the colour.
+    void answer(MessageAnswer answer, Color color = black) { answered(answer, color); }
 
     /// The messages shown so far.
     const std::vector<Message>& messages() const { return messages_; }
     void forget_messages() { messages_.clear(); }
 
   protected:
-    MessageAnswer show_message(const Message& message) override;
+    void show_message(const Message& message) override;
+    void show_color_picker(const std::string& title) override;
 
   private:
     void advance_timers(std::int64_t end);
@@ -54,6 +58,7 @@ class HeadlessDesktop : public Desktop {
     std::deque<MessageAnswer> answers_;
     std::deque<Color> colors_;
     std::vector<Message> messages_;
+    bool leaves_open_ = false;
 };
 
 }  // namespace tarnwick

@@ -46,9 +46,9 @@ Timer* TimerQueue::most_overdue(std::int64_t now) const {
 }
 
 void TimerQueue::run_due() {
-    if (desktop().in_event()) return;
     const std::int64_t now = desktop().now();
-    while (Timer* timer = most_overdue(now)) {
+    // A tick may ask a question, for which the others wait.
+    for (Timer* timer = nullptr; !desktop().in_event() && (timer = most_overdue(now));) {
         // Ticks keep their rhythm, but those that a late clock has missed are not made up for.
         timer->due_ = std::max(timer->due_ + timer->interval_, now + 1);
         if (timer->on_tick) desktop().event(timer->on_tick);

@@ -71,7 +71,7 @@ void tell(const std::vector<std::string>& keys, bool stored) {
         stored ? "These stored values could not be read and were set back to the usual ones: " + list +
                      "; what was there is kept in the same file, marked as damaged."
                : "These stored values cannot be read, and the usual ones stand in for them: " + list + ".";
-    desktop().after_event([text] { desktop().message_box({"Tarnwick", text}); });
+    desktop().after_event([text] { desktop().notify({"Tarnwick", text}); });
 }
 
 }  // namespace

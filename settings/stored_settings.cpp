@@ -16,7 +16,7 @@ std::set<std::string>& told() {
 
 void tell_once(const std::string& sentence) {
     if (!told().insert(sentence).second) return;
-    desktop().after_event([sentence] { desktop().message_box({"Tarnwick", sentence}); });
+    desktop().after_event([sentence] { desktop().notify({"Tarnwick", sentence}); });
 }
 
 template <class Value, class Convert>

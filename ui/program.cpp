@@ -70,7 +70,7 @@ void start_program(Store& store) {
     });
     attach_store(store);
     store.listen([](const std::string& sentence) {
-        desktop().after_event([sentence] { desktop().message_box({"Tarnwick", sentence}); });
+        desktop().after_event([sentence] { desktop().notify({"Tarnwick", sentence}); });
     });
 }
 
@@ -86,6 +86,8 @@ void shut_down_program() {
 }
 
 void end_program() {
+    // The next program is not to be told the answers.
+    desktop().cancel_questions();
     for (Form* form : all_windows()) {
         form->on_unload = nullptr;
         form->unload();

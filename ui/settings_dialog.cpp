@@ -91,16 +91,9 @@ void load() {
 }
 
 // A colour that is picked is saved at once; cancelling, or any failure, leaves everything as it is.
-void pick_color(TextBox& swatch, const char* key) {
-    frmCommon.load();
-    CommonDialog& dialog = frmCommon.CommonDialog1;
-    dialog.set_title(swatch.label()->caption());
-    dialog.set_cancel_error(true);
+void take_color(TextBox& swatch, const char* key) {
     try {
-        constexpr int start_with_color = 1;
-        dialog.set_flags(start_with_color);
-        dialog.show_color();
-        const Color color = dialog.color();
+        const Color color = frmCommon.CommonDialog1.color();
         save_setting(key, text_of(color));
         swatch.set_colors(color, color);
         frmCommon.unload();
@@ -109,6 +102,20 @@ void pick_color(TextBox& swatch, const char* key) {
     }
     // What was typed into the swatch has done its work.
     swatch.set_text("");
+}
+
+void pick_color(TextBox& swatch, const char* key) {
+    frmCommon.load();
+    CommonDialog& dialog = frmCommon.CommonDialog1;
+    dialog.set_title(swatch.label()->caption());
+    dialog.set_cancel_error(true);
+    constexpr int start_with_color = 1;
+    dialog.set_flags(start_with_color);
+    try {
+        dialog.show_color([&swatch, key] { take_color(swatch, key); });
+    } catch (const std::exception&) {
+        // Without its dialog nothing can be picked.
+    }
 }
 
 void attach_swatch(TextBox& swatch, const char* key) {

@@ -61,9 +61,6 @@ void unload() {
 }
 
 void clear_score() {
-    const MessageAnswer answer = desktop().message_box(
-        {"Clear Scores?", "Are you sure you want to clear the high scores?", MessageButtons::ok_cancel});
-    if (answer != MessageAnswer::ok) return;
     settings_transaction([] {
         save_setting(key_average_score, "0");
         save_setting(key_games_played, "0");
@@ -82,6 +79,14 @@ void clear_score() {
     }
 }
 
+void ask_to_clear_score() {
+    desktop().ask(
+        {"Clear Scores?", "Are you sure you want to clear the high scores?", MessageButtons::ok_cancel},
+        [](MessageAnswer answer) {
+            if (answer == MessageAnswer::ok) clear_score();
+        });
+}
+
 void close() { frmBestScore.unload(); }
 
 }  // namespace
@@ -91,7 +96,7 @@ void attach_statistics_dialog() {
     frmBestScore.on_unload = unload;
     frmBestScore.on_click = close;
     frmBestScore.cmdOk.on_click = close;
-    frmBestScore.cmdClearScore.on_click = clear_score;
+    frmBestScore.cmdClearScore.on_click = ask_to_clear_score;
 }
 
 }  // namespace tarnwick

@@ -222,7 +222,7 @@ TEST(WaysToEnd, AMessageBehindTheLastWindowIsReadBeforeTheProgramEnds) {
         if (seen) message->close();
     });
     frmcards.on_unload = [] {
-        desktop().after_event([] { desktop().message_box({"Tarnwick", "Something is lost."}); });
+        desktop().after_event([] { desktop().notify({"Tarnwick", "Something is lost."}); });
     };
     frmcards.close();
     EXPECT_TRUE(seen);

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <memory>
+
 #include "notation/position_text.h"
 #include "platform/random.h"
 #include "state/soundness.h"
@@ -19,8 +21,8 @@ TEST(Random, OfTheSystemDiffersFromTimeToTime) {
 }
 
 TEST(Deal, NumberOneIsTheSameEverywhere) {
-    Play play;
-    play.start(1);
+    auto play = std::make_unique<Play>();
+    play->start(1);
     EXPECT_TRUE(
         position_text().starts_with("0: 8♠\n"
                                     "1: [K♠] Q♥'\n"
@@ -36,6 +38,7 @@ TEST(Deal, NumberOneIsTheSameEverywhere) {
     EXPECT_EQ(state_faults() + display_faults(), "") << "every card of both packs lies there";
     frmcards.mnuNew.choose();
     const std::string next_deal = position_text();
+    play.reset();
     Play another;
     another.start(2);
     EXPECT_EQ(position_text(), next_deal) << "the next deal takes the next number";

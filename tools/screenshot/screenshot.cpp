@@ -43,9 +43,9 @@ const std::map<QString, std::function<void()>>& windows() {
         {"help", [] { frmcards.mnuAbout.choose(); }},
         {"message",
          [] {
-             desktop().message_box({"Tarnwick", "This pile needs the other Seven of Hearts."});
+             desktop().notify({"Tarnwick", "This pile needs the other Seven of Hearts."});
          }},
-        {"colour", [] { desktop().pick_color("Background Color"); }},
+        {"colour", [] { desktop().pick_color("Background Color", [](auto) {}); }},
     };
     return all;
 }
