@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform/graphics.h"
 #include "platform/image.h"
-#include "platform/picture.h"
 #include "state/integer.h"
 
 namespace tarnwick {

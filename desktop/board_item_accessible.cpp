@@ -34,7 +34,7 @@ std::optional<QPointF> free_spot(const Widget& widget) {
 }
 
 void click(BoardWidget& board, const Widget& widget, int times) {
-    Form& form = widget.form();
+    Form& form = board.form();
     for (int i = 0; i < times; ++i) {
         if (!takes_clicks(form)) return;
         const std::optional<QPointF> spot = free_spot(widget);

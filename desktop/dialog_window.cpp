@@ -131,7 +131,7 @@ void DialogWindow::widget_changed(const Widget& widget) {
     place(widget, control);
     control.sync(scale_);
     control.native()->setVisible(widget.visible());
-    if (form_.is_in_front(widget)) control.native()->raise();
+    if (form_.is_in_front(widget.stacking())) control.native()->raise();
 }
 
 void DialogWindow::place(const Widget& widget, const DialogControl& control) {

@@ -4,8 +4,7 @@
 #include <QRectF>
 #include <QString>
 
-#include "platform/color.h"
-#include "platform/geometry.h"
+#include "platform/graphics.h"
 
 namespace tarnwick {
 

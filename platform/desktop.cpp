@@ -4,8 +4,6 @@
 #include <stdexcept>
 #include <utility>
 
-#include "platform/form.h"
-
 namespace tarnwick {
 namespace {
 
