@@ -15,14 +15,26 @@ int main(int argc, char** argv) {
     const int screen = DefaultScreen(display);
     const int width = std::atoi(argv[1]);
     const int height = std::atoi(argv[2]);
-    const Window window = XCreateSimpleWindow(
-        display, DefaultRootWindow(display), 0, 0, static_cast<unsigned>(DisplayWidth(display, screen) - 18),
-        static_cast<unsigned>(DisplayHeight(display, screen) - 60), 0, 0, 0x008000);
+    const Window window = XCreateSimpleWindow(display,
+                                              DefaultRootWindow(display),
+                                              0,
+                                              0,
+                                              static_cast<unsigned>(DisplayWidth(display, screen) - 18),
+                                              static_cast<unsigned>(DisplayHeight(display, screen) - 60),
+                                              0,
+                                              0,
+                                              0x008000);
     XSelectInput(display, window, ButtonPressMask | ButtonMotionMask);
     // By this the process that has the window is known.
     const long process = getpid();
-    XChangeProperty(display, window, XInternAtom(display, "_NET_WM_PID", False), XA_CARDINAL, 32,
-                    PropModeReplace, reinterpret_cast<const unsigned char*>(&process), 1);
+    XChangeProperty(display,
+                    window,
+                    XInternAtom(display, "_NET_WM_PID", False),
+                    XA_CARDINAL,
+                    32,
+                    PropModeReplace,
+                    reinterpret_cast<const unsigned char*>(&process),
+                    1);
     XMapWindow(display, window);
     const GC card = XCreateGC(display, window, 0, nullptr);
     XSetForeground(display, card, 0xFFFFFF);

@@ -55,8 +55,8 @@ class Pointer {
     // Many moves on the way, which the program finds in its queue all at once.
     void flood(Spot to) {
         for (int i = 1; i <= flood_moves; ++i) {
-            XTestFakeMotionEvent(display_, -1, to.x + (flood_moves - i) % 40, to.y - (flood_moves - i) % 40,
-                                 CurrentTime);
+            XTestFakeMotionEvent(
+                display_, -1, to.x + (flood_moves - i) % 40, to.y - (flood_moves - i) % 40, CurrentTime);
         }
         XSync(display_, False);
     }

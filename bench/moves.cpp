@@ -29,7 +29,8 @@ class TimedGame {
         const XPlace window = game_.screen().place(game_.window());
         return {window.x + static_cast<int>(place.left + place.width / 4),
                 window.y + game_.board().y + static_cast<int>(place.top + place.height / 4),
-                static_cast<int>(place.width / 2), static_cast<int>(place.height / 2)};
+                static_cast<int>(place.width / 2),
+                static_cast<int>(place.height / 2)};
     }
 
     // Milliseconds from the begin of an action until that part of the screen has changed.

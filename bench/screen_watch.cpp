@@ -19,9 +19,14 @@ ScreenWatch::~ScreenWatch() = default;
 
 std::vector<char> ScreenWatch::look() const {
     Display* display = connection_->display;
-    XImage* image =
-        XGetImage(display, DefaultRootWindow(display), part_.x, part_.y, static_cast<unsigned>(part_.width),
-                  static_cast<unsigned>(part_.height), AllPlanes, ZPixmap);
+    XImage* image = XGetImage(display,
+                              DefaultRootWindow(display),
+                              part_.x,
+                              part_.y,
+                              static_cast<unsigned>(part_.width),
+                              static_cast<unsigned>(part_.height),
+                              AllPlanes,
+                              ZPixmap);
     if (!image) throw std::runtime_error("that part of the screen cannot be seen");
     const std::ptrdiff_t size = std::ptrdiff_t{image->bytes_per_line} * image->height;
     std::vector<char> pixels(image->data, image->data + size);

@@ -38,8 +38,14 @@ struct Figures {
 // The colour at a place that every window of nearly the screen's size covers, below the cards.
 unsigned long colour_of_screen(Display* display) {
     const int screen = DefaultScreen(display);
-    XImage* image = XGetImage(display, DefaultRootWindow(display), DisplayWidth(display, screen) / 2,
-                              DisplayHeight(display, screen) - 120, 1, 1, AllPlanes, ZPixmap);
+    XImage* image = XGetImage(display,
+                              DefaultRootWindow(display),
+                              DisplayWidth(display, screen) / 2,
+                              DisplayHeight(display, screen) - 120,
+                              1,
+                              1,
+                              AllPlanes,
+                              ZPixmap);
     const unsigned long colour = XGetPixel(image, 0, 0);
     XDestroyImage(image);
     return colour;

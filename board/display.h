@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/graphics.h"
 #include "platform/image.h"
 #include "state/checked.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/color.h"
+#include "platform/graphics.h"
 
 namespace tarnwick {
 

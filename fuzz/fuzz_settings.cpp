@@ -21,9 +21,15 @@ namespace {
 using namespace tarnwick;
 
 std::vector<std::string> all_keys() {
-    std::vector<std::string> keys{key_card_back,    key_back_color,   key_text_color,
-                                  key_scale_cards,  key_show_message, key_anamate,
-                                  key_games_played, key_games_won,    key_average_score};
+    std::vector<std::string> keys{key_card_back,
+                                  key_back_color,
+                                  key_text_color,
+                                  key_scale_cards,
+                                  key_show_message,
+                                  key_anamate,
+                                  key_games_played,
+                                  key_games_won,
+                                  key_average_score};
     for (int place = 1; place <= 5; ++place) {
         keys.push_back(key_high_score(place));
         keys.push_back(key_high_score_name(place));

@@ -46,9 +46,10 @@ void write_entry(int place, int points, const std::string& name, const std::stri
 
 void tell_beaten(int points) {
     desktop().after_event([points] {
-        desktop().notify({"Tarnwick", "Your score of " + text_of(points) +
-                                          " is not among the best scores any more: better ones were "
-                                          "entered in another window meanwhile."});
+        desktop().notify({"Tarnwick",
+                          "Your score of " + text_of(points) +
+                              " is not among the best scores any more: better ones were "
+                              "entered in another window meanwhile."});
     });
 }
 

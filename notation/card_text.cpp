@@ -9,8 +9,8 @@
 namespace tarnwick {
 namespace {
 
-constexpr std::array<std::string_view, 13> rank_texts{"A", "2", "3",  "4", "5", "6", "7",
-                                                      "8", "9", "10", "J", "Q", "K"};
+constexpr std::array<std::string_view, 13> rank_texts{
+    "A", "2", "3", "4", "5", "6", "7", "8", "9", "10", "J", "Q", "K"};
 constexpr std::array<std::string_view, 4> suit_signs{"♥", "♠", "♦", "♣"};
 constexpr std::array<std::string_view, 4> suit_letters{"h", "s", "d", "c"};
 

@@ -4,7 +4,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "platform/color.h"
+#include "platform/graphics.h"
 
 namespace tarnwick {
 

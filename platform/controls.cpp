@@ -1,7 +1,6 @@
 #include "platform/controls.h"
 
 #include "platform/desktop.h"
-#include "platform/form.h"
 
 namespace tarnwick {
 namespace {

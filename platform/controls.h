@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-#include "platform/color.h"
+#include "platform/graphics.h"
 #include "platform/widget.h"
 
 namespace tarnwick {
@@ -11,7 +11,7 @@ namespace tarnwick {
 /// The outline of a rectangle, drawn under the images.
 class Outline : public Widget {
   public:
-    explicit Outline(Form& form) : Widget(form, WidgetKind::outline) {}
+    explicit Outline(Window& window) : Widget(window, WidgetKind::outline) {}
 
     Color border_color() const { return border_color_; }
     void set_border_color(Color color);
@@ -33,7 +33,7 @@ struct Font {
 /// A line or two of text. Without colours of its own it takes those of the desktop.
 class Label : public Widget {
   public:
-    explicit Label(Form& form) : Widget(form, WidgetKind::label) {}
+    explicit Label(Window& window) : Widget(window, WidgetKind::label) {}
 
     const std::string& caption() const { return caption_; }
     void set_caption(const std::string& caption);
@@ -61,7 +61,7 @@ class Label : public Widget {
 /// A box with a caption around other widgets.
 class Frame : public Widget {
   public:
-    explicit Frame(Form& form) : Widget(form, WidgetKind::frame) {}
+    explicit Frame(Window& window) : Widget(window, WidgetKind::frame) {}
 
     const std::string& caption() const { return caption_; }
     void set_caption(const std::string& caption);
@@ -73,7 +73,7 @@ class Frame : public Widget {
 /// A push button. Enter chooses the default one, Escape the cancelling one.
 class Button : public Widget {
   public:
-    explicit Button(Form& form) : Widget(form, WidgetKind::button) {}
+    explicit Button(Window& window) : Widget(window, WidgetKind::button) {}
 
     const std::string& caption() const { return caption_; }
     void set_caption(const std::string& caption);
@@ -95,7 +95,7 @@ class Button : public Widget {
 /// A box that is checked or not.
 class CheckBox : public Widget {
   public:
-    explicit CheckBox(Form& form) : Widget(form, WidgetKind::check_box) {}
+    explicit CheckBox(Window& window) : Widget(window, WidgetKind::check_box) {}
 
     const std::string& caption() const { return caption_; }
     void set_caption(const std::string& caption);
@@ -113,7 +113,7 @@ class CheckBox : public Widget {
 /// click.
 class OptionButton : public Widget {
   public:
-    explicit OptionButton(Form& form) : Widget(form, WidgetKind::option_button) {}
+    explicit OptionButton(Window& window) : Widget(window, WidgetKind::option_button) {}
 
     const std::string& caption() const { return caption_; }
     void set_caption(const std::string& caption);
@@ -132,7 +132,7 @@ class OptionButton : public Widget {
 /// One line of text that the user can edit.
 class TextBox : public Widget {
   public:
-    explicit TextBox(Form& form) : Widget(form, WidgetKind::text_box) {}
+    explicit TextBox(Window& window) : Widget(window, WidgetKind::text_box) {}
 
     const std::string& text() const { return text_; }
     /// Sets the text as the program does: no on_change.

@@ -4,8 +4,6 @@
 #include <stdexcept>
 #include <utility>
 
-#include "platform/form.h"
-
 namespace tarnwick {
 namespace {
 
@@ -21,14 +19,16 @@ Desktop& desktop() {
 void use_desktop(Desktop* desktop) { in_use = desktop; }
 
 void Desktop::ask(const Message& message, std::function<void(MessageAnswer)> then) {
-    put({[this, message] { show_message(message); }, [this, message] { unheard(message); },
+    put({[this, message] { show_message(message); },
+         [this, message] { unheard(message); },
          [then = std::move(then)](MessageAnswer answer, Color) {
              if (then) then(answer);
          }});
 }
 
 void Desktop::pick_color(const std::string& title, std::function<void(std::optional<Color>)> then) {
-    put({[this, title] { show_color_picker(title); }, [] {},
+    put({[this, title] { show_color_picker(title); },
+         [] {},
          [then = std::move(then)](MessageAnswer answer, Color color) {
              then(answer == MessageAnswer::ok ? std::optional(color) : std::nullopt);
          }});

@@ -7,14 +7,22 @@
 #include <optional>
 #include <string>
 
-#include "platform/color.h"
-#include "platform/geometry.h"
-#include "platform/message.h"
+#include "platform/graphics.h"
 
 namespace tarnwick {
 
 class Form;
 class FormView;
+
+enum class MessageButtons { ok, ok_cancel };
+enum class MessageAnswer { ok, cancel };
+
+/// A question or a notice in a small window that waits for an answer. OK is the default button.
+struct Message {
+    std::string title;
+    std::string text;
+    MessageButtons buttons = MessageButtons::ok;
+};
 
 /// What carries the windows out: the real desktop, or one that keeps them in memory. There is one at a time.
 class Desktop {

@@ -24,6 +24,19 @@ class Finally {
 
 }  // namespace
 
+void MenuEntry::set_visible(bool visible) {
+    if (visible == visible_) return;
+    visible_ = visible;
+    if (FormView* view = window_.view()) view->menu_changed();
+}
+
+void MenuEntry::choose() {
+    if (!visible_ || !window_.accepts_input() || !on_click) return;
+    // What an entry does may change what lies under the pointer: a drag ends with it.
+    window_.mouse().cancel();
+    desktop().event(on_click);
+}
+
 PixelSize frame_of(const Form& form) {
     constexpr PixelSize sizable_with_menu{2, 50};
     constexpr PixelSize dialog{6, 28};
@@ -35,11 +48,6 @@ Form::Form(std::string name) : name_(std::move(name)), mouse_(*this) {}
 // The windows are static and go when no desktop is left to close them: a view that nobody has taken by then,
 // because the process was ended from within the toolkit, must not be called any more.
 Form::~Form() { static_cast<void>(view_.release()); }
-
-std::uint64_t Form::add_widget(Widget& widget) {
-    widgets_.push_back(&widget);
-    return next_stacking();
-}
 
 void Form::run(const std::function<void()>& handler) const {
     if (handler) handler();
@@ -95,8 +103,6 @@ void Form::unload() {
     });
     run(on_unload);
 }
-
-bool Form::accepts_input() const { return loaded_ && visible_ && enabled_ && !desktop().asking(); }
 
 void Form::close() {
     if (accepts_input()) desktop().event([this] { unload(); });

@@ -2,32 +2,59 @@
 
 #include <cstdint>
 #include <functional>
-#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
-#include "platform/board_item.h"
-#include "platform/color.h"
-#include "platform/geometry.h"
-#include "platform/menu.h"
+#include "platform/graphics.h"
 #include "platform/mouse.h"
 #include "platform/widget.h"
+#include "platform/window.h"
 
 namespace tarnwick {
 
-/// What a desktop shows of one window. A window without a view (headless, or not loaded) is only kept in
-/// memory.
-class FormView {
+/// One entry of a menu. The ampersand in its caption marks its access key.
+class MenuEntry {
   public:
-    virtual ~FormView() = default;
-    /// A widget looks different, or lies elsewhere: it was seen at `before`.
-    virtual void widget_changed(const Widget& widget, const Rect& before) = 0;
-    /// The window was shown or hidden, enabled or disabled, resized or recoloured by the program.
-    virtual void form_changed() = 0;
-    virtual void menu_changed() = 0;
-    virtual void raise() = 0;
-    /// The lifted images were taken up, moved, or put down.
-    virtual void drag_changed() = 0;
+    /// `shortcut` is written as on the menu ("Ctrl+Q", "F2"), or empty.
+    MenuEntry(Window& window, std::string caption, std::string shortcut = {})
+        : window_(window), caption_(std::move(caption)), shortcut_(std::move(shortcut)) {}
+    MenuEntry(const MenuEntry&) = delete;
+    MenuEntry& operator=(const MenuEntry&) = delete;
+
+    const std::string& caption() const { return caption_; }
+    const std::string& shortcut() const { return shortcut_; }
+
+    bool visible() const { return visible_; }
+    void set_visible(bool visible);
+
+    std::function<void()> on_click;
+    /// What a desktop calls when the user chooses the entry; a hidden one and one of a disabled window do
+    /// nothing.
+    void choose();
+
+  private:
+    Window& window_;
+    std::string caption_;
+    std::string shortcut_;
+    bool visible_ = true;
+};
+
+/// A menu of the menu bar with its entries from top to bottom.
+struct Menu {
+    std::string caption;
+    std::vector<MenuEntry*> entries;
+};
+
+/// What one widget of a board means, for players who have the board read to them.
+struct BoardItem {
+    const Widget* widget = nullptr;
+    std::string name;
+    /// How many clicks make the widget act: 2 for a two-click event, 0 when none does.
+    int clicks = 0;
+    /// The number that the widget shows, if it shows one, and the largest it can become.
+    std::optional<int> value = std::nullopt;
+    int most = 0;
 };
 
 enum class WindowState { normal, minimized, maximized };
@@ -37,12 +64,10 @@ enum class FormBorder { sizable, fixed_dialog, tool_dialog };
 
 /// A window: first only a name, then loaded (its widgets as stored, then on_load), shown, and unloaded.
 /// What a window consists of is told by a subclass, what it does by the handlers attached to it.
-class Form {
+class Form : public Window {
   public:
     explicit Form(std::string name);
-    virtual ~Form();
-    Form(const Form&) = delete;
-    Form& operator=(const Form&) = delete;
+    ~Form() override;
 
     const std::string& name() const { return name_; }
 
@@ -55,8 +80,6 @@ class Form {
     /// Tells what the widgets of a board mean, in the order in which they are read out.
     std::function<std::vector<BoardItem>()> on_describe;
 
-    bool loaded() const { return loaded_; }
-    bool visible() const { return visible_; }
     /// Creates the window as stored and runs on_load; nothing when it is loaded already.
     void load();
     /// Shows the window without waiting for it, loading it first. The first display runs on_resize.
@@ -68,11 +91,8 @@ class Form {
     /// The close box: unloads the window unless it is disabled.
     void close();
 
-    bool enabled() const { return enabled_; }
     /// A disabled window is drawn but takes no input at all. Does nothing to a window that is not loaded.
     void set_enabled(bool enabled);
-    /// Not while a question is open, whichever window it is about.
-    bool accepts_input() const;
     /// Brings the window to the front of the screen and gives it the keyboard.
     void raise();
 
@@ -91,8 +111,7 @@ class Form {
     int width() const { return outer_.width * twips_per_pixel; }
     int height() const { return outer_.height * twips_per_pixel; }
     PixelSize outer_size() const { return outer_; }
-    /// Size inside frame and menu bar, in pixels.
-    PixelSize client_size() const;
+    PixelSize client_size() const override;
     /// Resizes the window with its frame; pixels. A loaded window runs on_resize when the size changes.
     void resize(PixelSize outer);
     /// Resizes the window so that its client area gets this size in pixels.
@@ -105,27 +124,15 @@ class Form {
     /// What a desktop calls for a key. True when the window has a handler for keys and took it.
     bool key_down(int key_code);
     void click_background();
-    Mouse& mouse() { return mouse_; }
+    Mouse& mouse() override { return mouse_; }
     const Mouse& mouse() const { return mouse_; }
 
-    const std::vector<Widget*>& widgets() const { return widgets_; }
     const std::vector<Menu>& menus() const { return menus_; }
-    /// The controls that take the keyboard, in the order in which Tab visits them.
-    const std::vector<Widget*>& tab_order() const { return tab_order_; }
-
-    FormView* view() const { return view_.get(); }
-    /// Takes the view off the window, which is only kept in memory from then on: for a desktop that goes, or
-    /// that has broken down.
-    std::unique_ptr<FormView> take_view() { return std::move(view_); }
-    std::uint64_t next_stacking() { return ++front_; }
-    bool is_in_front(const Widget& widget) const { return widget.stacking() == front_; }
-    std::uint64_t add_widget(Widget& widget);
 
   protected:
     /// Puts the window and its widgets into their stored state.
     virtual void design() = 0;
     void set_menus(std::vector<Menu> menus) { menus_ = std::move(menus); }
-    void set_tab_order(std::vector<Widget*> order) { tab_order_ = std::move(order); }
 
   private:
     void changed();
@@ -133,23 +140,16 @@ class Form {
 
     std::string name_;
     std::string caption_;
-    std::vector<Widget*> widgets_;
     std::vector<Menu> menus_;
-    std::vector<Widget*> tab_order_;
-    std::unique_ptr<FormView> view_;
     Mouse mouse_;
     PixelSize outer_{320, 240};
-    std::uint64_t front_ = 0;
     Color back_color_ = black;
     WindowState state_ = WindowState::normal;
     FormBorder border_ = FormBorder::sizable;
     bool has_back_color_ = false;
     bool centered_ = false;
-    bool loaded_ = false;
     bool loading_ = false;
     bool unloading_ = false;
-    bool visible_ = false;
-    bool enabled_ = true;
 };
 
 /// What a window's frame and menu bar take off its size, in pixels. The figures are fixed, so that a window

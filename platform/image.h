@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "platform/picture.h"
+#include "platform/graphics.h"
 #include "platform/widget.h"
 
 namespace tarnwick {
@@ -24,8 +24,8 @@ enum class DragMode { manual, automatic };
 /// Shows a picture. Without one it is not seen, but can still be clicked and dropped on.
 class Image : public Widget {
   public:
-    Image(Form& form, int index, const ImageEvents& events)
-        : Widget(form, WidgetKind::image), index_(index), events_(events) {}
+    Image(Window& window, int index, const ImageEvents& events)
+        : Widget(window, WidgetKind::image), index_(index), events_(events) {}
 
     int index() const { return index_; }
     const ImageEvents& events() const { return events_; }

@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "platform/desktop.h"
-#include "platform/form.h"
 #include "platform/image.h"
 
 namespace tarnwick {
@@ -16,7 +15,7 @@ constexpr float double_click_distance = 4;
 
 Image* Mouse::image_at(float x, float y) const {
     Image* topmost = nullptr;
-    for (Widget* widget : form_.widgets()) {
+    for (Widget* widget : window_.widgets()) {
         if (widget->kind() != WidgetKind::image || !widget->visible()) continue;
         if (topmost && widget->stacking() < topmost->stacking()) continue;
         if (widget->place().contains(x, y)) topmost = static_cast<Image*>(widget);
@@ -25,7 +24,7 @@ Image* Mouse::image_at(float x, float y) const {
 }
 
 void Mouse::press(float x, float y, MouseButton button) {
-    if (button != MouseButton::left || !form_.accepts_input() || dragged_ || pressed_) return;
+    if (button != MouseButton::left || !window_.accepts_input() || dragged_ || pressed_) return;
     press_x_ = x_ = x;
     press_y_ = y_ = y;
     Image* image = image_at(x, y);
@@ -83,7 +82,7 @@ const Widget* Mouse::receiver_at(float x, float y) const {
 }
 
 bool Mouse::is_seen(float x, float y) const {
-    const PixelSize client = form_.client_size();
+    const PixelSize client = window_.client_size();
     const Rect all{0, 0, static_cast<float>(client.width), static_cast<float>(client.height)};
     return seen_area_.value_or(all).contains(x, y);
 }
@@ -102,7 +101,7 @@ void Mouse::follow_layout() {
 
 void Mouse::release(float x, float y, MouseButton button) {
     if (button != MouseButton::left) return;
-    if (!form_.accepts_input()) {
+    if (!window_.accepts_input()) {
         cancel();
         return;
     }
@@ -141,7 +140,7 @@ void Mouse::put_down() {
 }
 
 void Mouse::drag_changed() const {
-    if (FormView* view = form_.view()) view->drag_changed();
+    if (FormView* view = window_.view()) view->drag_changed();
 }
 
 }  // namespace tarnwick

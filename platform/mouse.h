@@ -5,11 +5,11 @@
 #include <optional>
 #include <vector>
 
-#include "platform/geometry.h"
+#include "platform/graphics.h"
+#include "platform/window.h"
 
 namespace tarnwick {
 
-class Form;
 class Image;
 class Widget;
 
@@ -20,7 +20,7 @@ enum class MouseButton { left, other };
 /// area.
 class Mouse {
   public:
-    explicit Mouse(Form& form) : form_(form) {}
+    explicit Mouse(Window& window) : window_(window) {}
 
     void press(float x, float y, MouseButton button = MouseButton::left);
     void move(float x, float y);
@@ -68,7 +68,7 @@ class Mouse {
     void put_down();
     void drag_changed() const;
 
-    Form& form_;
+    Window& window_;
     std::optional<Rect> seen_area_;
     Image* pressed_ = nullptr;
     Image* dragged_ = nullptr;

@@ -3,11 +3,11 @@
 #include <algorithm>
 
 #include "platform/desktop.h"
-#include "platform/form.h"
+#include "platform/mouse.h"
 
 namespace tarnwick {
 
-Timer::Timer(Form& form) : form_(form) { timer_queue().add(*this); }
+Timer::Timer(Window& window) : window_(window) { timer_queue().add(*this); }
 
 void Timer::set_interval(int milliseconds) {
     if (milliseconds == interval_) return;
@@ -21,7 +21,7 @@ void Timer::set_enabled(bool enabled) {
     start_period();
 }
 
-bool Timer::runs() const { return enabled_ && interval_ > 0 && form_.loaded(); }
+bool Timer::runs() const { return enabled_ && interval_ > 0 && window_.loaded(); }
 
 void Timer::start_period() {
     if (!runs()) return;
@@ -52,13 +52,13 @@ void TimerQueue::run_due() {
         // Ticks keep their rhythm, but those that a late clock has missed are not made up for.
         timer->due_ = std::max(timer->due_ + timer->interval_, now + 1);
         if (timer->on_tick) desktop().event(timer->on_tick);
-        timer->form_.mouse().follow_layout();
+        timer->window_.mouse().follow_layout();
     }
 }
 
-void TimerQueue::start(const Form& form) {
+void TimerQueue::start(const Window& window) {
     for (Timer* timer : timers_) {
-        if (&timer->form_ == &form) timer->start_period();
+        if (&timer->window_ == &window) timer->start_period();
     }
 }
 

@@ -5,15 +5,15 @@
 #include <optional>
 #include <vector>
 
-namespace tarnwick {
+#include "platform/window.h"
 
-class Form;
+namespace tarnwick {
 
 /// Raises on_tick every `interval` milliseconds while it is enabled and its window is loaded.
 /// A change of the interval, and every enabling, starts a new period.
 class Timer {
   public:
-    explicit Timer(Form& form);
+    explicit Timer(Window& window);
     Timer(const Timer&) = delete;
     Timer& operator=(const Timer&) = delete;
 
@@ -29,7 +29,7 @@ class Timer {
     void start_period();
     bool runs() const;
 
-    Form& form_;
+    Window& window_;
     std::int64_t due_ = 0;
     int interval_ = 0;
     bool enabled_ = false;
@@ -45,7 +45,7 @@ class TimerQueue {
     /// Lets every timer that is due tick once, however late it is, the longest due first.
     void run_due();
     /// Starts new periods for the timers of a window that has just been loaded.
-    void start(const Form& form);
+    void start(const Window& window);
 
   private:
     Timer* most_overdue(std::int64_t now) const;

@@ -1,10 +1,10 @@
 #include "platform/widget.h"
 
-#include "platform/form.h"
-
 namespace tarnwick {
 
-Widget::Widget(Form& form, WidgetKind kind) : form_(form), kind_(kind) { stacking_ = form.add_widget(*this); }
+Widget::Widget(Window& window, WidgetKind kind) : window_(window), kind_(kind) {
+    stacking_ = window.add_widget(*this);
+}
 
 void Widget::move(float left, float top) { move(left, top, place_.width, place_.height); }
 
@@ -23,18 +23,18 @@ void Widget::set_top(float top) { move(place_.left, top); }
 void Widget::set_visible(bool visible) {
     if (visible == visible_) return;
     visible_ = visible;
-    if (FormView* view = form_.view()) view->widget_changed(*this, place_);
+    if (FormView* view = window_.view()) view->widget_changed(*this, place_);
 }
 
 void Widget::bring_to_front() {
-    if (form_.is_in_front(*this)) return;
-    stacking_ = form_.next_stacking();
+    if (window_.is_in_front(stacking_)) return;
+    stacking_ = window_.next_stacking();
     if (visible_) changed();
 }
 
 void Widget::changed(const Rect& before) {
     if (!visible_) return;
-    if (FormView* view = form_.view()) view->widget_changed(*this, before);
+    if (FormView* view = window_.view()) view->widget_changed(*this, before);
 }
 
 }  // namespace tarnwick

@@ -3,11 +3,11 @@
 #include <cstdint>
 #include <string>
 
-#include "platform/geometry.h"
+#include "platform/graphics.h"
+#include "platform/window.h"
 
 namespace tarnwick {
 
-class Form;
 class Frame;
 class Label;
 
@@ -22,7 +22,7 @@ class Widget {
     Widget& operator=(const Widget&) = delete;
 
     WidgetKind kind() const { return kind_; }
-    Form& form() const { return form_; }
+    Window& form() const { return window_; }
 
     /// The frame that holds the widget (its place is then relative to it), or null.
     const Frame* container() const { return container_; }
@@ -60,14 +60,14 @@ class Widget {
     std::uint64_t stacking() const { return stacking_; }
 
   protected:
-    Widget(Form& form, WidgetKind kind);
+    Widget(Window& window, WidgetKind kind);
 
     /// Tells the view that the widget looks different now. `before` is the place it was seen at.
     void changed(const Rect& before);
     void changed() { changed(place_); }
 
   private:
-    Form& form_;
+    Window& window_;
     const Frame* container_ = nullptr;
     const Label* label_ = nullptr;
     std::string spoken_name_;

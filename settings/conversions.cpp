@@ -22,8 +22,9 @@ std::string_view trimmed(const std::string& text) {
 
 // Compares with a word in lower case. Only ASCII letters: a locale has no say in what is stored.
 bool is_word(std::string_view text, std::string_view word) {
-    return std::equal(text.begin(), text.end(), word.begin(), word.end(),
-                      [](char a, char b) { return (a >= 'A' && a <= 'Z' ? a - 'A' + 'a' : a) == b; });
+    return std::equal(text.begin(), text.end(), word.begin(), word.end(), [](char a, char b) {
+        return (a >= 'A' && a <= 'Z' ? a - 'A' + 'a' : a) == b;
+    });
 }
 
 // Takes the decimal digits off the front of a text; false when there is none.

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "platform/geometry.h"
+#include "platform/graphics.h"
 
 namespace tarnwick {
 
@@ -56,11 +56,15 @@ struct Box {
 };
 
 inline Box box_of(const Rect& rect) {
-    return {static_cast<double>(rect.left), static_cast<double>(rect.top), static_cast<double>(rect.width),
+    return {static_cast<double>(rect.left),
+            static_cast<double>(rect.top),
+            static_cast<double>(rect.width),
             static_cast<double>(rect.height)};
 }
 inline Box box_of(const Area& area) {
-    return {static_cast<double>(area.left), static_cast<double>(area.top), static_cast<double>(area.width),
+    return {static_cast<double>(area.left),
+            static_cast<double>(area.top),
+            static_cast<double>(area.width),
             static_cast<double>(area.height)};
 }
 
@@ -78,7 +82,9 @@ Rectangle united(const Rectangle& a, const Rectangle& b) {
 inline Area around(const Box& box) {
     const int left = static_cast<int>(std::floor(box.left));
     const int top = static_cast<int>(std::floor(box.top));
-    return {left, top, static_cast<int>(std::ceil(box.right())) - left,
+    return {left,
+            top,
+            static_cast<int>(std::ceil(box.right())) - left,
             static_cast<int>(std::ceil(box.bottom())) - top};
 }
 
@@ -91,7 +97,9 @@ inline Area touched(const Box& box) {
 /// The rectangle in whole device pixels, so many to a pixel. Position and size are rounded apart: widgets of
 /// one size stay so.
 inline Area snapped(const Box& box, double ratio) {
-    return {rounded(box.left * ratio), rounded(box.top * ratio), std::max(1, rounded(box.width * ratio)),
+    return {rounded(box.left * ratio),
+            rounded(box.top * ratio),
+            std::max(1, rounded(box.width * ratio)),
             std::max(1, rounded(box.height * ratio))};
 }
 

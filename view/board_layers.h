@@ -4,9 +4,8 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/color.h"
 #include "platform/controls.h"
-#include "platform/picture.h"
+#include "platform/graphics.h"
 #include "view/area.h"
 
 namespace tarnwick {

@@ -93,8 +93,10 @@ void BoardScene::add_outlines(double ratio) {
     for_each_visible<Outline>(form_, WidgetKind::outline, [&](const Outline& outline) {
         const Box place = box_of(outline.place());
         if (!layers_.area.meets(touched(place))) return;
-        layers_.outlines.push_back({box_of(snapped(place, ratio)).grown(-line / 2), outline.border_color(),
-                                    line, corner_radius(place.width, ratio)});
+        layers_.outlines.push_back({box_of(snapped(place, ratio)).grown(-line / 2),
+                                    outline.border_color(),
+                                    line,
+                                    corner_radius(place.width, ratio)});
     });
 }
 

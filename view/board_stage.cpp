@@ -184,7 +184,9 @@ void BoardStage::scroll(Action action) {
 void BoardStage::show_part() {
     scene_.set_scrolled(scroll_.offset());
     plate_ = scene_.plate();
-    form_.mouse().set_seen_area(Rect{0, static_cast<float>(scroll_.offset()), static_cast<float>(size_.width),
+    form_.mouse().set_seen_area(Rect{0,
+                                     static_cast<float>(scroll_.offset()),
+                                     static_cast<float>(size_.width),
                                      static_cast<float>(size_.height)});
 }
 

@@ -62,7 +62,8 @@ double fitting_scale(const Form& form, PixelSize screen, const DialogMeasure& me
     constexpr double step = 0.02;
     constexpr double most_for_text = 1.4;
     const PixelSize client = form.client_size();
-    const double most = std::min({font_scale(measure) * most_for_text, 1.0 * screen.width / client.width,
+    const double most = std::min({font_scale(measure) * most_for_text,
+                                  1.0 * screen.width / client.width,
                                   1.0 * screen.height / client.height});
     double scale = 1;
     while (scale + step <= most && !all_fit(form, scale, most, measure)) scale += step;
@@ -84,8 +85,10 @@ Area control_place(const Widget& widget, double scale, const DialogMeasure& meas
 
 Area place_beside(const Area& other, PixelSize size, const Area& room) {
     const auto at = [&](int left, int top) { return within(room, {left, top, size.width, size.height}); };
-    const std::array sides{at(other.right(), other.top), at(other.left - size.width, other.top),
-                           at(other.left, other.bottom()), at(other.left, other.top - size.height)};
+    const std::array sides{at(other.right(), other.top),
+                           at(other.left - size.width, other.top),
+                           at(other.left, other.bottom()),
+                           at(other.left, other.top - size.height)};
     return *std::min_element(sides.begin(), sides.end(), [&](const Area& a, const Area& b) {
         return shared_area(a, other) < shared_area(b, other);
     });

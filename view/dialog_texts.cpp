@@ -187,9 +187,13 @@ ShownText fitted_text(const Widget& widget, PixelSize place, double scale, const
         case WidgetKind::button:
         case WidgetKind::check_box:
         case WidgetKind::option_button:
-            return {shrunk({}, least_readable(measure), measure,
+            return {shrunk({},
+                           least_readable(measure),
+                           measure,
                            [&](const TextFont& font) { return fits(widget, font, place, measure); }),
-                    text, false, ""};
+                    text,
+                    false,
+                    ""};
         default:
             return {{}, text, false, ""};
     }

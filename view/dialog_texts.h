@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/geometry.h"
+#include "platform/graphics.h"
 #include "platform/widget.h"
 #include "view/text_measure.h"
 

@@ -3,13 +3,12 @@
 #include <utility>
 
 #include "platform/desktop.h"
-#include "platform/form.h"
 #include "platform/image.h"
 
 namespace tarnwick {
 
-bool takes_presses(const Form& form) {
-    return form.accepts_input() && !desktop().in_event() && !form.mouse().dragged();
+bool takes_presses(Window& window) {
+    return window.accepts_input() && !desktop().in_event() && !window.mouse().dragged();
 }
 
 bool is_pressable(const Widget& widget) {

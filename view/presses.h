@@ -3,12 +3,13 @@
 #include <string>
 
 #include "platform/controls.h"
+#include "platform/form.h"
 
 namespace tarnwick {
 
 /// Whether nothing keeps a window from taking a press: it takes input, no event is under way (which may wait
 /// for the answer to a message) and nothing is dragged in it.
-bool takes_presses(const Form& form);
+bool takes_presses(Window& window);
 
 /// Whether a press on a control does anything.
 bool is_pressable(const Widget& widget);

@@ -24,8 +24,8 @@ std::vector<const Widget*> shared_widgets(const std::vector<BoardItem>& items,
 }  // namespace
 
 const BoardItem* find_item(const std::vector<BoardItem>& items, const Widget* widget) {
-    const auto item = std::find_if(items.begin(), items.end(),
-                                   [widget](const BoardItem& each) { return each.widget == widget; });
+    const auto item = std::find_if(
+        items.begin(), items.end(), [widget](const BoardItem& each) { return each.widget == widget; });
     return item == items.end() ? nullptr : &*item;
 }
 
@@ -62,15 +62,15 @@ std::optional<Spot> free_spot(const Widget& widget) {
 }
 
 void press_item(const Widget& widget, int clicks, const BoardHands& hands) {
-    Form& form = widget.form();
+    Window& window = widget.form();
     for (int i = 0; i < clicks; ++i) {
-        if (!takes_presses(form) || hands.are_busy()) return;
+        if (!takes_presses(window) || hands.are_busy()) return;
         const std::optional<Spot> spot = free_spot(widget);
         if (!spot) return;
         // What is not seen takes no clicks.
         hands.reveal(*spot);
-        form.mouse().press(spot->x, spot->y);
-        form.mouse().release(spot->x, spot->y);
+        window.mouse().press(spot->x, spot->y);
+        window.mouse().release(spot->x, spot->y);
     }
 }
 

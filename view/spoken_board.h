@@ -4,7 +4,6 @@
 #include <optional>
 #include <vector>
 
-#include "platform/board_item.h"
 #include "platform/form.h"
 
 namespace tarnwick {

@@ -16,8 +16,8 @@ FrmFeatures::FrmFeatures() : Form("frmFeatures") {
     }
     txtBackColor.label_with(lblBackColor);
     txtTextColor.label_with(lblTextColor);
-    std::vector<Widget*> order{&txtBackColor,  &txtTextColor, &chkAnamate, &chkScaleCards,
-                               &chkDisplayMes, &cmdOk,        &cmdCancel};
+    std::vector<Widget*> order{
+        &txtBackColor, &txtTextColor, &chkAnamate, &chkScaleCards, &chkDisplayMes, &cmdOk, &cmdCancel};
     optCardBack.for_each([&order](OptionButton& option) { order.push_back(&option); });
     set_tab_order(order);
 }

@@ -4,7 +4,6 @@
 #include "platform/family.h"
 #include "platform/form.h"
 #include "platform/image.h"
-#include "platform/menu.h"
 #include "platform/timer.h"
 
 namespace tarnwick {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/picture.h"
+#include "platform/graphics.h"
 
 namespace tarnwick {
 

@@ -21,8 +21,8 @@ constexpr const char* short_options = "-:hv";
 constexpr int other_argument = 1;
 
 std::string name_of(int letter) {
-    const auto* const found = std::find_if(options.begin(), options.end(),
-                                           [letter](const option& known) { return known.val == letter; });
+    const auto* const found = std::find_if(
+        options.begin(), options.end(), [letter](const option& known) { return known.val == letter; });
     return std::string("--") + found->name;
 }
 
@@ -55,8 +55,8 @@ CommandLine parse_command_line(const std::vector<std::string>& arguments) {
     std::vector<std::string> words{"tarnwick"};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char*> pointers(words.size() + 1, nullptr);
-    std::transform(words.begin(), words.end(), pointers.begin(),
-                   [](std::string& word) { return word.data(); });
+    std::transform(
+        words.begin(), words.end(), pointers.begin(), [](std::string& word) { return word.data(); });
     const int count = static_cast<int>(words.size());
 
     CommandLine result;

@@ -11,8 +11,7 @@ namespace {
 
 // Whether a dialog or menu is open, or a mouse button held.
 bool waits_for_player() {
-    return QApplication::mouseButtons() != Qt::NoButton ||
-           QApplication::activePopupWidget();
+    return QApplication::mouseButtons() != Qt::NoButton || QApplication::activePopupWidget();
 }
 
 }  // namespace
@@ -84,8 +83,9 @@ void BoardItemAccessible::doAction(const QString& action) {
     QMetaObject::invokeMethod(
         &board,
         [&board, &widget = widget_, clicks] {
-            press_item(widget, clicks,
-                       {waits_for_player, [&board](Spot spot) { board.reveal(QPointF(spot.x, spot.y)); }});
+            press_item(widget, clicks, {waits_for_player, [&board](Spot spot) {
+                                            board.reveal(QPointF(spot.x, spot.y));
+                                        }});
         },
         Qt::QueuedConnection);
 }

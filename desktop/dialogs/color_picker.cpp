@@ -21,8 +21,9 @@ QColorDialog* make_color_picker(const QColor& first, const QString& title, QWidg
     // The frame that it will get is the one that its parent has.
     const QSize frame = parent->frameGeometry().size() - parent->size();
     const QSize size = picker->size() + frame;
-    const Area place = place_beside(from_qt(parent->frameGeometry()), {size.width(), size.height()},
-                                         from_qt(parent->screen()->availableGeometry()));
+    const Area place = place_beside(from_qt(parent->frameGeometry()),
+                                    {size.width(), size.height()},
+                                    from_qt(parent->screen()->availableGeometry()));
     picker->move(place.left, place.top);
     return picker;
 }

@@ -18,7 +18,8 @@ class PressableAccessible : public QAccessibleWidget {
         if (action != pressAction()) return QAccessibleWidget::doAction(action);
         // Later: what is pressed may open a dialog, and whoever asks for it does not wait for its end.
         QMetaObject::invokeMethod(
-            widget(), [pressed = widget()] { press(dynamic_cast<Pressable&>(*pressed).pressed()); },
+            widget(),
+            [pressed = widget()] { press(dynamic_cast<Pressable&>(*pressed).pressed()); },
             Qt::QueuedConnection);
     }
 };

@@ -10,9 +10,7 @@
 
 namespace tarnwick {
 
-QFont QtDialogMeasure::font(const TextFont& font) const {
-    return qt_font(dialog_.font(), font);
-}
+QFont QtDialogMeasure::font(const TextFont& font) const { return qt_font(dialog_.font(), font); }
 
 float QtDialogMeasure::desktop_size() const {
     return static_cast<float>(QFontInfo(dialog_.font()).pixelSize());

@@ -5,10 +5,10 @@
 #include <QMouseEvent>
 #include <QScreen>
 
-#include "desktop/shared/key_codes.h"
-#include "platform/key_codes.h"
-#include "desktop/shared/qt_convert.h"
 #include "desktop/app/qt_desktop.h"
+#include "desktop/shared/key_codes.h"
+#include "desktop/shared/qt_convert.h"
+#include "platform/key_codes.h"
 #include "view/dialog_keys.h"
 #include "view/dialog_layout.h"
 #include "view/spoken_names.h"
@@ -112,7 +112,7 @@ void DialogWindow::widget_changed(const Widget& widget) {
     control.sync({text, measure_.font(text.font), scale_});
     native.setAccessibleName(to_qt(spoken_name(widget)));
     native.setVisible(widget.visible());
-    if (form_.is_in_front(widget)) native.raise();
+    if (form_.is_in_front(widget.stacking())) native.raise();
 }
 
 void DialogWindow::reject() { press_escape(form_); }

@@ -5,7 +5,7 @@
 #include <map>
 #include <utility>
 
-#include "platform/picture.h"
+#include "platform/graphics.h"
 
 namespace tarnwick {
 

@@ -5,8 +5,7 @@
 #include <QRectF>
 #include <QString>
 
-#include "platform/color.h"
-#include "platform/geometry.h"
+#include "platform/graphics.h"
 #include "view/area.h"
 
 namespace tarnwick {
@@ -15,7 +14,9 @@ inline QColor to_qt(Color color) { return QColor(red_of(color), green_of(color),
 inline Color from_qt(const QColor& color) { return color_of(color.red(), color.green(), color.blue()); }
 
 inline QRectF to_qt(const Rect& rect) {
-    return QRectF(static_cast<qreal>(rect.left), static_cast<qreal>(rect.top), static_cast<qreal>(rect.width),
+    return QRectF(static_cast<qreal>(rect.left),
+                  static_cast<qreal>(rect.top),
+                  static_cast<qreal>(rect.width),
                   static_cast<qreal>(rect.height));
 }
 

@@ -54,7 +54,9 @@ TEST(Console, TellsInOneSentenceWhatItCannotRead) {
 }
 
 TEST(Console, TellsInOneSentenceThatItsOutputIsNotWritten) {
-    for (const std::string line : {R"("$0" --help)", R"("$0" --random 3 5)", R"("$0" --signature /dev/null)",
+    for (const std::string line : {R"("$0" --help)",
+                                   R"("$0" --random 3 5)",
+                                   R"("$0" --signature /dev/null)",
                                    R"(printf 'deal 1\nturn\n' | "$0")"}) {
         for (const auto& [output, reason] : {std::pair{" > /dev/full", "No space left on device"},
                                              std::pair{" >&-", "Bad file descriptor"}}) {

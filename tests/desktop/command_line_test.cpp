@@ -85,7 +85,8 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
 TEST(CommandLine, SaysThatThereIsNoDisplay) {
     const TemporaryFolder folder;
     for (const char* display : {"", ":4711"}) {
-        ChildProcess blind(program, {"--store", folder.path() + "/settings.sqlite"},
+        ChildProcess blind(program,
+                           {"--store", folder.path() + "/settings.sqlite"},
                            {{"DISPLAY", display}, {"WAYLAND_DISPLAY", ""}, {"QT_QPA_PLATFORM", ""}});
         EXPECT_EQ(blind.exit_code(), 1) << display;
         EXPECT_EQ(lines_of(blind.errors()), 1) << blind.errors();

@@ -18,8 +18,8 @@ TEST(DialogWindow, ShowsALongNameInATipThatHasLines) {
     const std::string name = "<Featherstonehaugh> & Upper &lt; Tarnwick " + std::string(200, 'W');
     frmBestScore.lblHighScoreName(1).set_caption(name);
     const auto labels = shown_widget(frmBestScore.name())->findChildren<QLabel*>();
-    const auto label = std::find_if(labels.begin(), labels.end(),
-                                    [](const QLabel* each) { return !each->toolTip().isEmpty(); });
+    const auto label = std::find_if(
+        labels.begin(), labels.end(), [](const QLabel* each) { return !each->toolTip().isEmpty(); });
     ASSERT_NE(label, labels.end());
     EXPECT_EQ((*label)->font(), shown_widget(frmBestScore.name())->font()) << "cut at full size";
     QTextDocument tip;

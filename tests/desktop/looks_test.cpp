@@ -34,8 +34,10 @@ class Looks : public testing::Test {
 // Shows each of the dialogs, one after the other.
 void for_each_dialog(const std::function<void(const std::string& name, QWidget& dialog)>& look) {
     const InnerGame game(26);
-    for (Form* form : {static_cast<Form*>(&frmFeatures), static_cast<Form*>(&frmBestScore),
-                       static_cast<Form*>(&frmyouwin), static_cast<Form*>(&frmError)}) {
+    for (Form* form : {static_cast<Form*>(&frmFeatures),
+                       static_cast<Form*>(&frmBestScore),
+                       static_cast<Form*>(&frmyouwin),
+                       static_cast<Form*>(&frmError)}) {
         form->show();
         if (form == &frmError) frmError.LblError.set_caption("Fatel Error in Subroutine layout_to_ace");
         QWidget* dialog = shown_widget(form->name());

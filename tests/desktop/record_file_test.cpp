@@ -55,8 +55,9 @@ TEST_F(RecordFileTest, LetsNobodyElseIn) {
     {
         const RecordFile file(name);
         fs::create_hard_link(name, link);
-        EXPECT_EQ(opening(link), "another game is recorded in " + link +
-                                     ": end that one, or name another file with --record");
+        EXPECT_EQ(
+            opening(link),
+            "another game is recorded in " + link + ": end that one, or name another file with --record");
     }
     EXPECT_EQ(opening(link), "accepted");
     const RecordFile nowhere("/dev/null");

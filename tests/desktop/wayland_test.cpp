@@ -40,9 +40,14 @@ TEST(Wayland, ACompositorThatGoesEndsTheGameInOrder) {
     const std::string store = folder.path() + "/settings.sqlite";
     SqliteStore(store).save("Tarnwick", "setting", "anamate", "False");
     ChildProcess compositor(weston,
-                            {"--backend=x11-backend.so", "--shell=kiosk-shell.so", "--socket=game",
-                             "--no-config", "--idle-time=0", "--use-pixman",
-                             "--width=" + std::to_string(width), "--height=" + std::to_string(height)},
+                            {"--backend=x11-backend.so",
+                             "--shell=kiosk-shell.so",
+                             "--socket=game",
+                             "--no-config",
+                             "--idle-time=0",
+                             "--use-pixman",
+                             "--width=" + std::to_string(width),
+                             "--height=" + std::to_string(height)},
                             {{"XDG_RUNTIME_DIR", folder.path()}, {"WAYLAND_DISPLAY", ""}});
     XDriver screen;
     XWindow window = 0;
@@ -59,7 +64,8 @@ TEST(Wayland, ACompositorThatGoesEndsTheGameInOrder) {
     };
     ASSERT_TRUE(eventually([&] { return fs::exists(folder.path() + "/game"); }));
     ChildProcess program(
-        tested_program(), {"--deal", "26", "--store", store},
+        tested_program(),
+        {"--deal", "26", "--store", store},
         {{"XDG_RUNTIME_DIR", folder.path()}, {"WAYLAND_DISPLAY", "game"}, {"QT_QPA_PLATFORM", "wayland"}});
     constexpr std::size_t of_a_painted_board = 30;
     ASSERT_TRUE(eventually([&] {

@@ -54,9 +54,12 @@ void type_name(TwinGame& game) {
 }
 
 const Situation situations[] = {
-    {"NoScore", [](TwinGame&) {}, "- - - -"},  {"Score", score_two, "1 2 190 -", true},
-    {"BestScore", score_two, "1 2 2 "},        {"NameTyped", type_name, "1 2 2 Ann"},
-    {"SettingsOpen", open_settings, "1 2 2 "}, {"SlideUnderWay", slide, "1 2 2 ", false, true},
+    {"NoScore", [](TwinGame&) {}, "- - - -"},
+    {"Score", score_two, "1 2 190 -", true},
+    {"BestScore", score_two, "1 2 2 "},
+    {"NameTyped", type_name, "1 2 2 Ann"},
+    {"SettingsOpen", open_settings, "1 2 2 "},
+    {"SlideUnderWay", slide, "1 2 2 ", false, true},
 };
 
 std::map<std::string, std::string> store_before(const Situation& situation) {
@@ -96,7 +99,8 @@ const Way ways[] = {
     {"HungUp", signal_to<SIGHUP>, 128 + SIGHUP},
     cut_off,
     {"LoggedOut",
-     [](TwinGame&, SessionManager& session) { ASSERT_TRUE(session.save(true) && session.end()); }, 0},
+     [](TwinGame&, SessionManager& session) { ASSERT_TRUE(session.save(true) && session.end()); },
+     0},
 };
 
 class Ended : public testing::TestWithParam<std::tuple<Way, Situation>> {};

@@ -3,8 +3,8 @@
 #include <QDate>
 #include <QLocale>
 
-#include "platform/key_codes.h"
 #include "notation/record.h"
+#include "platform/key_codes.h"
 #include "state/variables.h"
 #include "tests/store/scratch_folder.h"
 #include "tools/driver/board_picture.h"
@@ -13,7 +13,6 @@
 
 namespace tarnwick {
 namespace {
-
 
 void act(TwinGame& game, const Action& action) {
     if (action.kind == ActionKind::turn) return game.space();

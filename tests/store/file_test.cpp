@@ -81,8 +81,11 @@ TEST_F(StoreFile, ThatIsBrokenWhileTheProgramRunsIsSetAsideAndNothingIsLost) {
     save_on_disk("card back", "3");
     const std::string whole = ScratchFolder::contents(path);
     const std::string garbled = std::string(whole).replace(whole.size() - 600, 600, 600, 'x');
-    for (const std::string& damaged : {whole.substr(0, whole.size() / 2), whole.substr(0, 50), std::string(),
-                                       std::string(whole.size(), 'x'), garbled}) {
+    for (const std::string& damaged : {whole.substr(0, whole.size() / 2),
+                                       whole.substr(0, 50),
+                                       std::string(),
+                                       std::string(whole.size(), 'x'),
+                                       garbled}) {
         for (const bool by_reading : {true, false}) {
             SCOPED_TRACE(std::to_string(damaged.size()) + damaged.substr(0, 6) +
                          (by_reading ? " read" : " written"));

@@ -57,7 +57,8 @@ Results stored_results() {
                                                      read_setting(key_high_score_name(i + 1), std::string())};
     }
     stored.counts = {to_integer(read_setting(key_games_played, 0)),
-                     to_long(read_setting(key_average_score, 0)), to_integer(read_setting(key_games_won, 0))};
+                     to_long(read_setting(key_average_score, 0)),
+                     to_integer(read_setting(key_games_won, 0))};
     return stored;
 }
 

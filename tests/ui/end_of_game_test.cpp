@@ -3,10 +3,10 @@
 #include <array>
 #include <functional>
 
-#include "platform/key_codes.h"
 #include "board/display.h"
 #include "game/end_game.h"
 #include "notation/position.h"
+#include "platform/key_codes.h"
 #include "state/variables.h"
 #include "tests/play/play.h"
 #include "tests/play/soundness.h"
@@ -18,7 +18,6 @@
 
 namespace tarnwick {
 namespace {
-
 
 std::string key(const char* name, int place) { return std::string(name) + std::to_string(place); }
 

@@ -88,8 +88,11 @@ TEST_F(ShownBoard, IsListedFromBackToFront) {
 TEST_F(ShownBoard, IsPaintedAnewWhereItIsToldToHaveChanged) {
     press(column_of_jack);
     EXPECT_TRUE(shows_all()) << "taken up";
-    for (const Place& place : {bare_table, beside(top_image(column_of_queen)), on(top_image(column_of_king)),
-                               Place{100, 590}, beside(top_image(column_of_queen))}) {
+    for (const Place& place : {bare_table,
+                               beside(top_image(column_of_queen)),
+                               on(top_image(column_of_king)),
+                               Place{100, 590},
+                               beside(top_image(column_of_queen))}) {
         move(place);
         EXPECT_TRUE(shows_all()) << place.x << ", " << place.y;
     }
@@ -145,8 +148,12 @@ TEST_F(ShownBoard, LetsARefusedCardGlideBack) {
     EXPECT_FALSE(stage.next_step());
     EXPECT_TRUE(shows_all()) << "home again";
     const std::vector<std::function<void()>> ends{
-        [&] { press(bare_table); },       [&] { stage.key_down(0); },
-        [&] { view.resize({700, 500}); }, [&] { top_image(column_of_jack).bring_to_front(); },
+        [&] { press(bare_table); },
+        [&] { stage.key_down(0); },
+        [&] {
+            view.resize({700, 500});
+        },
+        [&] { top_image(column_of_jack).bring_to_front(); },
         [&] { press(column_of_ace); },
     };
     for (const auto& end : ends) {

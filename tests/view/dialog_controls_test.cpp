@@ -83,9 +83,9 @@ TEST_F(DialogControls, TakePressesWhileTheirWindowDoes) {
     const auto press_all = [] {
         frmFeatures.chkAnamate.click();
         frmFeatures.ImgCardBacks(1).click();
-        for (Widget* widget :
-             {static_cast<Widget*>(&frmFeatures.chkAnamate),
-              static_cast<Widget*>(&frmFeatures.optCardBack(2)), static_cast<Widget*>(&frmFeatures.cmdOk)}) {
+        for (Widget* widget : {static_cast<Widget*>(&frmFeatures.chkAnamate),
+                               static_cast<Widget*>(&frmFeatures.optCardBack(2)),
+                               static_cast<Widget*>(&frmFeatures.cmdOk)}) {
             press(*widget);
         }
     };

@@ -1,5 +1,5 @@
-#include "board/peek.h"
 #include "view/spoken_board.h"
+#include "board/peek.h"
 
 #include <gtest/gtest.h>
 
@@ -26,7 +26,8 @@ class SpokenBoard : public testing::Test {
     // Presses what is described of a widget, as often as makes it act.
     void press(const Widget& widget) {
         const std::vector<BoardItem> items = frmcards.on_describe();
-        press_item(widget, find_item(items, &widget)->clicks,
+        press_item(widget,
+                   find_item(items, &widget)->clicks,
                    {[this] { return busy; }, [this](Spot) { ++revealed; }});
     }
     const Image& top_of(int column) const { return frmcards.Image1(top_card(column).picture); }

@@ -71,8 +71,8 @@ void apply_vision(QImage& sheet, const Vision& vision) {
     for (int y = 0; y < sheet.height(); ++y) {
         for (int x = 0; x < sheet.width(); ++x) {
             const QColor colour = sheet.pixelColor(x, y);
-            const std::array<double, 3> seen{to_linear(colour.red()), to_linear(colour.green()),
-                                             to_linear(colour.blue())};
+            const std::array<double, 3> seen{
+                to_linear(colour.red()), to_linear(colour.green()), to_linear(colour.blue())};
             std::array<int, 3> shown{};
             for (std::size_t row = 0; row < 3; ++row) {
                 shown[row] = from_linear(vision[row][0] * seen[0] + vision[row][1] * seen[1] +
@@ -113,8 +113,8 @@ QImage draw_sheet(const std::vector<Picture>& pictures, const QColor& background
         const QPoint corner = position(index, cell, layout);
         item.renderer->render(&painter, QRectF(corner, item.size));
         if (layout.caption_height > 0) {
-            const QRect caption(corner.x(), corner.y() + picture.height(), cell.width(),
-                                layout.caption_height);
+            const QRect caption(
+                corner.x(), corner.y() + picture.height(), cell.width(), layout.caption_height);
             painter.setPen(Qt::white);
             painter.drawText(caption, Qt::AlignCenter, item.name);
         }

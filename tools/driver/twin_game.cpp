@@ -92,8 +92,8 @@ bool TwinGame::bring_to_front(XWindow window) {
 XPlace TwinGame::board() const {
     const PixelSize size = frmcards.client_size();
     const XPlace window = screen_.place(window_);
-    return {0, window.height - size.height * start_.scale, size.width * start_.scale,
-            size.height * start_.scale};
+    return {
+        0, window.height - size.height * start_.scale, size.width * start_.scale, size.height * start_.scale};
 }
 
 void TwinGame::resize(int width, int height) {

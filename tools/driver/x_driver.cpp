@@ -59,8 +59,18 @@ std::vector<unsigned long> XDriver::numbers(XWindow window, const char* property
     unsigned long count = 0;
     unsigned long left = 0;
     unsigned char* data = nullptr;
-    if (XGetWindowProperty(connection_->display, window, atom(connection_->display, property), 0, most, False,
-                           AnyPropertyType, &type, &format, &count, &left, &data) != Success) {
+    if (XGetWindowProperty(connection_->display,
+                           window,
+                           atom(connection_->display, property),
+                           0,
+                           most,
+                           False,
+                           AnyPropertyType,
+                           &type,
+                           &format,
+                           &count,
+                           &left,
+                           &data) != Success) {
         return {};
     }
     const XPointer<unsigned char> owner(data, XFree);
@@ -99,8 +109,8 @@ XPlace XDriver::place(XWindow window) const {
     XPlace place;
     XWindow child = None;
     if (!XGetWindowAttributes(connection_->display, window, &attributes)) return place;
-    XTranslateCoordinates(connection_->display, window, root(connection_->display), 0, 0, &place.x, &place.y,
-                          &child);
+    XTranslateCoordinates(
+        connection_->display, window, root(connection_->display), 0, 0, &place.x, &place.y, &child);
     place.width = attributes.width;
     place.height = attributes.height;
     return place;
@@ -111,8 +121,14 @@ XPixels XDriver::pixels(XWindow window) const {
     seen.width = std::min(seen.width, screen().width - seen.x);
     seen.height = std::min(seen.height, screen().height - seen.y);
     if (seen.width <= 0 || seen.height <= 0) return {};
-    XImage* image = XGetImage(connection_->display, window, 0, 0, static_cast<unsigned>(seen.width),
-                              static_cast<unsigned>(seen.height), AllPlanes, ZPixmap);
+    XImage* image = XGetImage(connection_->display,
+                              window,
+                              0,
+                              0,
+                              static_cast<unsigned>(seen.width),
+                              static_cast<unsigned>(seen.height),
+                              AllPlanes,
+                              ZPixmap);
     if (!image) return {};
     XPixels pixels{seen.width, seen.height, {}};
     pixels.rgb.reserve(static_cast<std::size_t>(seen.width) * static_cast<std::size_t>(seen.height));
@@ -160,8 +176,15 @@ bool XDriver::is_down(XButton button) const {
     XWindow ignored = None;
     int unused = 0;
     unsigned state = 0;
-    XQueryPointer(connection_->display, root(connection_->display), &ignored, &ignored, &unused, &unused,
-                  &unused, &unused, &state);
+    XQueryPointer(connection_->display,
+                  root(connection_->display),
+                  &ignored,
+                  &ignored,
+                  &unused,
+                  &unused,
+                  &unused,
+                  &unused,
+                  &state);
     return (state & (Button1Mask << (static_cast<unsigned>(button) - 1U))) != 0;
 }
 
@@ -206,8 +229,11 @@ void XDriver::send(XWindow target, XWindow window, const char* message, long fir
     event.xclient.data.l[0] = first;
     event.xclient.data.l[1] = second;
     const bool to_manager = target != window;
-    XSendEvent(connection_->display, target, False,
-               to_manager ? SubstructureRedirectMask | SubstructureNotifyMask : NoEventMask, &event);
+    XSendEvent(connection_->display,
+               target,
+               False,
+               to_manager ? SubstructureRedirectMask | SubstructureNotifyMask : NoEventMask,
+               &event);
     XSync(connection_->display, False);
 }
 

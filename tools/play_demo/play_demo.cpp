@@ -88,8 +88,8 @@ void play(const std::string& program, const std::string& picture) {
     act(game, "a drag from column to column", [&] { drag_a_card(game); });
     act(game, "a click on an ace", [&] { send_up_an_ace(game); });
     const XPixels all = game.screen().pixels(game.window());
-    const QImage image(reinterpret_cast<const uchar*>(all.rgb.data()), all.width, all.height,
-                       QImage::Format_RGB32);
+    const QImage image(
+        reinterpret_cast<const uchar*>(all.rgb.data()), all.width, all.height, QImage::Format_RGB32);
     require(image.save(QString::fromStdString(picture)), "cannot write " + picture);
     close_game(game);
     require(game.program().exit_code() == EXIT_SUCCESS,
