@@ -3,8 +3,8 @@
 #include <array>
 
 #include "board/display.h"
+#include "settings/repair.h"
 #include "settings/settings.h"
-#include "settings/stored_settings.h"
 #include "state/variables.h"
 #include "windows/frmcards.h"
 #include "windows/pictures.h"

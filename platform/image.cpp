@@ -1,7 +1,7 @@
 #include "platform/image.h"
 
 #include "platform/desktop.h"
-#include "platform/form.h"
+#include "platform/window.h"
 
 namespace tarnwick {
 

@@ -9,7 +9,6 @@
 #include "platform/desktop.h"
 #include "settings/repair.h"
 #include "settings/settings.h"
-#include "settings/stored_settings.h"
 #include "state/variables.h"
 #include "ui/handlers.h"
 #include "windows/frmBestScore.h"

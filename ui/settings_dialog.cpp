@@ -4,8 +4,8 @@
 
 #include "board/display.h"
 #include "board/table.h"
+#include "settings/repair.h"
 #include "settings/settings.h"
-#include "settings/stored_settings.h"
 #include "ui/handlers.h"
 #include "windows/frmCommon.h"
 #include "windows/frmFeatures.h"

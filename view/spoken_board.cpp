@@ -1,6 +1,7 @@
 #include "view/spoken_board.h"
 
 #include <algorithm>
+#include <exception>
 
 #include "game/drops.h"
 #include "platform/image.h"
@@ -22,6 +23,16 @@ std::vector<const Widget*> shared_widgets(const std::vector<BoardItem>& items,
 }
 
 }  // namespace
+
+std::vector<BoardItem> described_items(const Form& form) {
+    if (!form.loaded() || !form.on_describe) return {};
+    try {
+        return form.on_describe();
+    } catch (const std::exception&) {
+        // A move that a failure has cut short may have left a pile half changed.
+        return {};
+    }
+}
 
 const BoardItem* find_item(const std::vector<BoardItem>& items, const Widget* widget) {
     const auto item = std::find_if(

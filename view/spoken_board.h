@@ -8,6 +8,9 @@
 
 namespace tarnwick {
 
+/// What a window tells of its board now; nothing while it is not loaded, or in no order that could be told.
+std::vector<BoardItem> described_items(const Form& form);
+
 /// What is described of a widget; null where nothing is.
 const BoardItem* find_item(const std::vector<BoardItem>& items, const Widget* widget);
 

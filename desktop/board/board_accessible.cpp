@@ -1,6 +1,5 @@
 #include "desktop/board/board_accessible.h"
 
-#include <exception>
 #include <utility>
 
 #include "desktop/board/board_item_accessible.h"
@@ -59,13 +58,7 @@ BoardWidget& BoardAccessible::board() const { return *static_cast<BoardWidget*>(
 bool BoardAccessible::isValid() const { return QAccessibleWidget::isValid() && board().form().loaded(); }
 
 std::vector<BoardItem> BoardAccessible::items() const {
-    if (!isValid() || !board().form().on_describe) return {};
-    try {
-        return board().form().on_describe();
-    } catch (const std::exception&) {
-        // A move that waits for the answer to a message may have left a pile half changed.
-        return {};
-    }
+    return isValid() ? described_items(board().form()) : std::vector<BoardItem>{};
 }
 
 QAccessibleInterface* BoardAccessible::interface_of(const Widget& widget) const {

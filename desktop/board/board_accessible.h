@@ -27,8 +27,6 @@ class BoardAccessible : public QAccessibleWidget {
     QAccessibleInterface* childAt(int x, int y) const override;
 
     BoardWidget& board() const;
-    /// What the board shows now; nothing when its window is not loaded.
-    std::vector<BoardItem> items() const;
 
     /// Tells screen readers what has changed since the last call, or since the board was first looked at.
     /// What comes into sight is told as created, what goes as destroyed.
@@ -38,6 +36,7 @@ class BoardAccessible : public QAccessibleWidget {
     ~BoardAccessible() override;
 
   private:
+    std::vector<BoardItem> items() const;
     QAccessibleInterface* interface_of(const Widget& widget) const;
 
     mutable std::map<const Widget*, QAccessible::Id> children_;  ///< made when they are first asked for

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 
-#include "desktop/board/board_widget.h"
 #include "desktop/shared/qt_convert.h"
 #include "view/spoken_board.h"
 
@@ -17,11 +16,12 @@ bool waits_for_player() {
 }  // namespace
 
 QAccessibleInterface* BoardItemAccessible::parent() const {
-    return QAccessible::queryAccessibleInterface(board_.object());
+    return QAccessible::queryAccessibleInterface(group_.object());
 }
 
 BoardItem BoardItemAccessible::item() const {
-    const std::vector<BoardItem> items = board_.items();
+    if (!isValid()) return {};
+    const std::vector<BoardItem> items = described_items(board().form());
     const BoardItem* item = find_item(items, &widget_);
     return item ? *item : BoardItem{};
 }
@@ -35,7 +35,7 @@ QString BoardItemAccessible::text(QAccessible::Text text) const {
 
 QRect BoardItemAccessible::rect() const {
     if (!isValid()) return {};
-    const BoardWidget& board = board_.board();
+    const BoardWidget& board = this->board();
     const bool is_image = widget_.kind() == WidgetKind::image;
     // A label may be drawn larger than it is placed.
     QRect place = to_qt(widget_.place()).toAlignedRect();
@@ -55,8 +55,8 @@ QAccessible::State BoardItemAccessible::state() const {
     state.invalid = !isValid();
     if (state.invalid) return state;
     state.invisible = item().name.empty();
-    state.disabled = !board_.board().form().accepts_input();
-    state.offscreen = !rect().intersects(board_.rect());
+    state.disabled = !board().form().accepts_input();
+    state.offscreen = !rect().intersects(group_.rect());
     state.readOnly = true;
     return state;
 }
@@ -79,7 +79,7 @@ void BoardItemAccessible::doAction(const QString& action) {
     const int clicks = item().clicks;
     if (action != pressAction() || clicks == 0) return;
     // Later: a move may bring up a message, and whoever asks for it does not wait for the answer.
-    BoardWidget& board = board_.board();
+    BoardWidget& board = this->board();
     QMetaObject::invokeMethod(
         &board,
         [&board, &widget = widget_, clicks] {

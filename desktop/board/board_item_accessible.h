@@ -1,8 +1,9 @@
 #pragma once
 
 #include <QAccessible>
+#include <QAccessibleWidget>
 
-#include "desktop/board/board_accessible.h"
+#include "desktop/board/board_widget.h"
 
 namespace tarnwick {
 
@@ -12,14 +13,15 @@ class BoardItemAccessible : public QAccessibleInterface,
                             public QAccessibleActionInterface,
                             public QAccessibleValueInterface {
   public:
-    BoardItemAccessible(const BoardAccessible& board, const Widget& widget)
-        : board_(board), widget_(widget) {}
+    /// @param group  the board as a screen reader sees it
+    BoardItemAccessible(const QAccessibleWidget& group, const Widget& widget)
+        : group_(group), widget_(widget) {}
 
     const Widget& widget() const { return widget_; }
 
-    bool isValid() const override { return board_.isValid(); }
+    bool isValid() const override { return group_.isValid(); }
     QObject* object() const override { return nullptr; }
-    QWindow* window() const override { return board_.window(); }
+    QWindow* window() const override { return group_.window(); }
     QAccessibleInterface* parent() const override;
     QAccessibleInterface* child(int) const override { return nullptr; }
     int childCount() const override { return 0; }
@@ -48,7 +50,9 @@ class BoardItemAccessible : public QAccessibleInterface,
     /// What is told of the widget now; without a name when nothing is.
     BoardItem item() const;
 
-    const BoardAccessible& board_;
+    BoardWidget& board() const { return *static_cast<BoardWidget*>(group_.object()); }
+
+    const QAccessibleWidget& group_;
     const Widget& widget_;
 };
 

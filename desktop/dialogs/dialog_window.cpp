@@ -5,7 +5,6 @@
 #include <QMouseEvent>
 #include <QScreen>
 
-#include "desktop/app/qt_desktop.h"
 #include "desktop/shared/key_codes.h"
 #include "desktop/shared/qt_convert.h"
 #include "platform/key_codes.h"
