@@ -2,7 +2,7 @@
 
 #include "platform/graphics.h"
 #include "platform/image.h"
-#include "state/checked.h"
+#include "state/checked_numbers.h"
 
 namespace tarnwick {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "state/checked.h"
+#include "state/checked_numbers.h"
 #include "state/variables.h"
 
 namespace tarnwick {

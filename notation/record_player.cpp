@@ -4,7 +4,7 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "notation/table_hand.h"
+#include "notation/play_action.h"
 #include "platform/random.h"
 #include "settings/settings.h"
 #include "ui/program.h"

@@ -47,7 +47,7 @@ MUTATIONS = {
         ("158 * p + 220", "158 * p + 221", "cards beneath on ace piles lie further right"),
         ("turned_card_left = 83", "turned_card_left = 84", "the turned card lies further right"),
     ],
-    "board/table.cpp": [
+    "board/scaling.cpp": [
         ("frmcards.width() < design_width", "frmcards.width() <= design_width", "cards are scaled at 800 as well"),
         ("i = stock_image; i <= 4;", "i = stock_image; i <= 3;", "the last ace zone is not stretched"),
         ("4 * x_scale", "5 * x_scale", "the stock lies further right"),

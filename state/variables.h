@@ -1,7 +1,7 @@
 #pragma once
 
 #include "state/cards.h"
-#include "state/checked.h"
+#include "state/checked_numbers.h"
 
 namespace tarnwick {
 

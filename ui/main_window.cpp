@@ -1,7 +1,8 @@
 #include <string>
 
 #include "board/display.h"
-#include "board/table.h"
+#include "board/scaling.h"
+#include "board/table_colors.h"
 #include "game/deal.h"
 #include "game/end_game.h"
 #include "platform/desktop.h"

@@ -3,7 +3,8 @@
 #include <string>
 
 #include "board/display.h"
-#include "board/table.h"
+#include "board/scaling.h"
+#include "board/table_colors.h"
 #include "settings/repair.h"
 #include "settings/settings.h"
 #include "ui/handlers.h"

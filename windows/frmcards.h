@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "platform/controls.h"
 #include "platform/family.h"
 #include "platform/form.h"
@@ -46,6 +48,8 @@ struct Frmcards : Form {
     Label lblScoreText{*this};
     Label LblScore{*this};
     Label LblScoreMax{*this};
+    /// All three.
+    std::array<Label*, 3> score_labels() { return {&lblScoreText, &LblScore, &LblScoreMax}; }
     Family<Image> Image1;
     Family<Image> ImgCardBacks;
 

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "board/display.h"
-#include "notation/table_hand.h"
+#include "notation/play_action.h"
 #include "platform/image.h"
 #include "state/cards.h"
 #include "tests/play/display_check.h"

@@ -1,6 +1,4 @@
-#include "board/table.h"
-
-#include <array>
+#include "board/scaling.h"
 
 #include "board/display.h"
 #include "settings/repair.h"
@@ -13,10 +11,6 @@ namespace tarnwick {
 namespace {
 
 constexpr int design_width = 800;
-
-std::array<Label*, 3> score_labels() {
-    return {&frmcards.lblScoreText, &frmcards.LblScore, &frmcards.LblScoreMax};
-}
 
 void set_stretching(bool stretch) {
     for (int i = first_face_image; i <= last_face_image; ++i) frmcards.Image1(i).set_stretch(stretch);
@@ -55,17 +49,7 @@ void place_stock() {
 
 void place_score_labels() {
     const float top = static_cast<float>(frmcards.height()) / twips_per_pixel - 70;
-    for (Label* label : score_labels()) label->set_top(top);
-}
-
-void set_table_color(Color color) {
-    frmcards.set_back_color(color);
-    for (Label* label : score_labels()) label->set_back_color(color);
-}
-
-void set_text_color(Color color) {
-    for (Label* label : score_labels()) label->set_text_color(color);
-    frmcards.Shape1.for_each([color](Outline& outline) { outline.set_border_color(color); });
+    for (Label* label : frmcards.score_labels()) label->set_top(top);
 }
 
 }  // namespace tarnwick

@@ -1,4 +1,4 @@
-#include "state/checked.h"
+#include "state/checked_numbers.h"
 
 #include <cmath>
 

@@ -1,4 +1,4 @@
-#include "notation/table_hand.h"
+#include "notation/play_action.h"
 
 #include <stdexcept>
 

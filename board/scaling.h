@@ -1,10 +1,6 @@
 #pragma once
 
-#include "platform/graphics.h"
-
 namespace tarnwick {
-
-// The table as a whole: its size, and its colours.
 
 /// Decides whether the cards are scaled with the window, sets card_scale, and lays the whole table out again.
 /// They are when the window is narrower than 800 pixels or the setting "scale cards" is on.
@@ -18,10 +14,5 @@ void place_stock();
 
 /// Puts the score labels 70 pixels above the lower edge of the main window's frame.
 void place_score_labels();
-
-/// The colour of the table, and of the score labels on it.
-void set_table_color(Color color);
-/// The colour of the score labels' text and of the outlines.
-void set_text_color(Color color);
 
 }  // namespace tarnwick
