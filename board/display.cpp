@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <string>
 
+#include "board/turn_up.h"
 #include "board/twinkle.h"
 #include "state/routine.h"
-#include "state/undo_list.h"
 #include "windows/frmcards.h"
 #include "windows/pictures.h"
 
@@ -15,13 +15,6 @@ namespace {
 constexpr int column_left(int c) { return 79 * c + 4; }
 constexpr int column_top_edge = 120;
 constexpr int slot_offset = 20;
-
-void turn_up_top_card(int c, int top) {
-    layout(c, top, face_down_field) = 0;
-    frmcards.Image1(face_down_image(c, top)).hide();
-    add_to_score(1);
-    add_undo(turned_up_record, turned_up_record, turned_up_record);
-}
 
 Picture stock_picture() { return turned_slot() == last_tablet_slot() ? Picture{} : back_in_use(); }
 
@@ -92,7 +85,7 @@ void hide_stock() { frmcards.Image1(stock_image).hide(); }
 void redisplay_column(const Integer& c) {
     reporting("redisplay_column", [&] {
         const int top_card = column_top(c);
-        if (top_card != -1 && layout(c, top_card, face_down_field) == 1) turn_up_top_card(c, top_card);
+        turn_up_top_card(c);
         const float left = static_cast<float>(whole(x_scale * static_cast<float>(column_left(c))));
         const float width = static_cast<float>(whole(card_width * card_scale));
         const float height = static_cast<float>(whole(card_height * card_scale));
@@ -162,12 +155,5 @@ void change_back(const Integer& n) {
 }
 
 Picture back_in_use() { return frmcards.ImgCardBacks(card_back).picture(); }
-
-void add_to_score(int points) {
-    score += points;
-    show_score();
-}
-
-void show_score() { frmcards.LblScore.set_caption(std::to_string(score)); }
 
 }  // namespace tarnwick

@@ -53,9 +53,4 @@ void change_back(const Integer& n);
 /// The picture of the card back in use.
 Picture back_in_use();
 
-/// Changes the score by so many points, and shows it.
-void add_to_score(int points);
-/// Shows `score` in its label.
-void show_score();
-
 }  // namespace tarnwick

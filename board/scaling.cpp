@@ -1,7 +1,7 @@
 #include "board/scaling.h"
 
 #include "board/display.h"
-#include "settings/repair.h"
+#include "settings/on_off_settings.h"
 #include "settings/settings.h"
 #include "state/variables.h"
 #include "windows/frmcards.h"
@@ -24,7 +24,7 @@ void set_stretching(bool stretch) {
 }  // namespace
 
 void stretch_cards() {
-    const bool wanted = stored_flag(key_scale_cards);
+    const bool wanted = scaling_is_on();
     const bool scaled = frmcards.width() < design_width * twips_per_pixel || wanted;
     set_stretching(scaled);
     card_scale = scaled ? x_scale : 1.0F;

@@ -3,11 +3,12 @@
 #include <string>
 
 #include "board/display.h"
+#include "board/score.h"
 #include "board/slide.h"
 #include "game/end_game.h"
 #include "game/tablet.h"
 #include "platform/desktop.h"
-#include "settings/settings.h"
+#include "settings/on_off_settings.h"
 #include "state/piles.h"
 #include "state/routine.h"
 #include "state/undo_list.h"
@@ -38,9 +39,9 @@ void show_help(const std::string& message) {
     if (!message.empty()) desktop().notify({"Tarnwick", message});
 }
 
-bool help_is_wanted() { return !suppress_help && setting_is_on(key_show_message); }
+bool help_is_wanted() { return !suppress_help && messages_are_on(); }
 
-bool slides(bool animate) { return animate && setting_is_on(key_anamate); }
+bool slides(bool animate) { return animate && animation_is_on(); }
 
 }  // namespace
 

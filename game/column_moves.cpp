@@ -1,6 +1,7 @@
 #include "game/column_moves.h"
 
 #include "board/display.h"
+#include "board/score.h"
 #include "game/tablet.h"
 #include "state/piles.h"
 #include "state/routine.h"

@@ -5,6 +5,7 @@
 
 #include "board/display.h"
 #include "board/peek.h"
+#include "board/score.h"
 #include "board/slide.h"
 #include "board/twinkle.h"
 #include "platform/random.h"

@@ -1,6 +1,7 @@
 #include "game/tablet.h"
 
 #include "board/display.h"
+#include "board/score.h"
 #include "state/routine.h"
 #include "state/undo_list.h"
 #include "windows/frmcards.h"

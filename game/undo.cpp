@@ -1,6 +1,7 @@
 #include "game/undo.h"
 
 #include "board/display.h"
+#include "board/score.h"
 #include "board/slide.h"
 #include "game/ace_moves.h"
 #include "game/end_game.h"

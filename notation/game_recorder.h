@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <ostream>
 
-#include "notation/record.h"
+#include "notation/record_text.h"
 
 namespace tarnwick {
 

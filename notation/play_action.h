@@ -1,6 +1,6 @@
 #pragma once
 
-#include "notation/record.h"
+#include "notation/record_text.h"
 
 namespace tarnwick {
 

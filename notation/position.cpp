@@ -1,6 +1,7 @@
 #include "notation/position.h"
 
 #include "board/display.h"
+#include "board/score.h"
 #include "game/deal.h"
 #include "game/tablet.h"
 #include "notation/card_text.h"

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "notation/record.h"
+#include "notation/record_text.h"
 #include "platform/headless.h"
 #include "settings/store.h"
 

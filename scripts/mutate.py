@@ -32,7 +32,6 @@ MUTATIONS = {
         ("115 * card_scale", "114 * card_scale", "drop zones of columns begin higher"),
         ("470 * card_scale", "460 * card_scale", "drop zones of columns are shorter"),
         ("158 * p + 216", "158 * p + 217", "drop zones of ace piles lie further right"),
-        ("    add_to_score(1);", "    add_to_score(0);", "a card that is turned up earns nothing"),
         ("if (picture == ace_of_spades_image) begin_twinkle();", "", "an ace of Spades comes without a glint"),
         ("aces(p, picture_field) == plain_ace_image", "false", "an ace of Spades that is alone again stays plain"),
         ("aces(p, beneath_picture_field) == ace_of_spades_image", "false", "an ace of Spades beneath is not plain"),
@@ -65,6 +64,7 @@ MUTATIONS = {
         ("return slide_is_under_way() && image", "return image", "a card that has slid is in flight for ever"),
         ("void reset_slide() { animation(wins_game) = 0; }", "void reset_slide() {}", "a win is carried into the next game"),
     ],
+    "board/turn_up.cpp": [("    add_to_score(1);", "    add_to_score(0);", "a card that is turned up earns nothing")],
     "board/twinkle.cpp": [
         ("set_interval(frame_time)", "set_interval(60)", "the glint plays slower"),
         ("frmcards.Timer1.set_interval(idle_time);\n}", "frmcards.Timer1.set_interval(900);\n}", "the idle clock is faster"),
@@ -81,7 +81,7 @@ MUTATIONS = {
         ("rank == top + 1", "rank >= top + 1", "an ace pile takes a card too high"),
         ("top == ace && rank == two", "top == ace && rank <= two + 1", "a three lies on an ace"),
         ("!suppress_help && ", "", "automatic moves explain themselves"),
-        ("animate && setting_is_on", "setting_is_on", "a drop slides"),
+        ("animate && animation_is_on", "animation_is_on", "a drop slides"),
         ("add_undo(tablet_pile, target, 1)", "add_undo(tablet_pile, target, 0)", "another third number is recorded"),
         ("        add_to_score(1);", "        add_to_score(2);", "an ace pile earns two"),
         ("let_slide_win();", "end_game();", "a game that a slide wins ends before it"),
@@ -165,7 +165,7 @@ MUTATIONS = {
         ("(turned_up ? 2 : 1)", "1", "a full list keeps half a move"),
         ("undo_count() == most_undo_records) drop", "undo_count() == 298) drop", "the list is full too early"),
     ],
-    "ui/card_input.cpp": [
+    "ui/mouse_and_keys.cpp": [
         (" && !tablet_is_turned_for_good()", "", "the space bar turns what is turned for good"),
     ],
 }

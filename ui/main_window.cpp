@@ -6,6 +6,7 @@
 #include "game/deal.h"
 #include "game/end_game.h"
 #include "platform/desktop.h"
+#include "settings/on_off_settings.h"
 #include "settings/repair.h"
 #include "settings/settings.h"
 #include "state/variables.h"
@@ -45,7 +46,7 @@ void load() {
     show_faces();
     size_to_screen();
     measure_window();
-    card_scale = stored_flag(key_scale_cards) ? x_scale : 1.0F;
+    card_scale = scaling_is_on() ? x_scale : 1.0F;
     place_score_labels();
     new_game();
 }

@@ -58,7 +58,7 @@ void start_program(Store& store) {
     use_store(&store);
     forget_told_settings();
     attach_main_window();
-    attach_card_input();
+    attach_mouse_and_keys();
     attach_board_names();
     attach_twinkle();
     attach_peek();

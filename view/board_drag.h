@@ -5,7 +5,7 @@
 
 #include "platform/form.h"
 #include "view/board_layers.h"
-#include "view/glide.h"
+#include "view/glide_back.h"
 
 namespace tarnwick {
 

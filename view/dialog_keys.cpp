@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "platform/form.h"
-#include "view/presses.h"
+#include "view/control_presses.h"
 
 namespace tarnwick {
 namespace {

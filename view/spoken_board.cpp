@@ -5,7 +5,7 @@
 
 #include "game/drops.h"
 #include "platform/image.h"
-#include "view/presses.h"
+#include "view/control_presses.h"
 
 namespace tarnwick {
 namespace {

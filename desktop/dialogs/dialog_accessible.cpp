@@ -3,7 +3,7 @@
 #include <QAccessibleWidget>
 #include <QWidget>
 
-#include "view/presses.h"
+#include "view/control_presses.h"
 
 namespace tarnwick {
 namespace {

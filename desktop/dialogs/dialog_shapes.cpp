@@ -7,7 +7,7 @@
 #include "desktop/dialogs/dialog_control.h"
 #include "desktop/shared/picture_cache.h"
 #include "desktop/shared/qt_convert.h"
-#include "view/presses.h"
+#include "view/control_presses.h"
 #include "windows/pictures.h"
 
 namespace tarnwick {

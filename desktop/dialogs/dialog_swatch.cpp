@@ -6,7 +6,7 @@
 #include "desktop/dialogs/dialog_accessible.h"
 #include "desktop/dialogs/dialog_control.h"
 #include "desktop/shared/qt_convert.h"
-#include "view/presses.h"
+#include "view/control_presses.h"
 
 namespace tarnwick {
 namespace {

@@ -6,9 +6,9 @@
 #include <memory>
 
 #include "desktop/dialogs/dialog_control.h"
-#include "desktop/dialogs/dialog_measure.h"
+#include "desktop/dialogs/qt_dialog_measure.h"
 #include "desktop/shared/window_view.h"
-#include "view/presses.h"
+#include "view/control_presses.h"
 
 namespace tarnwick {
 

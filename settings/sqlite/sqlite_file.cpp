@@ -5,6 +5,8 @@
 #include <cerrno>
 #include <cstdint>
 
+#include "settings/sqlite/value_checksum.h"
+
 namespace tarnwick {
 namespace {
 
@@ -28,18 +30,6 @@ std::string column_text(sqlite3_stmt* statement, int column = 0) {
     const auto* bytes = static_cast<const char*>(sqlite3_column_blob(statement, column));
     const int length = sqlite3_column_bytes(statement, column);
     return std::string(bytes ? bytes : "", static_cast<std::size_t>(length));
-}
-
-// FNV-1a over all parts of a value: the structure of a file survives many a flipped bit in its texts.
-std::int64_t checksum_of(const SettingAddress& address, const std::string& text) {
-    std::uint32_t hash = 0x811c9dc5U;
-    for (const std::string* part : {&address.application, &address.section, &address.key, &text}) {
-        for (const char letter : *part + '\n') {
-            hash ^= static_cast<unsigned char>(letter);
-            hash *= 0x01000193U;
-        }
-    }
-    return hash;
 }
 
 // A file of a few bytes would be taken for a new one; all that is whole begins with a header. What is no file

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "settings/sqlite/lock_patience.h"
+#include "settings/sqlite/value_checksum.h"
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -26,15 +27,6 @@ class FileError : public std::runtime_error {
 
   private:
     FileFault fault_;
-};
-
-/// The name of one stored value.
-struct SettingAddress {
-    std::string application;
-    std::string section;
-    std::string key;
-    // NOLINTNEXTLINE(modernize-use-nullptr): what the compiler makes of it
-    auto operator<=>(const SettingAddress&) const = default;
 };
 
 /// Texts by their names; those that are known not to exist are nothing.

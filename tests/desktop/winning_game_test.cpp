@@ -3,7 +3,7 @@
 #include <QDate>
 #include <QLocale>
 
-#include "notation/record.h"
+#include "notation/record_text.h"
 #include "platform/key_codes.h"
 #include "state/variables.h"
 #include "tests/store/scratch_folder.h"

@@ -6,7 +6,7 @@
 #include <stdexcept>
 
 #include "notation/position.h"
-#include "notation/record.h"
+#include "notation/record_text.h"
 #include "tests/notation/refusal.h"
 
 namespace tarnwick {

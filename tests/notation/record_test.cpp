@@ -1,4 +1,4 @@
-#include "notation/record.h"
+#include "notation/record_text.h"
 
 #include <gtest/gtest.h>
 

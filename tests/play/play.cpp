@@ -3,7 +3,7 @@
 #include <sstream>
 
 #include "notation/position.h"
-#include "notation/record.h"
+#include "notation/record_text.h"
 #include "state/variables.h"
 #include "windows/frmcards.h"
 

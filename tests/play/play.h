@@ -27,7 +27,7 @@ class Play : public HeadlessGame {
     /// Starts, without sliding cards, in a position.
     void start(const std::string& position);
 
-    /// Plays lines of a record (see notation/record.h), with commas between them.
+    /// Plays lines of a record (see notation/record_text.h), with commas between them.
     void act(const std::string& record);
 
     /// Presses the mouse on the card that a pile would move, and lets go over what lies on top of the target,

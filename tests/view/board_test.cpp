@@ -10,7 +10,7 @@
 #include "settings/settings.h"
 #include "state/variables.h"
 #include "tests/view/grid_window.h"
-#include "view/ticking.h"
+#include "view/next_tick.h"
 
 namespace tarnwick {
 namespace {

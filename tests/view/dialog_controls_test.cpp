@@ -4,7 +4,7 @@
 #include "state/variables.h"
 #include "tests/play/play.h"
 #include "view/dialog_keys.h"
-#include "view/presses.h"
+#include "view/control_presses.h"
 #include "view/spoken_names.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmError.h"

@@ -7,7 +7,7 @@
 #include "game/tablet.h"
 #include "platform/key_codes.h"
 #include "settings/conversions.h"
-#include "settings/settings.h"
+#include "settings/on_off_settings.h"
 #include "state/variables.h"
 #include "ui/handlers.h"
 #include "windows/frmcards.h"
@@ -61,7 +61,7 @@ const Widget* receiver(const Image& dragged, const Image& target, float x) {
 // A text that does not convert must not come in the way of a drop; the moves tell about it.
 bool glides_back() {
     try {
-        return setting_is_on(key_anamate);
+        return animation_is_on();
     } catch (const ConversionError&) {
         return false;
     }
@@ -69,7 +69,7 @@ bool glides_back() {
 
 }  // namespace
 
-void attach_card_input() {
+void attach_mouse_and_keys() {
     frmcards.image_events.click = click;
     frmcards.image_events.double_click = peek_at;
     frmcards.image_events.drop = [](int index, Image& source, float x, float) {

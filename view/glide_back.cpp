@@ -1,4 +1,4 @@
-#include "view/glide.h"
+#include "view/glide_back.h"
 
 #include <algorithm>
 #include <utility>

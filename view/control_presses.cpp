@@ -1,4 +1,4 @@
-#include "view/presses.h"
+#include "view/control_presses.h"
 
 #include <utility>
 

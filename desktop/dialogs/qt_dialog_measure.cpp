@@ -1,4 +1,4 @@
-#include "desktop/dialogs/dialog_measure.h"
+#include "desktop/dialogs/qt_dialog_measure.h"
 
 #include <QFontInfo>
 #include <QFontMetricsF>

@@ -1,4 +1,4 @@
-#include "view/ticking.h"
+#include "view/next_tick.h"
 
 #include <algorithm>
 
