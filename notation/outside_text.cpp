@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cstdint>
+#include <iostream>
 #include <stdexcept>
+#include <system_error>
 
 namespace tarnwick {
 namespace {
@@ -97,6 +100,11 @@ bool read_line(std::istream& stream, std::string& line) {
         if (line.size() > longest_line * longest_character) return true;
     }
     return !line.empty() && !stream.bad();
+}
+
+void flush_standard_output() {
+    if (std::cout.flush()) return;
+    throw std::runtime_error("the output cannot be written: " + std::generic_category().message(errno));
 }
 
 }  // namespace tarnwick

@@ -25,4 +25,8 @@ void check_length(std::string_view line);
 /// much as check_length needs to refuse it.
 bool read_line(std::istream& stream, std::string& line);
 
+/// Sends off what was written to std::cout. Throws std::runtime_error, in one sentence, when that or
+/// something before it could not be written. A closed pipe is told like this only where SIGPIPE is ignored.
+void flush_standard_output();
+
 }  // namespace tarnwick

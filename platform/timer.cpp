@@ -67,4 +67,10 @@ TimerQueue& timer_queue() {
     return queue;
 }
 
+std::optional<std::int64_t> time_to_next_tick() {
+    const std::optional<std::int64_t> due = timer_queue().next_due();
+    if (!due) return std::nullopt;
+    return std::max<std::int64_t>(0, *due - desktop().now());
+}
+
 }  // namespace tarnwick

@@ -55,4 +55,9 @@ class TimerQueue {
 
 TimerQueue& timer_queue();
 
+/// Milliseconds until the next timer of the program is due, 0 for one that is late; nothing where none runs.
+/// To be asked by a front end whenever the desktop is told that its timers have changed, and at the end of an
+/// event, during which none of them ticks.
+std::optional<std::int64_t> time_to_next_tick();
+
 }  // namespace tarnwick

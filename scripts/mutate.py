@@ -88,7 +88,7 @@ MUTATIONS = {
         ("aces(p, rank_field) == ace && ", "", "the bonus is paid for every card"),
         ("empty_ace_piles() == 0", "empty_ace_piles() == 1", "the bonus is paid for the third ace"),
     ],
-    "state/piles.h": [("fourth_ace_bonus = 10", "fourth_ace_bonus = 11", "the bonus is eleven")],
+    "board/score.h": [("fourth_ace_bonus = 10", "fourth_ace_bonus = 11", "the bonus is eleven")],
     "game/column_moves.cpp": [
         ("card.rank == king", "card.rank >= queen", "a Queen goes on an empty column"),
         (" == king && layout(source, i, face_down_field) == 0;", " == king;", "a face-down King moves"),

@@ -9,16 +9,6 @@ void put_on_top(int p, const Card& card) {
     aces(p, picture_field) = card.picture;
 }
 
-constexpr int dealt_face_down = 45;
-
-int face_down_cards() {
-    int count = 0;
-    for (int c = 0; c <= last_column; ++c) {
-        for (int s = 0; s <= column_top(c); ++s) count += layout(c, s, face_down_field);
-    }
-    return count;
-}
-
 }  // namespace
 
 void put_into_slot(int c, int slot, const Card& card) {
@@ -112,13 +102,6 @@ void move_up_on_ace_pile(int p) {
 void empty_ace_pile(int p) {
     aces(p, rank_field) = none;
     aces(p, suit_field) = none;
-}
-
-int score_of_state() {
-    int points = tablet_size - 1 - last_tablet_slot();
-    points += dealt_face_down - face_down_cards();
-    for (int p = 0; p <= 3; ++p) points += ace_pile_size(p);
-    return points + (empty_ace_piles() == 0 ? fourth_ace_bonus : 0);
 }
 
 }  // namespace tarnwick

@@ -17,7 +17,6 @@
 #include "desktop/shared/picture_cache.h"
 #include "notation/game_recorder.h"
 #include "notation/outside_text.h"
-#include "notation/standard_output.h"
 #include "platform/random.h"
 #include "settings/sqlite/sqlite_store.h"
 #include "settings/sqlite/store_path.h"

@@ -25,7 +25,6 @@
 #include "desktop/shared/qt_convert.h"
 #include "notation/outside_text.h"
 #include "platform/timer.h"
-#include "view/next_tick.h"
 
 namespace tarnwick {
 

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "board/score.h"
 #include "notation/position.h"
 #include "state/piles.h"
 #include "state/undo_list.h"

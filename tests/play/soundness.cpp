@@ -1,4 +1,5 @@
 #include "tests/play/soundness.h"
+#include "board/score.h"
 
 #include <array>
 

@@ -7,10 +7,10 @@
 
 #include "board/display.h"
 #include "platform/key_codes.h"
+#include "platform/timer.h"
 #include "settings/settings.h"
 #include "state/variables.h"
 #include "tests/view/grid_window.h"
-#include "view/next_tick.h"
 
 namespace tarnwick {
 namespace {

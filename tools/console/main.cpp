@@ -15,7 +15,6 @@
 #include "notation/outside_text.h"
 #include "notation/position.h"
 #include "notation/record_player.h"
-#include "notation/standard_output.h"
 #include "tools/console/random_game.h"
 
 namespace {
