@@ -128,6 +128,9 @@ class Form : public Window {
     const Mouse& mouse() const { return mouse_; }
 
     const std::vector<Menu>& menus() const { return menus_; }
+    /// Whether the window is the table: a menu bar, and one painted board below it. Any other window is a
+    /// dialog, made of controls.
+    bool is_board() const { return !menus_.empty(); }
 
   protected:
     /// Puts the window and its widgets into their stored state.
