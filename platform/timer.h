@@ -42,7 +42,8 @@ class TimerQueue {
 
     /// The time (milliseconds of the desktop's clock) at which the next tick is due, or nothing.
     std::optional<std::int64_t> next_due() const;
-    /// Lets every timer that is due tick once, however late it is, the longest due first.
+    /// Lets every timer that is due tick once, however late it is, the longest due first, each in an event of
+    /// its own. None ticks during an event, nor while a question is open.
     void run_due();
     /// Starts new periods for the timers of a window that has just been loaded.
     void start(const Window& window);
