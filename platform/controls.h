@@ -150,7 +150,8 @@ class TextBox : public Widget {
     /// A key went down in the box; true means that it is dealt with.
     std::function<bool(int key_code)> on_key_down;
 
-    /// What a desktop calls when the user types, clicks, or presses a key.
+    /// What a desktop calls when the user has edited the text (`text` is all of it), clicks, or presses a
+    /// key.
     void type(const std::string& text);
     void click();
     bool key_down(int key_code);

@@ -25,17 +25,19 @@ class Desktop : public Questions {
     /// The longest time between the presses of a two-click event, in milliseconds.
     virtual std::int64_t double_click_time() const { return 500; }
 
-    /// The view of a window that is being loaded; may be null.
+    /// The view of a window that is being loaded, its widgets as stored, before on_load; may be null.
     virtual std::unique_ptr<FormView> make_view(Form& form) = 0;
     /// A timer has started a new period.
     virtual void timers_changed() {}
-    /// A window was shown or unloaded.
+    /// A window was shown or unloaded. The program is over when none is shown and no question is open.
     virtual void windows_changed() {}
 
-    /// Shows a help file, looked for where the program's files are; false when it is not found.
+    /// Shows a help file, looked for where the program's files are; false when it is not found, of which the
+    /// player is told nothing.
     virtual bool show_help(const std::string& file_name) = 0;
-    /// Runs an action every second, messages or not, until another one, or null, takes its place. What it
-    /// does must be no business of the windows.
+    /// Runs an action every second, messages or not, until another one, or null, takes its place: the action
+    /// may do that itself, so that what runs is to be a copy. What it does must be no business of the
+    /// windows.
     virtual void run_in_background(std::function<void()> action) = 0;
 };
 

@@ -15,7 +15,8 @@ class Events {
     Events& operator=(const Events&) = delete;
 
     /// Runs the handler of one event. A failure that leaves it is told to the player in one message, and the
-    /// program goes on. Timers do not tick meanwhile.
+    /// program goes on. Timers do not tick meanwhile. Windows, widgets, menus, timers and the mouse run their
+    /// handlers in one themselves.
     void event(const std::function<void()>& handler);
     bool event_is_under_way() const { return depth_ > 0; }
     /// Runs an action after the current event, or at once where there is none.

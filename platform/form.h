@@ -77,7 +77,8 @@ class Form : public Window {
     /// The user clicked the window's own background.
     std::function<void()> on_click;
     std::function<void(int key_code)> on_key_down;
-    /// Tells what the widgets of a board mean, in the order in which they are read out.
+    /// Tells what the widgets of a board mean, in the order in which they are read out. Nobody is told that
+    /// it has changed: it may after every event, and what is new is found by view/spoken_board.h.
     std::function<std::vector<BoardItem>()> on_describe;
 
     /// Creates the window as stored and runs on_load; nothing when it is loaded already.
@@ -121,13 +122,17 @@ class Form : public Window {
     /// What a desktop calls when the user has resized the window (client area, pixels) or changed its state.
     void user_resized(PixelSize client);
     void user_changed_state(WindowState state);
-    /// What a desktop calls for a key. True when the window has a handler for keys and took it.
+    /// What a desktop calls for a key that no control has dealt with. True when the window has a handler for
+    /// keys and took it.
     bool key_down(int key_code);
     void click_background();
     Mouse& mouse() override { return mouse_; }
     const Mouse& mouse() const { return mouse_; }
 
     const std::vector<Menu>& menus() const { return menus_; }
+    /// Whether the window is the table: a menu bar, and one painted board below it. Any other window is a
+    /// dialog, made of controls.
+    bool is_board() const { return !menus_.empty(); }
 
   protected:
     /// Puts the window and its widgets into their stored state.

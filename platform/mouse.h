@@ -16,8 +16,8 @@ class Widget;
 enum class MouseButton { left, other };
 
 /// What the left mouse button does to the images of one window: clicks and two-click events on images that
-/// are dragged by hand, drags and drops of those on automatic drag. Places are pixels in the window's client
-/// area.
+/// are dragged by hand, drags and drops of those on automatic drag. Places are pixels of the board: those of
+/// the window's client area, as long as it is not scrolled.
 class Mouse {
   public:
     explicit Mouse(Window& window) : window_(window) {}

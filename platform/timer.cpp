@@ -69,7 +69,7 @@ TimerQueue& timer_queue() {
 
 std::optional<std::int64_t> time_to_next_tick() {
     const std::optional<std::int64_t> due = timer_queue().next_due();
-    if (!due) return std::nullopt;
+    if (!due || desktop().asking()) return std::nullopt;
     return std::max<std::int64_t>(0, *due - desktop().now());
 }
 

@@ -42,7 +42,8 @@ class TimerQueue {
 
     /// The time (milliseconds of the desktop's clock) at which the next tick is due, or nothing.
     std::optional<std::int64_t> next_due() const;
-    /// Lets every timer that is due tick once, however late it is, the longest due first.
+    /// Lets every timer that is due tick once, however late it is, the longest due first, each in an event of
+    /// its own. None ticks during an event, nor while a question is open.
     void run_due();
     /// Starts new periods for the timers of a window that has just been loaded.
     void start(const Window& window);
@@ -55,9 +56,9 @@ class TimerQueue {
 
 TimerQueue& timer_queue();
 
-/// Milliseconds until the next timer of the program is due, 0 for one that is late; nothing where none runs.
-/// To be asked by a front end whenever the desktop is told that its timers have changed, and at the end of an
-/// event, during which none of them ticks.
+/// Milliseconds until the next timer of the program is due, 0 for one that is late; nothing where none runs,
+/// or while a question is open, during which none may tick. To be asked by a front end whenever the desktop
+/// is told that its timers have changed, and at the end of an event, during which none of them ticks.
 std::optional<std::int64_t> time_to_next_tick();
 
 }  // namespace tarnwick

@@ -13,13 +13,16 @@ class Mouse;
 class Widget;
 
 /// What a desktop shows of one window. A window without a view (headless, or not loaded) is only kept in
-/// memory.
+/// memory. A view goes with its window, which may be in the midst of what it hands on to it: behind a press,
+/// a key or the close box it must not touch itself any more without looking.
 class FormView {
   public:
     virtual ~FormView() = default;
     /// A widget looks different, or lies elsewhere: it was seen at `before`.
     virtual void widget_changed(const Widget& widget, const Rect& before) = 0;
-    /// The window was shown or hidden, enabled or disabled, resized or recoloured by the program.
+    /// The window was shown or hidden, enabled or disabled, resized, recoloured or given another title by the
+    /// program. One that was just shown is in front and has the keyboard; the program disables those that
+    /// must wait for it.
     virtual void form_changed() = 0;
     virtual void menu_changed() = 0;
     virtual void raise() = 0;

@@ -63,7 +63,8 @@ struct PaintedLabel {
 };
 
 /// All that is seen of an area of a board, from back to front, in the order of these members. What only
-/// reaches into the area is listed whole: the area clips it.
+/// reaches into the area is listed whole: the area clips it. All places count from the upper left corner of
+/// the board, those of the labels too: a front end shifts them all up by BoardScroll::offset().
 struct BoardLayers {
     Area area;  ///< pixels of the board
     Color background = black;

@@ -42,7 +42,8 @@ class BoardStage {
     // What happens on the screen.
     /// The desktop's font is another one.
     void font_changed() { update_labels(); }
-    /// The board's window has this size now, in pixels.
+    /// The board's window has this size now, in pixels: to be told before the first picture, and after every
+    /// change, whoever made it. The stage tells the form (Form::user_resized).
     void resized(PixelSize size);
     /// The event is over after which BoardFront::settle_later() was to be answered.
     void settle();
@@ -54,11 +55,12 @@ class BoardStage {
     void release(double x, double y, MouseButton button, bool elsewhere);
     /// The board has lost the mouse or the keyboard, or is no longer seen: nothing is dragged or pressed.
     void cancel() { form_.mouse().cancel(); }
-    /// A key, by its code (see platform/key_codes.h), 0 for one without. True when it was taken.
+    /// A key, by its code (see platform/key_codes.h), 0 for one without: it may scroll, and goes to
+    /// the form. True when that took it.
     bool key_down(int key_code);
     /// Scrolls to a value of scroll(), which a scroll bar was moved to.
     void scroll_to(int value);
-    /// Scrolls on by so many pixels, for a wheel: BoardScroll::step for each of its notches.
+    /// Scrolls down by so many pixels, for a wheel: BoardScroll::step for each of its notches.
     void scroll_by(int pixels);
     /// Scrolls as far as it takes to see this row, in pixels of the board.
     void reveal(int y);
@@ -70,7 +72,8 @@ class BoardStage {
     void step();
 
     // What is painted.
-    /// All areas that were told so far are painted now.
+    /// All areas that were told so far are painted now: to be called before each picture. Until then, what is
+    /// all to be painted is told no further areas.
     void begin_painting() { repaints_ = 0; }
     BoardScene& scene() { return scene_; }
     const BoardScene& scene() const { return scene_; }

@@ -14,8 +14,8 @@ bool takes_presses(Window& window);
 /// Whether a press on a control does anything.
 bool is_pressable(const Widget& widget);
 
-/// Does what a click on a control does, the mouse's, the keyboard's or a screen reader's; nothing where its
-/// window takes no presses.
+/// Does what a click on a control of a dialog does, the mouse's, the keyboard's or a screen reader's; nothing
+/// where its window takes no presses. The window, and with it its view, may be gone afterwards.
 void press(Widget& widget);
 
 /// Takes a character that was typed into a swatch, in which nothing can be read, for a press. False for Space

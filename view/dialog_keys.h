@@ -24,6 +24,8 @@ OptionButton& option_beside(const OptionButton& option, int step);
 /// `focused` may be null.
 bool takes_keyboard_from(const OptionButton& option, const Widget* focused);
 
+// The first to be asked about a key is the text box that has the keyboard (TextBox::key_down).
+
 /// What Escape does to a dialog: presses the button that cancels. Without one there is nothing for it to do:
 /// it must not enter half a name.
 void press_escape(const Form& form);

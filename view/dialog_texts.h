@@ -24,8 +24,10 @@ bool text_fits(const Widget& widget, PixelSize place, const DialogMeasure& measu
 /// The text of a control as it is shown.
 struct ShownText {
     TextFont font;
-    std::string text;    ///< ends in an ellipsis where it is too wide
-    bool wraps = false;  ///< in lines, from the upper edge on; else one line, in the middle of the height
+    std::string text;  ///< ends in an ellipsis where it is too wide
+    /// In lines, from the upper edge on; else one line, in the middle of the height. The title of a frame
+    /// lies on its upper edge.
+    bool wraps = false;
     /// The whole of a text that cannot be seen in full; empty for any other. A front end can break it into
     /// lines of a readable length, even where it has no spaces.
     std::string tip;

@@ -14,7 +14,8 @@ std::vector<BoardItem> described_items(const Form& form);
 /// What is described of a widget; null where nothing is.
 const BoardItem* find_item(const std::vector<BoardItem>& items, const Widget* widget);
 
-/// One thing to tell of a board.
+/// One thing to tell of a board. The name of a widget that shows a number holds that number: another one is
+/// told twice, as another name and as another value, for a front end to speak one of them.
 struct SpokenChange {
     enum class Kind { gone, came, renamed, other_value, reordered };
     Kind kind;

@@ -78,8 +78,8 @@ std::string QtDesktop::short_date() const {
 std::int64_t QtDesktop::double_click_time() const { return QApplication::doubleClickInterval(); }
 
 std::unique_ptr<FormView> QtDesktop::make_view(Form& form) {
-    if (form.menus().empty()) return std::make_unique<DialogView>(windows_, form);
-    return std::make_unique<BoardView>(windows_, form);
+    if (form.is_board()) return std::make_unique<BoardView>(windows_, form);
+    return std::make_unique<DialogView>(windows_, form);
 }
 
 void QtDesktop::timers_changed() {

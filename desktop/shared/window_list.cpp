@@ -7,8 +7,7 @@ namespace tarnwick {
 
 QWidget* WindowList::main_window() const {
     for (const OpenWindow* window : windows_) {
-        if (window->native && !window->form.menus().empty() && !window->form.unloading())
-            return window->native;
+        if (window->native && window->form.is_board() && !window->form.unloading()) return window->native;
     }
     return nullptr;
 }

@@ -271,7 +271,12 @@ TEST_F(ShownBoard, TellsWhenTheNextTimerTicks) {
     game.desktop.event([&] {
         game.desktop.sleep(5000);
         EXPECT_EQ(time_to_next_tick(), 0) << "late";
+        game.desktop.leave_questions_open();
+        desktop().notify({});
+        EXPECT_FALSE(time_to_next_tick()) << "waits for the answer";
     });
+    game.desktop.answer(MessageAnswer::ok);
+    EXPECT_EQ(time_to_next_tick(), 0);
 }
 
 }  // namespace

@@ -161,8 +161,7 @@ class GridGame {
   private:
     struct GridDesktop : HeadlessDesktop {
         std::unique_ptr<FormView> make_view(Form& form) override {
-            if (form.menus().empty()) return nullptr;
-            return std::make_unique<GridView>(form);
+            return form.is_board() ? std::make_unique<GridView>(form) : nullptr;
         }
     };
 
