@@ -6,8 +6,8 @@
 #include "board/score.h"
 #include "board/slide.h"
 #include "game/end_game.h"
+#include "game/help_messages.h"
 #include "game/tablet.h"
-#include "platform/desktop.h"
 #include "settings/on_off_settings.h"
 #include "state/piles.h"
 #include "state/routine.h"
@@ -23,23 +23,6 @@ bool comes_next(int top, int beneath, int rank) {
     const bool two_on_ace = top == ace && rank == two;
     return two_on_ace || next_rank || other_of_rank;
 }
-
-// What an ace pile waits for, told to a player whose card was refused; empty when there is nothing to tell.
-std::string ace_pile_message(int top_rank, int beneath_rank, int pile_suit) {
-    if (top_rank == none) return "Place a Ace at the bottom of the pile first";
-    if (top_rank == king && beneath_rank == king) return {};
-    const std::string suit = suit_name(pile_suit);
-    if (top_rank == ace) return "Only a 2 of " + suit + " can be placed on the Ace of " + suit;
-    if (top_rank == beneath_rank) return "Place a " + card_name(top_rank + 1, pile_suit) + " on top";
-    if (top_rank > beneath_rank) return "Place the other " + card_name(top_rank, pile_suit) + " on top";
-    return {};
-}
-
-void show_help(const std::string& message) {
-    if (!message.empty()) desktop().notify({"Tarnwick", message});
-}
-
-bool help_is_wanted() { return !suppress_help && messages_are_on(); }
 
 bool slides(bool animate) { return animate && animation_is_on(); }
 
@@ -67,7 +50,7 @@ bool to_ace(const Integer& target, const Integer& top_rank, const Integer& benea
         when(legal, [&] { from_column ? layout_to_ace(target, animate) : tablet_to_ace(target, animate); }),
         when(legal, [&] { placed = true; }),
         unless(legal, [&] { explained = help_is_wanted(); }),
-        when(explained, [&] { show_help(ace_pile_message(top_rank, beneath_rank, pile_suit)); }));
+        when(explained, [&] { show_help(help_about_ace_pile(top_rank, beneath_rank, pile_suit)); }));
     return placed;
 }
 

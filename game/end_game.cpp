@@ -1,8 +1,8 @@
 #include "game/end_game.h"
 
 #include "board/slide.h"
-#include "game/best_scores.h"
 #include "game/deal.h"
+#include "game/statistics.h"
 #include "platform/desktop.h"
 #include "state/routine.h"
 #include "windows/frmcards.h"

@@ -73,14 +73,16 @@ MUTATIONS = {
         ("shown_tablet_image() != ace_of_spades_image", "true", "the turned ace twinkles"),
         ("ace_of_spades().top() == static_cast<float>(top_row)", "true", "an ace in a column twinkles"),
     ],
-    "game/ace_moves.cpp": [
+    "game/help_messages.cpp": [
         ("top_rank + 1, pile_suit)", "top_rank, pile_suit)", "the message asks for the rank that lies there"),
         ("top_rank == king && beneath_rank == king", "false", "a complete pile asks for another card"),
+        ("!suppress_help && ", "", "automatic moves explain themselves"),
+    ],
+    "game/ace_moves.cpp": [
         ("legal = card_rank == ace;", "legal = card_rank <= two;", "a two opens an ace pile"),
         ("legal = card_suit == pile_suit;", "legal = true;", "an ace pile takes any suit"),
         ("rank == top + 1", "rank >= top + 1", "an ace pile takes a card too high"),
         ("top == ace && rank == two", "top == ace && rank <= two + 1", "a three lies on an ace"),
-        ("!suppress_help && ", "", "automatic moves explain themselves"),
         ("animate && animation_is_on", "animation_is_on", "a drop slides"),
         ("add_undo(tablet_pile, target, 1)", "add_undo(tablet_pile, target, 0)", "another third number is recorded"),
         ("        add_to_score(1);", "        add_to_score(2);", "an ace pile earns two"),
@@ -123,7 +125,7 @@ MUTATIONS = {
         ("card_of(from).rank < two", "card_of(from).rank < ace", "an ace that lies on its pile marks a column"),
         ("!is_ace_pile(from) && ace_pile_takes", "ace_pile_takes", "a card from an ace pile marks another one"),
     ],
-    "game/best_scores.cpp": [
+    "game/statistics.cpp": [
         (" <= points", " < points", "an equal score enters the table below"),
         ("complete && found->place == 1", "complete", "a win below the first place counts"),
         ("if (!found->decided) ", "", "a win that was shown is counted by what the table holds later"),

@@ -4,6 +4,7 @@
 #include "board/display.h"
 #include "board/peek.h"
 #include "game/drops.h"
+#include "game/lifted_cards.h"
 #include "game/tablet.h"
 #include "platform/key_codes.h"
 #include "settings/conversions.h"
@@ -21,25 +22,6 @@ void click(int index) {
 
 void key_down(int key_code) {
     if (key_code == space_key && !tablet_is_turned_for_good()) next_tablet_card();
-}
-
-// A column's card takes those that lie on it along. Of an ace pile it is the top card that moves, whichever
-// of the two was taken hold of.
-std::vector<Image*> lift(Image& dragged) {
-    const auto image = [](int picture) { return &frmcards.Image1(picture); };
-    for (int c = 0; c <= last_column; ++c) {
-        for (int s = 0; s <= column_top(c); ++s) {
-            if (layout(c, s, column_picture_field) != dragged.index()) continue;
-            std::vector<Image*> run;
-            for (int j = s; j <= column_top(c); ++j) run.push_back(image(layout(c, j, column_picture_field)));
-            return run;
-        }
-    }
-    for (int p = 0; p <= 3; ++p) {
-        const bool in_pile = !ace_pile_is_empty(p) && aces(p, beneath_picture_field) == dragged.index();
-        if (in_pile && !ace_pile_holds_one_card(p)) return {image(aces(p, picture_field))};
-    }
-    return {&dragged};
 }
 
 // An empty pile is seen by its outline: its drop zone is larger.
@@ -76,7 +58,7 @@ void attach_mouse_and_keys() {
         drop_on_image(index, source, x);
     };
     frmcards.on_key_down = key_down;
-    frmcards.mouse().on_lift = lift;
+    frmcards.mouse().on_lift = lifted_cards;
     frmcards.mouse().on_hover = receiver;
     frmcards.mouse().on_put_back = glides_back;
 }

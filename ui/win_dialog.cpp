@@ -1,5 +1,5 @@
-#include "game/best_scores.h"
 #include "game/end_game.h"
+#include "game/statistics.h"
 #include "platform/desktop.h"
 #include "platform/key_codes.h"
 #include "state/variables.h"

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/controls.h"
-#include "view/spoken_names.h"
+#include "view/dialog_names.h"
 
 namespace tarnwick {
 namespace {

@@ -10,7 +10,7 @@
 #include "platform/key_codes.h"
 #include "view/dialog_keys.h"
 #include "view/dialog_layout.h"
-#include "view/spoken_names.h"
+#include "view/dialog_names.h"
 
 namespace tarnwick {
 namespace {

@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <thread>
 
-#include "game/best_scores.h"
+#include "game/statistics.h"
 #include "settings/repair.h"
 #include "settings/settings.h"
 #include "state/variables.h"

@@ -1,4 +1,4 @@
-#include "view/spoken_names.h"
+#include "view/dialog_names.h"
 
 #include "platform/controls.h"
 #include "platform/form.h"

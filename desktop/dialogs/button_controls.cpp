@@ -5,8 +5,8 @@
 
 #include "desktop/dialogs/dialog_control.h"
 #include "desktop/shared/qt_convert.h"
-#include "view/dialog_keys.h"
 #include "view/control_presses.h"
+#include "view/dialog_keys.h"
 
 namespace tarnwick {
 namespace {

@@ -1,4 +1,4 @@
-#include "game/best_scores.h"
+#include "game/statistics.h"
 
 #include <memory>
 
