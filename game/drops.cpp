@@ -129,7 +129,8 @@ void drop_on_image(int index, const Image& source, float x) {
 bool column_to_column(const Integer& target) {
     bool moved = false;
     const bool from_tablet = drag_source == tablet_pile;
-    const bool from_column = is_column(drag_source);
+    // A window that could not be laid out leads to numbers of no pile: they must fail, not be refused.
+    const bool from_column = drag_source < first_ace_pile;
     const bool from_ace_pile = !from_tablet && !from_column;
     resumable(
         "column_to_column",
@@ -144,8 +145,8 @@ bool column_to_column(const Integer& target) {
 
 bool from_tablet_to(const Integer& target) {
     const bool home = target == tablet_pile;
-    const bool on_ace_pile = is_ace_pile(target);
-    const bool on_column = is_column(target);
+    const bool on_ace_pile = !home && target >= first_ace_pile;
+    const bool on_column = target < first_ace_pile;
     int p = none;
     bool moved = false;
     resumable(
@@ -161,8 +162,8 @@ bool from_tablet_to(const Integer& target) {
 }
 
 bool from_column_to(const Integer& target) {
-    const bool home = target == drag_source;
-    const bool on_ace_pile = is_ace_pile(target);
+    const bool on_ace_pile = target >= first_ace_pile;
+    const bool home = !on_ace_pile && target == drag_source;
     const bool on_column = !home && !on_ace_pile;
     int p = none;
     bool moved = false;

@@ -40,7 +40,7 @@ void end_game() {
         if (phase == Phase::playing) {
             stop_effects();
             if (score != 0) count(slide_cut_short);
-            if (phase == Phase::playing) new_game();
+            if (frmcards.enabled()) new_game();
         }
         ended = true;
     });

@@ -80,7 +80,7 @@ MUTATIONS = {
     ],
     "game/ace_moves.cpp": [
         ("legal = card_rank == ace;", "legal = card_rank <= two;", "a two opens an ace pile"),
-        ("legal = card_suit == pile_suit;", "legal = true;", "an ace pile takes any suit"),
+        ("legal = card_suit == pile_suit && comes", "legal = comes", "an ace pile takes any suit"),
         ("rank == top + 1", "rank >= top + 1", "an ace pile takes a card too high"),
         ("top == ace && rank == two", "top == ace && rank <= two + 1", "a three lies on an ace"),
         ("animate && animation_is_on", "animation_is_on", "a drop slides"),
@@ -137,7 +137,7 @@ MUTATIONS = {
         ("if (phase == Phase::playing) {", "{", "a game is counted again behind its dialogs"),
         ("    if (slide_cut_short) land_slide();\n", "", "a card hangs in the air behind the win dialog"),
         ("    if (!slide_wins() || !all_ace_piles_complete()) return false;", "    return false;", "a slide cut short loses the win"),
-        ("if (phase == Phase::playing) new_game", "new_game", "the next game is dealt behind the win dialog"),
+        ("if (frmcards.enabled()) new_game", "new_game", "the next game is dealt behind the win dialog"),
     ],
     "game/tablet.cpp": [
         ("cards_per_turn = 5", "cards_per_turn = 4", "four cards are turned"),

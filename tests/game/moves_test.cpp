@@ -1,12 +1,14 @@
 #include <gtest/gtest.h>
 
 #include "board/score.h"
+#include "game/drops.h"
 #include "notation/position.h"
 #include "state/piles.h"
 #include "state/undo_list.h"
 #include "state/variables.h"
 #include "tests/play/play.h"
 #include "tests/play/soundness.h"
+#include "windows/frmError.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {
@@ -174,6 +176,28 @@ TEST(AcePile, EmptiedByUndoTakesCardsAgainAndHidesNoneThatItOnceHeld) {
     play.act("drag 0 ace 1, drag 1 ace 1, drag 2 ace 1, undo, undo, undo, drag 3 ace 1, drag 4 ace 1");
     EXPECT_TRUE(shows("0: A♥\nace 1: A♠ 2♠"));
     EXPECT_EQ(display_faults(), "") << "the ace of Hearts is seen in its column";
+}
+
+TEST(AMove, FailsWhereANumberIsThatOfNoPile) {
+    const struct {
+        int from;
+        int to;
+        const char* routine;
+    } cases[] = {{11, 0, "from_column_to_column"},
+                 {17, 0, "from_ace_to"},
+                 {0, 11, "from_column_to_column"},
+                 {0, 17, "from_column_to"},
+                 {tablet_pile, 11, "from_tablet_to_column"},
+                 {tablet_pile, 17, "from_tablet_to"}};
+    for (const auto& [from, to, routine] : cases) {
+        Play play;
+        play.start("0: 9♦\n1: 10♠\ntablet: (7♠)");
+        const std::string before = position_text();
+        drag_source = from;
+        EXPECT_FALSE(column_to_column(to));
+        EXPECT_EQ(frmError.LblError.caption(), std::string("Fatel Error in Subroutine ") + routine);
+        EXPECT_EQ(position_text(), before);
+    }
 }
 
 TEST(Undo, OfTheFirstTurnLeavesTheTabletWhenNothingElseIsRecorded) {

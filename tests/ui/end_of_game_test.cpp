@@ -7,6 +7,7 @@
 #include "game/end_game.h"
 #include "notation/position.h"
 #include "platform/key_codes.h"
+#include "platform/random.h"
 #include "state/variables.h"
 #include "tests/play/play.h"
 #include "tests/play/soundness.h"
@@ -143,11 +144,14 @@ TEST(EndOfGameWithoutThePlayer, CountsTheGameAndRecordsTheNameTypedSoFar) {
         const bool low = table[0] == '9';
         play.start(low ? std::vector{90, 90, 90, 90, 90} : std::vector<int>{}, 40);
         before();
+        const bool table_is_free = frmcards.enabled();
+        const std::uint64_t deals = random_generator().seedings();
         shut_down_program();
         EXPECT_FALSE(frmcards.loaded() || frmyouwin.loaded() || frmBestScore.loaded() || frmError.loaded());
         EXPECT_EQ(play.counted(), low ? "1 9" : "1 40");
         EXPECT_EQ(play.table().find(table), 0U) << play.table();
         EXPECT_EQ(play.message(), "");
+        EXPECT_EQ(random_generator().seedings() - deals, table_is_free ? 1 : 0) << "none behind a dialog";
     }
 }
 
