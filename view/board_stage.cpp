@@ -121,7 +121,7 @@ void BoardStage::settle() {
 }
 
 void BoardStage::press(double x, double y, MouseButton button) {
-    end_glide();
+    if (form_.accepts_input()) end_glide();
     pointer_x_ = x;
     pointer_y_ = y;
     form_.mouse().press(static_cast<float>(x), static_cast<float>(y + scroll_.offset()), button);
@@ -145,12 +145,14 @@ void BoardStage::release(double x, double y, MouseButton button, bool elsewhere)
 }
 
 bool BoardStage::key_down(int key_code) {
-    end_glide();
     if (key_code == escape_key && holds()) {
         cancel();
         return true;
     }
-    if (form_.accepts_input()) scroll([=, this] { scroll_.press(key_code); });
+    if (form_.accepts_input()) {
+        end_glide();
+        scroll([=, this] { scroll_.press(key_code); });
+    }
     return key_code != 0 && form_.key_down(key_code);
 }
 
@@ -159,7 +161,8 @@ void BoardStage::scroll_to(int value) {
 }
 
 void BoardStage::scroll_by(int pixels) {
-    if (form_.accepts_input()) scroll_to(scroll_.value() + pixels);
+    const int most = scroll_.range();
+    if (form_.accepts_input()) scroll_to(scroll_.value() + std::clamp(pixels, -most, most));
 }
 
 void BoardStage::reveal(int y) {

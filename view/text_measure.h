@@ -1,15 +1,16 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace tarnwick {
 
 /// A font as a front end is asked for it: the family (empty is the desktop's), the size in pixels (0 is that
-/// of the desktop's font), bold or not.
+/// of the desktop's font), bold or not (nothing is as the desktop's font is).
 struct TextFont {
     std::string family;
     float pixels = 0;
-    bool bold = false;
+    std::optional<bool> bold = std::nullopt;
     bool operator==(const TextFont&) const = default;
 };
 

@@ -8,7 +8,7 @@
 namespace tarnwick {
 namespace {
 
-// Whether a dialog or menu is open, or a mouse button held.
+// Whether a menu is open, or a mouse button held.
 bool waits_for_player() {
     return QApplication::mouseButtons() != Qt::NoButton || QApplication::activePopupWidget();
 }

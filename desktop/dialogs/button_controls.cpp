@@ -91,6 +91,9 @@ class OptionBox : public QRadioButton {
     }
 
   protected:
+    // A press that is refused must not be seen either.
+    void nextCheckState() override {}
+
     void keyPressEvent(QKeyEvent* event) override {
         switch (event->key()) {
             case Qt::Key_Left:

@@ -12,7 +12,7 @@ QFont qt_font(const QFont& own, const TextFont& font) {
     QFont native = own;
     if (!font.family.empty()) native.setFamily(to_qt(font.family));
     if (font.pixels > 0) native.setPixelSize(qRound(font.pixels));
-    if (font.bold) native.setBold(true);
+    if (font.bold) native.setBold(*font.bold);
     return native;
 }
 

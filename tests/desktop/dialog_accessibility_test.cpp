@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QLineEdit>
+#include <QRadioButton>
 #include <QTimer>
 
 #include "state/variables.h"
@@ -86,6 +87,20 @@ TEST(DialogAccessibility, PressesNoButtonBehindAMessage) {
     ASSERT_TRUE(comes_true([&] { return questions == 20; }));
     settle();
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "one question was asked";
+}
+
+TEST(DialogAccessibility, ShowsNoOptionAsChosenBehindAMessage) {
+    InnerGame game(26);
+    frmFeatures.show();
+    QRadioButton& option = *shown_widget("frmFeatures")->findChildren<QRadioButton*>().last();
+    QTimer::singleShot(0, &option, [&option] {
+        option.click();
+        QApplication::activeModalWidget()->close();
+    });
+    desktop().notify({});
+    EXPECT_FALSE(option.isChecked());
+    option.click();
+    EXPECT_TRUE(option.isChecked());
 }
 
 }  // namespace

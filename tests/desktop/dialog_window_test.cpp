@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
+#include <QPushButton>
 #include <QTextDocument>
 #include <algorithm>
 
@@ -44,6 +45,20 @@ TEST(DialogWindow, ToldOfAnErrorIsAToolWindowThatOutlivesTheMainWindow) {
     const QPoint button = dialog->mapToGlobal(QPoint(30, 75));
     press(*QAccessible::queryAccessibleInterface(dialog)->childAt(button.x(), button.y()));
     EXPECT_TRUE(comes_true([] { return !frmError.loaded(); })) << "its buttons work";
+}
+
+TEST(DialogWindow, KeepsPlainLabelsPlainWhereTheDesktopWritesBold) {
+    const QFont own = QApplication::font();
+    QFont bold = own;
+    bold.setBold(true);
+    QApplication::setFont(bold);
+    InnerGame game(26);
+    frmBestScore.show();
+    for (const QLabel* label : shown_widget(frmBestScore.name())->findChildren<QLabel*>()) {
+        EXPECT_FALSE(label->font().bold()) << label->text().toStdString();
+    }
+    EXPECT_TRUE(shown_widget(frmBestScore.name())->findChild<QPushButton*>()->font().bold());
+    QApplication::setFont(own);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <limits>
 #include <random>
 
 #include "board/display.h"
@@ -164,6 +165,13 @@ TEST_F(ShownBoard, LetsARefusedCardGlideBack) {
         EXPECT_TRUE(shows_all());
         stage.cancel();
     }
+    refuse();
+    game.desktop.leave_questions_open();
+    desktop().notify({});
+    press(bare_table);
+    stage.key_down(0);
+    EXPECT_FALSE(drag().lifted().empty()) << "no input counts behind a message";
+    game.desktop.answer(MessageAnswer::ok);
     press(column_of_jack);
     stage.cancel();
     EXPECT_TRUE(drag().lifted().empty()) << "what was not moved has no way back";
@@ -209,6 +217,8 @@ TEST_F(ShownBoard, IsScrolledToWhatLiesBelowTheWindow) {
     stage.key_down(page_up_key);
     scrolled(0);
     stage.scroll_to(range + 1);
+    scrolled(range);
+    stage.scroll_by(std::numeric_limits<int>::max());
     scrolled(range);
     stage.key_down(home_key);
     stage.key_down(page_down_key);
