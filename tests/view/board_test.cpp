@@ -208,8 +208,9 @@ TEST_F(ShownBoard, IsScrolledToWhatLiesBelowTheWindow) {
     const Box label = game.layers().labels[0].place;
     const auto scrolled = [&](int value) {
         EXPECT_EQ(stage.scroll().value(), value);
-        EXPECT_EQ(stage.scroll().offset(), value / 4 * 4) << "whole device pixels at quarter scales";
-        EXPECT_EQ(game.layers().labels[0].place.top, label.top + value / 4 * 4) << "the score stays";
+        const int offset = value / 4 * 4;
+        EXPECT_EQ(stage.scroll().offset(), offset) << "whole device pixels at quarter scales";
+        EXPECT_EQ(game.layers().labels[0].place.top, label.top + offset) << "the score stays";
         EXPECT_TRUE(shows_all());
     };
     stage.scroll_by(50);
@@ -264,7 +265,8 @@ TEST_F(ShownBoard, ScrollsUnderACardHeldAtItsEdge) {
     EXPECT_EQ(frmcards.mouse().receiver(), &top_image(column_of_queen)) << "another card under the pointer";
     const double down = drag().offset().y;
     stage.scroll_to(0);
-    EXPECT_EQ(drag().offset().y, down - range / 4 * 4) << "under the pointer at once";
+    const int scrolled = range / 4 * 4;
+    EXPECT_EQ(drag().offset().y, down - scrolled) << "under the pointer at once";
     stage.scroll_to(range);
     move({edge.x, 20});
     pass(1000);

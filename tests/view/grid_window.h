@@ -67,7 +67,9 @@ class Grid {
         const int right = std::min({seen.right(), clip_.right(), size_.width});
         for (int y = std::max({seen.top, clip_.top, 0}); y < bottom; ++y) {
             for (int x = std::max({seen.left, clip_.left, 0}); x < right; ++x) {
-                std::uint32_t& cell = cells_[static_cast<std::size_t>(y * size_.width + x)];
+                std::uint32_t& cell =
+                    cells_[static_cast<std::size_t>(y) * static_cast<std::size_t>(size_.width) +
+                           static_cast<std::size_t>(x)];
                 cell = tone(cell, static_cast<unsigned>(x - seen.left), static_cast<unsigned>(y - seen.top));
             }
         }
