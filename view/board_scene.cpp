@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "platform/controls.h"
+#include "view/empty_place.h"
 #include "view/picture_place.h"
 #include "windows/pictures.h"
 
@@ -73,7 +74,7 @@ const BoardLayers& BoardScene::layers(double ratio) {
 
 const BoardLayers& BoardScene::layers(const Area& area, double ratio) {
     layers_.area = area;
-    layers_.background = form_.back_color();
+    layers_.ground = &ground(area, ratio);
     layers_.outlines.clear();
     layers_.images.clear();
     layers_.mark.reset();
@@ -81,22 +82,33 @@ const BoardLayers& BoardScene::layers(const Area& area, double ratio) {
     layers_.lifted.clear();
     layers_.plate.reset();
     layers_.labels.clear();
-    add_outlines(ratio);
     add_images(ratio);
+    add_outlines(ratio);
     drag_.add_to(layers_, ratio);
-    add_labels();
+    add_labels(ratio);
     return layers_;
 }
 
+// The light keeps its place in the window.
+const PaintedGround& BoardScene::ground(const Area& area, double ratio) {
+    const PixelSize window = form_.client_size();
+    const auto device = [ratio](int length) { return rounded(length * ratio); };
+    const Area seen =
+        around({area.left * ratio, (area.top - scrolled_) * ratio, area.width * ratio, area.height * ratio});
+    return light_.ground(
+        seen, {device(window.width), device(window.height)}, device(scrolled_), form_.back_color());
+}
+
+// Those under a card are left out: nothing is seen of them.
 void BoardScene::add_outlines(double ratio) {
-    const double line = std::max(1, static_cast<int>(ratio));
     for_each_visible<Outline>(form_, WidgetKind::outline, [&](const Outline& outline) {
-        const Box place = box_of(outline.place());
-        if (!layers_.area.meets(touched(place))) return;
-        layers_.outlines.push_back({box_of(snapped(place, ratio)).grown(-line / 2),
-                                    outline.border_color(),
-                                    line,
-                                    corner_radius(place.width, ratio)});
+        const Box box = box_of(outline.place());
+        if (!layers_.area.meets(touched(box))) return;
+        const Area place = snapped(box, ratio);
+        const auto covers = [&](const PaintedImage& image) { return image.place == place; };
+        if (std::any_of(layers_.images.begin(), layers_.images.end(), covers)) return;
+        layers_.outlines.push_back(
+            empty_place(place, corner_radius(box.width, ratio), outline, form_.back_color(), ratio));
     });
 }
 
@@ -143,12 +155,12 @@ bool BoardScene::is_seen_within(const Area& place) const {
 
 // Above all cards: the score can always be read. Where cards lie under it, the colour of the table is laid
 // between them.
-void BoardScene::add_labels() {
+void BoardScene::add_labels(double ratio) {
     const double scale = label_scale();
     const Area around_labels = plate(scale);
     if (!layers_.area.meets(around_labels)) return;
     if (is_seen_within(around_labels)) {
-        layers_.plate = PaintedPlate{around_labels, form_.back_color(), corner_radius(card_width, 1)};
+        layers_.plate = PaintedPlate{snapped(box_of(around_labels), ratio), corner_radius(card_width, ratio)};
     }
     for_each_visible<Label>(form_, WidgetKind::label, [&](const Label& label) {
         const Box place = label_place(label.place(), scale);

@@ -6,6 +6,7 @@
 #include "platform/image.h"
 #include "view/board_drag.h"
 #include "view/board_layers.h"
+#include "view/table_light.h"
 #include "view/text_measure.h"
 
 namespace tarnwick {
@@ -42,15 +43,17 @@ class BoardScene {
   private:
     Box label_place(const Rect& place, double scale) const;
     Area plate(double label_scale) const;
+    const PaintedGround& ground(const Area& area, double ratio);
     void add_outlines(double ratio);
     void add_images(double ratio);
-    void add_labels();
+    void add_labels(double ratio);
     bool is_seen_within(const Area& place) const;
     void sort_images();
 
     const Form& form_;
     const TextMeasure& texts_;
     BoardDrag drag_;
+    TableLight light_;
     int scrolled_ = 0;
     std::vector<const Image*> images_;  ///< from the lowest one up
     BoardLayers layers_;

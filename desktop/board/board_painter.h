@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "desktop/board/drag_shadow.h"
+#include "desktop/board/outline_pictures.h"
 #include "desktop/shared/picture_cache.h"
 #include "view/board_layers.h"
 
@@ -23,6 +24,7 @@ class BoardPainter {
     void paint_image(QPainter& painter, const PaintedImage& image);
 
     PictureCache pictures_;
+    OutlinePictures outlines_;
     DragShadow shadow_;
 };
 

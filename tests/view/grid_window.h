@@ -44,8 +44,16 @@ class Grid {
                 return (number * 4096U + y * 64U) ^ x;
             };
         };
-        fill(layers.area, flat(0));
-        for (const PaintedOutline& outline : layers.outlines) fill(around(outline.middle), over(1));
+        const PaintedGround::Sheet& sheet = layers.ground->sheet;
+        for (const PaintedGround::Strip& strip : layers.ground->strips) {
+            const auto first = static_cast<unsigned>(strip.row * sheet.width + strip.column);
+            fill(strip.place, [&](unsigned, unsigned x, unsigned y) {
+                return sheet.pixels.at(first + y * static_cast<unsigned>(sheet.width) + x);
+            });
+        }
+        for (const PaintedOutline& outline : layers.outlines) {
+            fill(outline.place, over(100 + static_cast<unsigned>(outline.look.sign.lines.size())));
+        }
         for (const PaintedImage& image : layers.images) fill(image.place, picture(image));
         if (layers.mark) fill(around(layers.mark->middle), over(2));
         if (layers.shadow) {
