@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "desktop/board/drag_shadow.h"
+#include "desktop/board/label_pictures.h"
 #include "desktop/board/outline_pictures.h"
 #include "desktop/shared/picture_cache.h"
 #include "view/board_layers.h"
@@ -25,6 +26,7 @@ class BoardPainter {
 
     PictureCache pictures_;
     OutlinePictures outlines_;
+    LabelPictures labels_;
     DragShadow shadow_;
 };
 
