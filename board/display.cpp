@@ -18,6 +18,12 @@ constexpr int slot_offset = 20;
 
 Picture stock_picture() { return turned_slot() == last_tablet_slot() ? Picture{} : back_in_use(); }
 
+// Five cards or fewer that are all turned are turned for good.
+void sign_stock(bool shown) {
+    const bool turns_over = shown && turned_slot() == last_tablet_slot() && last_tablet_slot() > 4;
+    frmcards.Shape1(stock_outline).set_sign(turns_over ? Sign::turn : Sign::none);
+}
+
 void place_column_card(Image& image, float left, float top, float width, float height) {
     image.move(left, top, width, height);
     image.show();
@@ -78,9 +84,13 @@ void show_stock() {
     Image& stock = frmcards.Image1(stock_image);
     stock.set_picture(stock_picture());
     stock.show();
+    sign_stock(true);
 }
 
-void hide_stock() { frmcards.Image1(stock_image).hide(); }
+void hide_stock() {
+    frmcards.Image1(stock_image).hide();
+    sign_stock(false);
+}
 
 void redisplay_column(const Integer& c) {
     reporting("redisplay_column", [&] {

@@ -18,6 +18,12 @@ void Outline::set_border_color(Color color) {
     changed();
 }
 
+void Outline::set_sign(Sign sign) {
+    if (sign == sign_) return;
+    sign_ = sign;
+    changed();
+}
+
 void Label::set_caption(const std::string& caption) {
     if (caption == caption_) return;
     caption_ = caption;

@@ -8,6 +8,9 @@
 
 namespace tarnwick {
 
+/// What an outline says in its middle: what may lie there, or that a press turns the cards over.
+enum class Sign { none, ace, king, turn };
+
 /// The outline of a rectangle, drawn under the images.
 class Outline : public Widget {
   public:
@@ -15,9 +18,12 @@ class Outline : public Widget {
 
     Color border_color() const { return border_color_; }
     void set_border_color(Color color);
+    Sign sign() const { return sign_; }
+    void set_sign(Sign sign);
 
   private:
     Color border_color_ = black;
+    Sign sign_ = Sign::none;
 };
 
 enum class Alignment { left, right, center };

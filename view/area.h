@@ -10,6 +10,13 @@ namespace tarnwick {
 /// The nearest whole number, halves away from zero.
 inline int rounded(double value) { return static_cast<int>(value + std::copysign(0.5, value)); }
 
+/// A place, in pixels.
+struct Point {
+    double x = 0;
+    double y = 0;
+    bool operator==(const Point&) const = default;
+};
+
 /// How far something is moved, in pixels.
 struct Shift {
     double x = 0;
@@ -45,6 +52,7 @@ struct Box {
     double right() const { return left + width; }
     double bottom() const { return top + height; }
     bool empty() const { return width <= 0 || height <= 0; }
+    bool operator==(const Box&) const = default;
     Box shifted(Shift by) const { return {left + by.x, top + by.y, width, height}; }
     Box grown(double margin) const {
         return {left - margin, top - margin, width + 2 * margin, height + 2 * margin};

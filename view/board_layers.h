@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -10,12 +11,58 @@
 
 namespace tarnwick {
 
-/// The outline of an empty pile. Device pixels; `middle` is the middle of the line.
-struct PaintedOutline {
-    Box middle;
+/// The table, in strips that are cut from one sheet: each shows what lies on it from this column and row on.
+/// Device pixels.
+struct PaintedGround {
+    struct Sheet {
+        int width = 0;
+        int height = 0;
+        std::vector<std::uint32_t> pixels;  ///< row by row, red above green above blue, opaque
+    };
+    struct Strip {
+        Area place;
+        int column = 0;
+        int row = 0;
+    };
+    Sheet sheet;
+    std::vector<Strip> strips;
+};
+
+/// A thin rim around what would not stand out from the table without. It reaches so far beyond it on every
+/// side, and is laid below it; the opacity goes from 0 to 255.
+struct PaintedRim {
     Color color = black;
-    double line = 1;
-    double radius = 0;
+    double width = 1;
+    int opacity = 255;
+    bool operator==(const PaintedRim&) const = default;
+};
+
+/// A sign of lines with round ends and corners, so wide. Where lines meet, they are no darker.
+struct PaintedSign {
+    std::vector<std::vector<Point>> lines;
+    double width = 1;
+    bool operator==(const PaintedSign&) const = default;
+};
+
+/// An empty place: a line and what it surrounds, and a sign, all in one colour. A rim, if there is one, runs
+/// around both sides of the line and around the sign. Device pixels; the opacities go from 0 to 255.
+struct PaintedOutline {
+    /// Counted from the upper left corner of its place: what looks the same need be drawn only once.
+    struct Look {
+        PixelSize size;  ///< that of the place
+        Box middle;      ///< of the line
+        Color color = black;
+        double line = 1;
+        double radius = 0;
+        int line_opacity = 255;
+        int fill_opacity = 0;
+        int sign_opacity = 255;
+        PaintedSign sign;
+        std::optional<PaintedRim> rim;
+        bool operator==(const Look&) const = default;
+    };
+    Area place;
+    Look look;
 };
 
 /// A picture, in whole device pixels. A border is a black line of one device pixel, inside of the place.
@@ -46,20 +93,21 @@ struct PaintedShadow {
     double darkest = 0;
 };
 
-/// What is laid between the cards and the labels. Pixels of the board.
+/// A piece of the table that is laid between the cards and the labels. Device pixels.
 struct PaintedPlate {
     Area place;
-    Color color = black;
     double radius = 0;
 };
 
-/// A text in the desktop's font, in the middle of the height of its place. Pixels of the board; it may reach
-/// beyond its place. The text is valid until the label changes.
+/// A text in the desktop's font, so many times as large, in the middle of the height of its place. Pixels of
+/// the board; it may reach beyond its place. The text is valid until the label changes.
 struct PaintedLabel {
     Box place;
     std::string_view text;
     Color color = black;
     Alignment alignment = Alignment::left;
+    double font_scale = 1;
+    std::optional<PaintedRim> rim;
 };
 
 /// All that is seen of an area of a board, from back to front, in the order of these members. What only
@@ -67,7 +115,7 @@ struct PaintedLabel {
 /// the board, those of the labels too: a front end shifts them all up by BoardScroll::offset().
 struct BoardLayers {
     Area area;  ///< pixels of the board
-    Color background = black;
+    const PaintedGround* ground = nullptr;
     std::vector<PaintedOutline> outlines;
     std::vector<PaintedImage> images;
     std::optional<PaintedMark> mark;

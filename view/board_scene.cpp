@@ -4,6 +4,8 @@
 #include <cmath>
 
 #include "platform/controls.h"
+#include "view/contrast.h"
+#include "view/empty_place.h"
 #include "view/picture_place.h"
 #include "windows/pictures.h"
 
@@ -17,13 +19,39 @@ void for_each_visible(const Form& form, WidgetKind kind, Action action) {
     }
 }
 
+// Around glyphs that the colour of the table does not set off well enough to be read: a soft one, that does.
+std::optional<PaintedRim> text_rim(Color text, Color table, double font_scale) {
+    constexpr double well_readable = 4.5;
+    constexpr double very_well_readable = 7;
+    if (contrast(text, table) >= well_readable) return std::nullopt;
+    const Color color = farthest_from(text);
+    return PaintedRim{
+        color, std::max(1.0, 0.6 * font_scale), opacity_for(very_well_readable, text, color, table)};
+}
+
 }  // namespace
 
-// A row of labels at the lower left corner grows to the right and upwards, and keeps its order.
+// The row of labels grows upwards and to the right, from the lower left corner of its first one.
 Box BoardScene::label_place(const Rect& place, double scale) const {
+    double first = static_cast<double>(place.left);
+    for_each_visible<Label>(form_, WidgetKind::label, [&first](const Label& label) {
+        first = std::min(first, static_cast<double>(label.left()));
+    });
     const Box given = box_of(place);
     const double height = given.height * scale;
-    return {given.left * scale, given.bottom() - height + scrolled_, given.width * scale, height};
+    return {first + (given.left - first) * scale,
+            given.bottom() - height + scrolled_,
+            given.width * scale,
+            height};
+}
+
+// As the cards have grown, to whose size the outlines are drawn. Small cards leave the texts readable.
+double BoardScene::font_scale() const {
+    double width = 0;
+    for_each_visible<Outline>(form_, WidgetKind::outline, [&width](const Outline& outline) {
+        width = std::max(width, static_cast<double>(outline.width()));
+    });
+    return std::max(1.0, width / card_width);
 }
 
 Area BoardScene::area_of(const Widget& widget, const Rect& place) const {
@@ -53,11 +81,11 @@ double BoardScene::label_scale() const {
         const double width = static_cast<double>(texts_.width(label.caption(), {}));
         scale = std::max({scale, width / place.width, height / place.height});
     });
-    return scale;
+    return scale * font_scale();
 }
 
 Area BoardScene::plate(double label_scale) const {
-    constexpr double margin = 4;
+    const double margin = 4 * font_scale();
     Box row;
     for_each_visible<Label>(form_, WidgetKind::label, [&](const Label& label) {
         row = united(row, label_place(label.place(), label_scale));
@@ -73,7 +101,7 @@ const BoardLayers& BoardScene::layers(double ratio) {
 
 const BoardLayers& BoardScene::layers(const Area& area, double ratio) {
     layers_.area = area;
-    layers_.background = form_.back_color();
+    layers_.ground = &ground(area, ratio);
     layers_.outlines.clear();
     layers_.images.clear();
     layers_.mark.reset();
@@ -81,22 +109,33 @@ const BoardLayers& BoardScene::layers(const Area& area, double ratio) {
     layers_.lifted.clear();
     layers_.plate.reset();
     layers_.labels.clear();
-    add_outlines(ratio);
     add_images(ratio);
+    add_outlines(ratio);
     drag_.add_to(layers_, ratio);
-    add_labels();
+    add_labels(ratio);
     return layers_;
 }
 
+// The light keeps its place in the window.
+const PaintedGround& BoardScene::ground(const Area& area, double ratio) {
+    const PixelSize window = form_.client_size();
+    const auto device = [ratio](int length) { return rounded(length * ratio); };
+    const Area seen =
+        around({area.left * ratio, (area.top - scrolled_) * ratio, area.width * ratio, area.height * ratio});
+    return light_.ground(
+        seen, {device(window.width), device(window.height)}, device(scrolled_), form_.back_color());
+}
+
+// Those under a card are left out: nothing is seen of them.
 void BoardScene::add_outlines(double ratio) {
-    const double line = std::max(1, static_cast<int>(ratio));
     for_each_visible<Outline>(form_, WidgetKind::outline, [&](const Outline& outline) {
-        const Box place = box_of(outline.place());
-        if (!layers_.area.meets(touched(place))) return;
-        layers_.outlines.push_back({box_of(snapped(place, ratio)).grown(-line / 2),
-                                    outline.border_color(),
-                                    line,
-                                    corner_radius(place.width, ratio)});
+        const Box box = box_of(outline.place());
+        if (!layers_.area.meets(touched(box))) return;
+        const Area place = snapped(box, ratio);
+        const auto covers = [&](const PaintedImage& image) { return image.place == place; };
+        if (std::any_of(layers_.images.begin(), layers_.images.end(), covers)) return;
+        layers_.outlines.push_back(
+            empty_place(place, corner_radius(box.width, ratio), outline, form_.back_color(), ratio));
     });
 }
 
@@ -143,17 +182,24 @@ bool BoardScene::is_seen_within(const Area& place) const {
 
 // Above all cards: the score can always be read. Where cards lie under it, the colour of the table is laid
 // between them.
-void BoardScene::add_labels() {
+void BoardScene::add_labels(double ratio) {
     const double scale = label_scale();
     const Area around_labels = plate(scale);
     if (!layers_.area.meets(around_labels)) return;
     if (is_seen_within(around_labels)) {
-        layers_.plate = PaintedPlate{around_labels, form_.back_color(), corner_radius(card_width, 1)};
+        layers_.plate = PaintedPlate{snapped(box_of(around_labels), ratio),
+                                     corner_radius(card_width * font_scale(), ratio)};
     }
     for_each_visible<Label>(form_, WidgetKind::label, [&](const Label& label) {
         const Box place = label_place(label.place(), scale);
-        if (!layers_.area.meets(touched(place))) return;
-        layers_.labels.push_back({place, label.caption(), label.text_color(), label.alignment()});
+        // A rim reaches beyond the place.
+        if (!layers_.area.meets(touched(place.grown(font_scale())))) return;
+        layers_.labels.push_back({place,
+                                  label.caption(),
+                                  label.text_color(),
+                                  label.alignment(),
+                                  font_scale(),
+                                  text_rim(label.text_color(), form_.back_color(), font_scale())});
     });
 }
 

@@ -6,6 +6,7 @@
 #include "platform/image.h"
 #include "view/board_drag.h"
 #include "view/board_layers.h"
+#include "view/table_light.h"
 #include "view/text_measure.h"
 
 namespace tarnwick {
@@ -33,24 +34,28 @@ class BoardScene {
     int lower_edge() const;
     /// What of the labels' surroundings changes when something else moves below them, in pixels of the board.
     Area plate() const { return plate(label_scale()); }
-    /// How much larger than given the labels are seen, so that their texts fit; 1 or more.
+    /// How much larger than given the labels are seen, as large as the board and so that their texts fit; 1
+    /// or more.
     double label_scale() const;
 
     BoardDrag& drag() { return drag_; }
     const BoardDrag& drag() const { return drag_; }
 
   private:
+    double font_scale() const;
     Box label_place(const Rect& place, double scale) const;
     Area plate(double label_scale) const;
+    const PaintedGround& ground(const Area& area, double ratio);
     void add_outlines(double ratio);
     void add_images(double ratio);
-    void add_labels();
+    void add_labels(double ratio);
     bool is_seen_within(const Area& place) const;
     void sort_images();
 
     const Form& form_;
     const TextMeasure& texts_;
     BoardDrag drag_;
+    TableLight light_;
     int scrolled_ = 0;
     std::vector<const Image*> images_;  ///< from the lowest one up
     BoardLayers layers_;

@@ -58,7 +58,12 @@ void Frmcards::design_images() {
         image.hide();
         image.set_picture(back_picture(image.index()));
     });
-    Shape1.for_each([](Outline& outline) { outline.move_twips(0, 0, 852, 1152); });
+    Shape1.for_each([](Outline& outline) {
+        outline.move_twips(0, 0, 852, 1152);
+        outline.set_sign(Sign::none);
+    });
+    for (int p = 0; p < first_column_outline; ++p) Shape1(p).set_sign(Sign::ace);
+    for (int c = first_column_outline; c < stock_outline; ++c) Shape1(c).set_sign(Sign::king);
 }
 
 void Frmcards::design_labels() {

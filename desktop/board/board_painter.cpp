@@ -1,63 +1,52 @@
 #include "desktop/board/board_painter.h"
-
-#include <QApplication>
-
 #include "desktop/shared/qt_convert.h"
 
 namespace tarnwick {
 namespace {
 
-QColor with_opacity(Color color, int opacity) {
-    QColor native = to_qt(color);
-    native.setAlpha(opacity);
-    return native;
-}
-
-int text_flags(Alignment alignment) {
-    switch (alignment) {
-        case Alignment::right:
-            return Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip;
-        case Alignment::center:
-            return Qt::AlignHCenter | Qt::AlignVCenter | Qt::TextDontClip;
-        case Alignment::left:
-            break;
-    }
-    return Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip;
-}
-
-void paint_outline(QPainter& painter, const PaintedOutline& outline) {
-    painter.setPen(QPen(to_qt(outline.color), outline.line));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(to_qt(outline.middle), outline.radius, outline.radius);
-}
-
 void paint_mark(QPainter& painter, const PaintedMark& mark) {
-    painter.setPen(QPen(with_opacity(mark.color, mark.line_opacity), mark.line));
-    painter.setBrush(with_opacity(mark.color, mark.fill_opacity));
+    painter.setPen(QPen(to_qt(mark.color, mark.line_opacity), mark.line));
+    painter.setBrush(to_qt(mark.color, mark.fill_opacity));
     painter.drawRoundedRect(to_qt(mark.middle), mark.radius, mark.radius);
 }
 
-void paint_plate(QPainter& painter, const PaintedPlate& plate) {
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(to_qt(plate.color));
-    painter.drawRoundedRect(QRectF(to_qt(plate.place)), plate.radius, plate.radius);
+QImage image_of(const PaintedGround::Sheet& sheet) {
+    const auto* pixels = reinterpret_cast<const uchar*>(sheet.pixels.data());
+    return QImage(pixels, sheet.width, sheet.height, sheet.width * 4, QImage::Format_RGB32);
 }
 
-void paint_label(QPainter& painter, const PaintedLabel& label) {
-    painter.setPen(to_qt(label.color));
-    painter.drawText(to_qt(label.place), text_flags(label.alignment), to_qt(std::string(label.text)));
+void paint_ground(QPainter& painter, const PaintedGround& ground) {
+    const QImage sheet = image_of(ground.sheet);
+    for (const auto& [place, column, row] : ground.strips) {
+        painter.drawImage(to_qt(place), sheet, QRect(column, row, place.width, place.height));
+    }
+}
+
+void paint_plate(QPainter& painter, const PaintedPlate& plate, const PaintedGround& ground) {
+    QBrush brush(image_of(ground.sheet));
+    for (const auto& [place, column, row] : ground.strips) {
+        if (!place.meets(plate.place)) continue;
+        painter.save();
+        painter.setClipRect(to_qt(place), Qt::IntersectClip);
+        brush.setTransform(QTransform::fromTranslate(place.left - column, place.top - row));
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(brush);
+        painter.drawRoundedRect(QRectF(to_qt(plate.place)), plate.radius, plate.radius);
+        painter.restore();
+    }
 }
 
 }  // namespace
 
 void BoardPainter::paint(QPainter& painter, const BoardLayers& layers) {
-    painter.fillRect(to_qt(layers.area), to_qt(layers.background));
     const qreal ratio = painter.device()->devicePixelRatioF();
     painter.save();
     painter.scale(1 / ratio, 1 / ratio);
     painter.setRenderHint(QPainter::Antialiasing);
-    for (const PaintedOutline& outline : layers.outlines) paint_outline(painter, outline);
+    paint_ground(painter, *layers.ground);
+    for (const PaintedOutline& outline : layers.outlines) {
+        painter.drawPixmap(to_qt(outline.place), outlines_.pixmap(outline.look));
+    }
     for (const PaintedImage& image : layers.images) paint_image(painter, image);
     if (layers.mark) paint_mark(painter, *layers.mark);
     if (layers.shadow) {
@@ -65,10 +54,9 @@ void BoardPainter::paint(QPainter& painter, const BoardLayers& layers) {
         painter.drawImage(to_qt(layers.shadow->pile).topLeft() - reach, shadow_.image(*layers.shadow));
     }
     for (const PaintedImage& image : layers.lifted) paint_image(painter, image);
+    if (layers.plate) paint_plate(painter, *layers.plate, *layers.ground);
     painter.restore();
-    if (layers.plate) paint_plate(painter, *layers.plate);
-    painter.setFont(QApplication::font());
-    for (const PaintedLabel& label : layers.labels) paint_label(painter, label);
+    for (const PaintedLabel& label : layers.labels) labels_.paint(painter, label, ratio);
 }
 
 void BoardPainter::paint_image(QPainter& painter, const PaintedImage& image) {

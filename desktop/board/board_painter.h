@@ -3,6 +3,8 @@
 #include <QPainter>
 
 #include "desktop/board/drag_shadow.h"
+#include "desktop/board/label_pictures.h"
+#include "desktop/board/outline_pictures.h"
 #include "desktop/shared/picture_cache.h"
 #include "view/board_layers.h"
 
@@ -23,6 +25,8 @@ class BoardPainter {
     void paint_image(QPainter& painter, const PaintedImage& image);
 
     PictureCache pictures_;
+    OutlinePictures outlines_;
+    LabelPictures labels_;
     DragShadow shadow_;
 };
 

@@ -11,6 +11,10 @@
 namespace tarnwick {
 
 inline QColor to_qt(Color color) { return QColor(red_of(color), green_of(color), blue_of(color)); }
+/// With an opacity of 0 to 255.
+inline QColor to_qt(Color color, int opacity) {
+    return QColor(red_of(color), green_of(color), blue_of(color), opacity);
+}
 inline Color from_qt(const QColor& color) { return color_of(color.red(), color.green(), color.blue()); }
 
 inline QRectF to_qt(const Rect& rect) {

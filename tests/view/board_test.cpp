@@ -63,7 +63,6 @@ class ShownBoard : public testing::Test {
 
 TEST_F(ShownBoard, IsListedFromBackToFront) {
     const BoardLayers& layers = game.layers();
-    EXPECT_EQ(layers.background, frmcards.back_color());
     EXPECT_EQ(layers.labels.size(), 3U);
     EXPECT_FALSE(layers.mark || layers.shadow || layers.plate);
     const std::size_t at_rest = layers.images.size();

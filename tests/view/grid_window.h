@@ -44,8 +44,16 @@ class Grid {
                 return (number * 4096U + y * 64U) ^ x;
             };
         };
-        fill(layers.area, flat(0));
-        for (const PaintedOutline& outline : layers.outlines) fill(around(outline.middle), over(1));
+        const PaintedGround::Sheet& sheet = layers.ground->sheet;
+        for (const PaintedGround::Strip& strip : layers.ground->strips) {
+            const auto first = static_cast<unsigned>(strip.row * sheet.width + strip.column);
+            fill(strip.place, [&](unsigned, unsigned x, unsigned y) {
+                return sheet.pixels.at(first + y * static_cast<unsigned>(sheet.width) + x);
+            });
+        }
+        for (const PaintedOutline& outline : layers.outlines) {
+            fill(outline.place, over(100 + static_cast<unsigned>(outline.look.sign.lines.size())));
+        }
         for (const PaintedImage& image : layers.images) fill(image.place, picture(image));
         if (layers.mark) fill(around(layers.mark->middle), over(2));
         if (layers.shadow) {
@@ -54,7 +62,8 @@ class Grid {
         for (const PaintedImage& image : layers.lifted) fill(image.place, picture(image));
         if (layers.plate) fill(layers.plate->place, flat(4));
         for (const PaintedLabel& label : layers.labels) {
-            fill(around(label.place), over(static_cast<unsigned>(std::hash<std::string_view>()(label.text))));
+            fill(around(label.place.grown(label.rim ? label.rim->width : 0)),
+                 over(static_cast<unsigned>(std::hash<std::string_view>()(label.text))));
         }
     }
     bool operator==(const Grid& other) const { return cells_ == other.cells_; }
