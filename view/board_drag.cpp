@@ -81,7 +81,7 @@ void BoardDrag::add_to(BoardLayers& layers, double ratio) const {
     if (dragged && offset().none()) add(*dragged);
 }
 
-std::vector<Image*> BoardDrag::follow(std::int64_t now) {
+std::vector<Image*> BoardDrag::follow(std::int64_t now, bool glides) {
     const Mouse& mouse = form_.mouse();
     if (mouse.lifted().empty() == held_.empty()) {
         held_offset_ = {static_cast<double>(mouse.drag_dx()), static_cast<double>(mouse.drag_dy())};
@@ -91,7 +91,7 @@ std::vector<Image*> BoardDrag::follow(std::int64_t now) {
     const std::vector<Image*>& turned = held_.empty() ? mouse.lifted() : held_;
     changed.insert(changed.end(), turned.begin(), turned.end());
     // Should somebody receive the images after all, they are seen to change, and that ends their glide.
-    if (!held_.empty() && !held_offset_.none() && mouse.glides_back()) {
+    if (!held_.empty() && !held_offset_.none() && glides && mouse.glides_back()) {
         glide_.begin(held_, held_offset_, now);
     }
     held_ = mouse.lifted();

@@ -6,16 +6,19 @@
 #include "platform/image.h"
 #include "view/board_drag.h"
 #include "view/board_layers.h"
+#include "view/motion.h"
 #include "view/text_measure.h"
 
 namespace tarnwick {
 
-/// What a window's board looks like: its outlines, images and labels, and what is seen of a drag. It depends
-/// on nothing but the window's widgets, the size of texts, and how far the board is scrolled.
+/// What a window's board looks like: its outlines, images and labels, and what is seen of a drag and of
+/// images on their way. It depends on nothing but the window's widgets, the size of texts, and how far the
+/// board is scrolled.
 class BoardScene {
   public:
     /// @param texts  measures the desktop's font; outlives the scene
-    BoardScene(const Form& form, const TextMeasure& texts) : form_(form), texts_(texts), drag_(form) {}
+    BoardScene(const Form& form, const TextMeasure& texts)
+        : form_(form), texts_(texts), drag_(form), motion_(form) {}
 
     /// How far the board is scrolled down, in pixels: the labels keep their places in the window.
     void set_scrolled(int offset) { scrolled_ = offset; }
@@ -38,6 +41,8 @@ class BoardScene {
 
     BoardDrag& drag() { return drag_; }
     const BoardDrag& drag() const { return drag_; }
+    Motion& motion() { return motion_; }
+    const Motion& motion() const { return motion_; }
 
   private:
     Box label_place(const Rect& place, double scale) const;
@@ -51,6 +56,7 @@ class BoardScene {
     const Form& form_;
     const TextMeasure& texts_;
     BoardDrag drag_;
+    Motion motion_;
     int scrolled_ = 0;
     std::vector<const Image*> images_;  ///< from the lowest one up
     BoardLayers layers_;
