@@ -41,6 +41,14 @@ const Widget* receiver(const Image& dragged, const Image& target, float x) {
     }
 }
 
+std::vector<Image*> taken(const Image& dragged, const Image& target, float x) {
+    try {
+        return moving_cards(dragged, target, x);
+    } catch (const std::exception&) {
+        return {};
+    }
+}
+
 // A text that does not convert must not come in the way of a move; the moves themselves tell about it.
 bool motion_is_wanted() {
     try {
@@ -61,6 +69,7 @@ void attach_mouse_and_keys() {
     frmcards.on_key_down = key_down;
     frmcards.mouse().on_lift = lifted_cards;
     frmcards.mouse().on_hover = receiver;
+    frmcards.mouse().on_take = taken;
     frmcards.mouse().on_put_back = motion_is_wanted;
     frmcards.on_motion = motion_is_wanted;
     frmcards.on_step = time_to_next_slide_step;
