@@ -54,7 +54,8 @@ void BoardStage::form_changed() {
 }
 
 void BoardStage::drag_changed() {
-    repaint_home(scene_.drag().follow(desktop().now(), front_.allows_motion()));
+    const bool glides = !holds() && front_.allows_motion();
+    repaint_home(scene_.drag().follow(desktop().now(), glides));
     repaint_lifted();
     repaint_mark();
     update_steps();
