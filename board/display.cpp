@@ -35,6 +35,7 @@ void place_single_ace(const Integer& p) {
     if (aces(p, picture_field) == plain_ace_image) {
         aces(p, picture_field) = ace_of_spades_image;
         frmcards.Image1(plain_ace_image).hide();
+        frmcards.Image1(ace_of_spades_image).pass(frmcards.Image1(plain_ace_image));
     }
     const int picture = aces(p, picture_field);
     frmcards.Image1(picture).hide();
@@ -47,6 +48,7 @@ void place_top_two(const Integer& p) {
     if (aces(p, beneath_picture_field) == ace_of_spades_image) {
         aces(p, beneath_picture_field) = plain_ace_image;
         frmcards.Image1(ace_of_spades_image).hide();
+        frmcards.Image1(plain_ace_image).pass(frmcards.Image1(ace_of_spades_image));
     }
     // Only a pile of three has a third card; an older value there names a card that lies elsewhere now.
     if (aces(p, last_used_field) >= third_picture_field && aces(p, third_picture_field) != none) {

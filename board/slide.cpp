@@ -84,6 +84,12 @@ bool is_sliding(const Image& image) {
 
 int pile_of_slide() { return animation(destination); }
 
+int time_to_next_slide_step(const Image& image) {
+    const bool moves =
+        image.index() == animation(sliding_picture) || image.index() == animation(beneath_sliding);
+    return slide_is_under_way() && moves ? frmcards.Timer3.interval() : 0;
+}
+
 void let_slide_win() { animation(wins_game) = 1; }
 
 bool slide_wins() { return slide_is_under_way() && animation(wins_game) == 1; }

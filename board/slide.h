@@ -24,6 +24,9 @@ bool slide_is_under_way();
 bool is_sliding(const Image& image);
 int pile_of_slide();
 
+/// Milliseconds until the slide moves this image again; 0 when it does not.
+int time_to_next_slide_step(const Image& image);
+
 /// The slide that has begun wins the game when it arrives.
 void let_slide_win();
 bool slide_wins();

@@ -84,6 +84,11 @@ bool column_takes_run_of(int c, int source) {
     return find_move(source, c, move);
 }
 
+int first_slot_to_move(int c, int source) {
+    ColumnMove move;
+    return find_move(source, c, move) ? move.first : none;
+}
+
 bool from_tablet_to_column(const Integer& c) {
     bool moved = false;
     resumable(

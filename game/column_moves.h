@@ -11,6 +11,10 @@ bool column_takes_card(int c, const Card& card);
 /// Whether a move from column `source` to column c would be made.
 bool column_takes_run_of(int c, int source);
 
+/// The slot of column `source` from which on its cards would go to column c; none when the move would be
+/// refused.
+int first_slot_to_move(int c, int source);
+
 // Moves that end on column c, 0 to 9. Each checks the rule for columns, moves, scores, draws and records the
 // move; the result is false when the move is refused, and nothing has changed then.
 

@@ -125,6 +125,7 @@ void new_game() {
     build_deck();
     shuffle_deck();
     deal_cards();
+    if (FormView* view = frmcards.view()) view->dealt(frmcards.Image1(stock_image));
     show_deal();
     change_back(to_integer(read_setting(key_card_back, default_card_back)));
 }

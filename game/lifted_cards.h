@@ -11,4 +11,9 @@ namespace tarnwick {
 /// taken hold of.
 std::vector<Image*> lifted_cards(Image& dragged);
 
+/// The images that would move if `dragged` were dropped on image `target` now and received there, from the
+/// bottom one up: of a column, not always those that were lifted. None when nobody would receive them.
+/// @param x  the pointer's distance from the left edge of the image dropped on, in twips
+std::vector<Image*> moving_cards(const Image& dragged, const Image& target, float x);
+
 }  // namespace tarnwick

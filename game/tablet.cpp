@@ -28,6 +28,7 @@ void hide_shown_card() { hide_face(shown_tablet_image()); }
 // Turns the cards up to `slot`.
 void turn_to(int slot) {
     shown_tablet_image() = tablet(slot, picture_field);
+    frmcards.Image1(shown_tablet_image()).pass(frmcards.Image1(stock_image));
     add_undo(turn_record, turn_record, turned_slot());
     turned_slot() = slot;
 }

@@ -83,6 +83,7 @@ void undo_next_tablet_card() {
         // The first turn of a game stays, as long as nothing else can be taken back.
         if (undo_count() == 1) return;
         turned_slot() = undo_list(0, 2);
+        frmcards.Image1(shown_tablet_image()).pass(frmcards.Image1(stock_image));
         hide_face(shown_tablet_image());
         display_turned_card();
         show_stock();

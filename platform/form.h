@@ -80,6 +80,12 @@ class Form : public Window {
     /// Tells what the widgets of a board mean, in the order in which they are read out. Nobody is told that
     /// it has changed: it may after every event, and what is new is found by view/spoken_board.h.
     std::function<std::vector<BoardItem>()> on_describe;
+    /// Tells whether images are to be seen on their way to where they lie, asked after an event has moved
+    /// some; without it, none are. Must not throw.
+    std::function<bool()> on_motion;
+    /// Tells how many milliseconds it takes until an image is moved again that is moved in even steps; 0 for
+    /// any other image. Must not throw.
+    std::function<int(const Image& image)> on_step;
 
     /// Creates the window as stored and runs on_load; nothing when it is loaded already.
     void load();

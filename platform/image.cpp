@@ -23,6 +23,10 @@ void Image::set_bordered(bool bordered) {
     changed();
 }
 
+void Image::pass(const Image& other) const {
+    if (FormView* view = form().view()) view->image_passes(*this, other);
+}
+
 void Image::click() {
     if (!form().accepts_input() || !events_.click) return;
     desktop().event([this] { events_.click(index_); });

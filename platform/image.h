@@ -43,6 +43,9 @@ class Image : public Widget {
     DragMode drag_mode() const { return drag_mode_; }
     void set_drag_mode(DragMode mode) { drag_mode_ = mode; }
 
+    /// Where the image is seen to come from if it is shown in this event, or to go to if it is hidden.
+    void pass(const Image& other) const;
+
     /// What a desktop calls when the user clicks the image.
     void click();
 

@@ -65,6 +65,7 @@ void Mouse::start_drag(Image& image) {
         if (on_lift) lifted_ = on_lift(image);
         if (on_put_back) glides_back_ = on_put_back();
     });
+    taken_up_ = lifted_;
     drag_changed();
 }
 
@@ -72,13 +73,25 @@ void Mouse::move(float x, float y) {
     if (!dragged_ || (x == x_ && y == y_)) return;
     x_ = x;
     y_ = y;
-    receiver_ = receiver_at(x, y);
+    look_for_receiver();
     drag_changed();
 }
 
-const Widget* Mouse::receiver_at(float x, float y) const {
-    const Image* target = on_hover && is_seen(x, y) ? image_at(x, y) : nullptr;
-    return target ? on_hover(*dragged_, *target, (x - target->left()) * twips_per_pixel) : nullptr;
+// Whether it is another one now.
+bool Mouse::look_for_receiver() {
+    const Image* target = on_hover && is_seen(x_, y_) ? image_at(x_, y_) : nullptr;
+    const float offset_x = target ? (x_ - target->left()) * twips_per_pixel : 0;
+    const Widget* receiver = target ? on_hover(*dragged_, *target, offset_x) : nullptr;
+    if (receiver == receiver_) return false;
+    receiver_ = receiver;
+    lifted_ = receiver ? taken_by(*target, offset_x) : taken_up_;
+    return true;
+}
+
+std::vector<Image*> Mouse::taken_by(const Image& target, float offset_x) const {
+    std::vector<Image*> taken;
+    if (on_take) taken = on_take(*dragged_, target, offset_x);
+    return taken.empty() ? taken_up_ : taken;
 }
 
 bool Mouse::is_seen(float x, float y) const {
@@ -91,11 +104,10 @@ void Mouse::follow_layout() {
     if (!dragged_) return;
     const float press_x = dragged_->left() + hold_x_ * dragged_->width();
     const float press_y = dragged_->top() + hold_y_ * dragged_->height();
-    const Widget* receiver = receiver_at(x_, y_);
-    if (press_x == press_x_ && press_y == press_y_ && receiver == receiver_) return;
+    const bool other_receiver = look_for_receiver();
+    if (press_x == press_x_ && press_y == press_y_ && !other_receiver) return;
     press_x_ = press_x;
     press_y_ = press_y;
-    receiver_ = receiver;
     drag_changed();
 }
 

@@ -39,7 +39,8 @@ class Mouse {
 
     /// The image being dragged, or null.
     Image* dragged() const { return dragged_; }
-    /// The images that follow the pointer during the drag, from the bottom one up.
+    /// The images that follow the pointer during the drag, from the bottom one up: while something would
+    /// receive them, those that it would take.
     const std::vector<Image*>& lifted() const { return lifted_; }
     /// How far the pointer has moved since the drag's press.
     float drag_dx() const { return x_ - press_x_; }
@@ -56,6 +57,9 @@ class Mouse {
     /// Tells what is seen to receive the dragged image if that were dropped on `target` now, `offset_x` twips
     /// from its left edge; null for nothing. Without it, nothing is known. Must not throw.
     std::function<const Widget*(const Image& dragged, const Image& target, float offset_x)> on_hover;
+    /// Tells which images would move if the dragged one were dropped there and received, from the bottom one
+    /// up; without it, or where it tells none, those that were lifted. Must not throw.
+    std::function<std::vector<Image*>(const Image& dragged, const Image& target, float offset_x)> on_take;
     /// Tells whether images that nobody received are seen to glide back to where they came from.
     std::function<bool()> on_put_back;
 
@@ -63,7 +67,8 @@ class Mouse {
     bool is_second_click(const Image& image, float x, float y) const;
     void start_drag(Image& image);
     bool is_seen(float x, float y) const;
-    const Widget* receiver_at(float x, float y) const;
+    bool look_for_receiver();
+    std::vector<Image*> taken_by(const Image& target, float offset_x) const;
     void drop(float x, float y);
     void put_down();
     void drag_changed() const;
@@ -72,6 +77,7 @@ class Mouse {
     std::optional<Rect> seen_area_;
     Image* pressed_ = nullptr;
     Image* dragged_ = nullptr;
+    std::vector<Image*> taken_up_;  ///< lifted where nothing would receive them
     std::vector<Image*> lifted_;
     const Widget* receiver_ = nullptr;
     bool glides_back_ = false;

@@ -9,6 +9,7 @@
 
 namespace tarnwick {
 
+class Image;
 class Mouse;
 class Widget;
 
@@ -28,6 +29,11 @@ class FormView {
     virtual void raise() = 0;
     /// The lifted images were taken up, moved, or put down.
     virtual void drag_changed() = 0;
+    /// The event that is under way shows this image, which is seen to come from the other one's place, or
+    /// hides it, which is seen to go there.
+    virtual void image_passes(const Image& /*image*/, const Image& /*other*/) {}
+    /// All that the event lays out is seen to come from the place of this image.
+    virtual void dealt(const Image& /*from*/) {}
 };
 
 /// What a window is to whatever belongs to it: its widgets, menus and timers, and its mouse. Every window is

@@ -5,8 +5,8 @@ namespace tarnwick {
 // The settings that the player switches on and off, and what each changes when it is off. All are on until
 // the player has put them off.
 
-/// "Animate cards". Off: a card that is sent to its ace pile lies there at once, and one that nobody received
-/// is back at once. Throws ConversionError.
+/// "Animate cards". Off: a card that is sent to its ace pile lies there at once, one that nobody received
+/// is back at once, and no card is seen on its way. Throws ConversionError.
 bool animation_is_on();
 
 /// "Display Messages". Off: a card that an ace pile refuses is refused without a word. Throws

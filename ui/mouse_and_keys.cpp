@@ -3,6 +3,7 @@
 
 #include "board/display.h"
 #include "board/peek.h"
+#include "board/slide.h"
 #include "game/drops.h"
 #include "game/lifted_cards.h"
 #include "game/tablet.h"
@@ -40,8 +41,16 @@ const Widget* receiver(const Image& dragged, const Image& target, float x) {
     }
 }
 
-// A text that does not convert must not come in the way of a drop; the moves tell about it.
-bool glides_back() {
+std::vector<Image*> taken(const Image& dragged, const Image& target, float x) {
+    try {
+        return moving_cards(dragged, target, x);
+    } catch (const std::exception&) {
+        return {};
+    }
+}
+
+// A text that does not convert must not come in the way of a move; the moves themselves tell about it.
+bool motion_is_wanted() {
     try {
         return animation_is_on();
     } catch (const ConversionError&) {
@@ -60,7 +69,10 @@ void attach_mouse_and_keys() {
     frmcards.on_key_down = key_down;
     frmcards.mouse().on_lift = lifted_cards;
     frmcards.mouse().on_hover = receiver;
-    frmcards.mouse().on_put_back = glides_back;
+    frmcards.mouse().on_take = taken;
+    frmcards.mouse().on_put_back = motion_is_wanted;
+    frmcards.on_motion = motion_is_wanted;
+    frmcards.on_step = time_to_next_slide_step;
 }
 
 }  // namespace tarnwick

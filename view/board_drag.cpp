@@ -81,21 +81,21 @@ void BoardDrag::add_to(BoardLayers& layers, double ratio) const {
     if (dragged && offset().none()) add(*dragged);
 }
 
-std::vector<Image*> BoardDrag::follow(std::int64_t now) {
+std::vector<Image*> BoardDrag::follow(std::int64_t now, bool glides) {
     const Mouse& mouse = form_.mouse();
-    if (mouse.lifted().empty() == held_.empty()) {
-        held_offset_ = {static_cast<double>(mouse.drag_dx()), static_cast<double>(mouse.drag_dy())};
-        return {};
-    }
+    const bool put_down = mouse.lifted().empty();
+    const Shift last_offset = held_offset_;
+    if (!put_down) held_offset_ = offset();
+    if (mouse.lifted() == held_) return {};
     std::vector<Image*> changed = end_glide();
-    const std::vector<Image*>& turned = held_.empty() ? mouse.lifted() : held_;
-    changed.insert(changed.end(), turned.begin(), turned.end());
+    changed.insert(changed.end(), held_.begin(), held_.end());
+    changed.insert(changed.end(), mouse.lifted().begin(), mouse.lifted().end());
     // Should somebody receive the images after all, they are seen to change, and that ends their glide.
-    if (!held_.empty() && !held_offset_.none() && mouse.glides_back()) {
-        glide_.begin(held_, held_offset_, now);
+    if (put_down && !last_offset.none() && glides && mouse.glides_back()) {
+        glide_.begin(held_, last_offset, now);
     }
     held_ = mouse.lifted();
-    held_offset_ = {};
+    if (put_down) held_offset_ = {};
     return changed;
 }
 

@@ -27,9 +27,9 @@ class BoardDrag {
     /// Adds what is seen of the drag to what is painted, as far as it lies in the area of that.
     void add_to(BoardLayers& layers, double ratio) const;
 
-    /// Takes note of what the mouse does now. The result are the images whose own places look different from
-    /// now on; none when the lifted ones were only moved.
-    std::vector<Image*> follow(std::int64_t now);
+    /// Takes note of what the mouse does now; `glides` allows a way back. The result are the images whose own
+    /// places look different from now on; none when the lifted ones were only moved.
+    std::vector<Image*> follow(std::int64_t now, bool glides);
 
     /// The glide of images that nobody received. Whatever moves one of them ends it.
     const Glide& glide() const { return glide_; }

@@ -110,7 +110,8 @@ struct PaintedLabel {
     std::optional<PaintedRim> rim;
 };
 
-/// All that is seen of an area of a board, from back to front, in the order of these members. What only
+/// All that is seen of an area of a board, from back to front, in the order of these members but the
+/// last. What only
 /// reaches into the area is listed whole: the area clips it. All places count from the upper left corner of
 /// the board, those of the labels too: a front end shifts them all up by BoardScroll::offset().
 struct BoardLayers {
@@ -123,6 +124,8 @@ struct BoardLayers {
     std::vector<PaintedImage> lifted;
     std::optional<PaintedPlate> plate;
     std::vector<PaintedLabel> labels;
+    /// Not seen yet, but soon: so that their pictures can be drawn now, and not while all moves.
+    std::vector<PaintedImage> coming;
 };
 
 }  // namespace tarnwick

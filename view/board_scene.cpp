@@ -109,6 +109,7 @@ const BoardLayers& BoardScene::layers(const Area& area, double ratio) {
     layers_.lifted.clear();
     layers_.plate.reset();
     layers_.labels.clear();
+    layers_.coming.clear();
     add_images(ratio);
     add_outlines(ratio);
     drag_.add_to(layers_, ratio);
@@ -161,6 +162,7 @@ void BoardScene::add_images(double ratio) {
     for (auto image = images_.rbegin(); image != images_.rend(); ++image) {
         if (!is_seen(**image) || std::find(elsewhere.begin(), elsewhere.end(), *image) != elsewhere.end())
             continue;
+        if (motion_.moves(**image)) continue;
         const Box box = picture_place(**image);
         if (!layers_.area.meets(touched(box))) continue;
         const Area place = snapped(box, ratio);
@@ -169,6 +171,7 @@ void BoardScene::add_images(double ratio) {
         painted.push_back({(*image)->picture(), place, (*image)->bordered()});
     }
     std::reverse(painted.begin(), painted.end());
+    motion_.add_to(layers_, ratio);
 }
 
 bool BoardScene::is_seen_within(const Area& place) const {
@@ -177,6 +180,7 @@ bool BoardScene::is_seen_within(const Area& place) const {
     for_each_visible<Image>(form_, WidgetKind::image, [&](const Image& image) {
         found = found || (is_seen(image) && picture_place(image).meets(box));
     });
+    for (const Area& area : motion_.areas()) found = found || area.meets(place);
     return found || drag_.area().meets(place);
 }
 

@@ -6,17 +6,20 @@
 #include "platform/image.h"
 #include "view/board_drag.h"
 #include "view/board_layers.h"
+#include "view/motion.h"
 #include "view/table_light.h"
 #include "view/text_measure.h"
 
 namespace tarnwick {
 
-/// What a window's board looks like: its outlines, images and labels, and what is seen of a drag. It depends
-/// on nothing but the window's widgets, the size of texts, and how far the board is scrolled.
+/// What a window's board looks like: its outlines, images and labels, and what is seen of a drag and of
+/// images on their way. It depends on nothing but the window's widgets, the size of texts, and how far the
+/// board is scrolled.
 class BoardScene {
   public:
     /// @param texts  measures the desktop's font; outlives the scene
-    BoardScene(const Form& form, const TextMeasure& texts) : form_(form), texts_(texts), drag_(form) {}
+    BoardScene(const Form& form, const TextMeasure& texts)
+        : form_(form), texts_(texts), drag_(form), motion_(form) {}
 
     /// How far the board is scrolled down, in pixels: the labels keep their places in the window.
     void set_scrolled(int offset) { scrolled_ = offset; }
@@ -40,6 +43,8 @@ class BoardScene {
 
     BoardDrag& drag() { return drag_; }
     const BoardDrag& drag() const { return drag_; }
+    Motion& motion() { return motion_; }
+    const Motion& motion() const { return motion_; }
 
   private:
     double font_scale() const;
@@ -56,6 +61,7 @@ class BoardScene {
     const TextMeasure& texts_;
     BoardDrag drag_;
     TableLight light_;
+    Motion motion_;
     int scrolled_ = 0;
     std::vector<const Image*> images_;  ///< from the lowest one up
     BoardLayers layers_;

@@ -27,7 +27,12 @@ BoardStage::BoardStage(Form& form, const TextMeasure& texts, BoardFront& front)
 void BoardStage::widget_changed(const Widget& widget, const Rect& before) {
     if (widget.kind() == WidgetKind::label || widget.kind() == WidgetKind::outline) update_labels();
     if (widget.kind() == WidgetKind::image) {
-        if (scene_.drag().glide().moves(static_cast<const Image&>(widget))) end_glide();
+        const auto& image = static_cast<const Image&>(widget);
+        if (const Glide& glide = scene_.drag().glide(); glide.moves(image)) {
+            scene_.motion().let_go(glide.images(), glide.offset());
+            end_glide();
+        }
+        scene_.motion().image_changed(image);
         settle_later();
     }
     repaint(scene_.area_of(widget, before));
@@ -49,7 +54,8 @@ void BoardStage::form_changed() {
 }
 
 void BoardStage::drag_changed() {
-    repaint_home(scene_.drag().follow(desktop().now()));
+    const bool glides = !holds() && front_.allows_motion();
+    repaint_home(scene_.drag().follow(desktop().now(), glides));
     repaint_lifted();
     repaint_mark();
     update_steps();
@@ -104,6 +110,8 @@ void BoardStage::resized(PixelSize size) {
     show_part();
     settle_later();
     form_.user_resized(size);
+    motion_areas_.clear();
+    scene_.motion().rest();
 }
 
 void BoardStage::settle_later() {
@@ -117,11 +125,15 @@ void BoardStage::settle() {
     if (!form_.loaded()) return;
     scroll([this] { scroll_.set_lower_edge(scene_.lower_edge()); });
     front_.scroll_changed();
+    begin_motion();
     update_steps();
 }
 
 void BoardStage::press(double x, double y, MouseButton button) {
-    if (form_.accepts_input()) end_glide();
+    if (form_.accepts_input()) {
+        end_glide();
+        end_motion();
+    }
     pointer_x_ = x;
     pointer_y_ = y;
     form_.mouse().press(static_cast<float>(x), static_cast<float>(y + scroll_.offset()), button);
@@ -151,6 +163,7 @@ bool BoardStage::key_down(int key_code) {
     }
     if (form_.accepts_input()) {
         end_glide();
+        end_motion();
         scroll([=, this] { scroll_.press(key_code); });
     }
     return key_code != 0 && form_.key_down(key_code);
@@ -206,10 +219,32 @@ void BoardStage::end_glide() {
     update_steps();
 }
 
+void BoardStage::repaint_motion() {
+    std::vector<Area> areas = std::move(motion_areas_);
+    motion_areas_ = scene_.motion().areas();
+    for (const Area& area : motion_areas_) add_area(areas, area);
+    for (const Area& area : areas) repaint(area);
+}
+
+void BoardStage::begin_motion() {
+    // Behind a dialog nothing moves.
+    scene_.motion().begin(desktop().now(), front_.allows_motion() && form_.accepts_input());
+    repaint_motion();
+}
+
+void BoardStage::end_motion() {
+    if (!scene_.motion().under_way()) return;
+    scene_.motion().land();
+    repaint_motion();
+    scene_.motion().end();
+    motion_areas_.clear();
+    update_steps();
+}
+
 void BoardStage::update_steps() {
     const std::optional<std::int64_t> before = next_step();
     const std::int64_t now = desktop().now();
-    if (scene_.drag().glide().images().empty()) {
+    if (scene_.drag().glide().images().empty() && !scene_.motion().under_way()) {
         next_frame_.reset();
     } else if (!next_frame_) {
         next_frame_ = now + frame_time;
@@ -235,6 +270,11 @@ void BoardStage::step() {
             repaint_lifted();
         } else {
             end_glide();
+        }
+        if (scene_.motion().step(now)) {
+            repaint_motion();
+        } else {
+            end_motion();
         }
     }
     if (next_edge_step_ && *next_edge_step_ <= now) {

@@ -24,6 +24,8 @@ class BoardFront {
     virtual void settle_later() = 0;
     /// next_step() has changed.
     virtual void steps_changed() = 0;
+    /// Whether the desktop has nothing against things that are seen to move.
+    virtual bool allows_motion() const = 0;
 };
 
 /// A board on show: turns what happens in its window into what is to be painted, and what the player does
@@ -36,6 +38,8 @@ class BoardStage {
     // What the view of the window is told.
     void widget_changed(const Widget& widget, const Rect& before);
     void drag_changed();
+    void image_passes(const Image& image, const Image& other) { scene_.motion().image_passes(image, other); }
+    void dealt(const Image& from) { scene_.motion().dealt(from); }
     /// The window's colour may be another one.
     void form_changed();
 
@@ -58,6 +62,8 @@ class BoardStage {
     /// A key, by its code (see platform/key_codes.h), 0 for one without: it may scroll, and goes to
     /// the form. True when that took it.
     bool key_down(int key_code);
+    /// Whatever moves is where it lies at once: for what the player does and the stage is not told.
+    void end_motion();
     /// Scrolls to a value of scroll(), which a scroll bar was moved to.
     void scroll_to(int value);
     /// Scrolls down by so many pixels, for a wheel: BoardScroll::step for each of its notches.
@@ -88,6 +94,8 @@ class BoardStage {
     void repaint_mark();
     void repaint_home(const std::vector<Image*>& images);
     void update_labels();
+    void repaint_motion();
+    void begin_motion();
     void settle_later();
     void end_glide();
     void point_at(double x, double y);
@@ -105,11 +113,12 @@ class BoardStage {
     Color color_;
     Area lifted_area_;
     Area mark_area_;
+    std::vector<Area> motion_areas_;
     Area plate_;  ///< what is painted anew when anything below the labels changes
     double label_scale_;
     double pointer_x_ = 0;  ///< where the pointer was last seen
     double pointer_y_ = 0;
-    std::optional<std::int64_t> next_frame_;      ///< of the glide
+    std::optional<std::int64_t> next_frame_;      ///< of the glide and of motion
     std::optional<std::int64_t> next_edge_step_;  ///< of a drag held where there is more beyond the edge
     int repaints_ = 0;                            ///< areas since the board was last painted
     bool settles_later_ = false;

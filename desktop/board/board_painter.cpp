@@ -57,6 +57,7 @@ void BoardPainter::paint(QPainter& painter, const BoardLayers& layers) {
     if (layers.plate) paint_plate(painter, *layers.plate, *layers.ground);
     painter.restore();
     for (const PaintedLabel& label : layers.labels) labels_.paint(painter, label, ratio);
+    prepare(layers.coming);
 }
 
 void BoardPainter::paint_image(QPainter& painter, const PaintedImage& image) {
@@ -68,8 +69,8 @@ void BoardPainter::paint_image(QPainter& painter, const PaintedImage& image) {
     painter.drawRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
-void BoardPainter::prepare(const BoardLayers& layers) {
-    for (const PaintedImage& image : layers.images) {
+void BoardPainter::prepare(const std::vector<PaintedImage>& images) {
+    for (const PaintedImage& image : images) {
         pictures_.pixmap(image.picture, QSize(image.place.width, image.place.height));
     }
 }

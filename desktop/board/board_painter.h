@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPainter>
+#include <vector>
 
 #include "desktop/board/drag_shadow.h"
 #include "desktop/board/label_pictures.h"
@@ -16,8 +17,8 @@ class BoardPainter {
     /// Paints with the board's pixels as the painter's units. What reaches beyond the layers' area is clipped
     /// by the painter, if it is to be. The layers are meant for the device's pixel ratio.
     void paint(QPainter& painter, const BoardLayers& layers);
-    /// Draws the pictures that a painting of these layers will want.
-    void prepare(const BoardLayers& layers);
+    /// Draws the pictures that a painting of these images will want.
+    void prepare(const std::vector<PaintedImage>& images);
 
     PictureCache& pictures() { return pictures_; }
 

@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QStyle>
 #include <QTimer>
 #include <algorithm>
 
@@ -65,6 +66,13 @@ void BoardWidget::steps_changed() {
     steps_.start(static_cast<int>(left), Qt::PreciseTimer, this);
 }
 
+// A style without animations of its own is how a desktop asks for less motion; where it has no such setting,
+// the player can ask through the environment.
+bool BoardWidget::allows_motion() const {
+    return !qEnvironmentVariableIsSet("TARNWICK_LESS_MOTION") &&
+           style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0;
+}
+
 void BoardWidget::timerEvent(QTimerEvent* event) {
     if (event->timerId() == settling_.timerId()) {
         settling_.stop();
@@ -92,7 +100,8 @@ void BoardWidget::paintEvent(QPaintEvent* event) {
 
 void BoardWidget::showEvent(QShowEvent* event) {
     // The desktop takes a while to give a new window its place on the screen: time to draw pictures.
-    QTimer::singleShot(0, this, [this] { painter_.prepare(stage_.scene().layers(devicePixelRatioF())); });
+    QTimer::singleShot(
+        0, this, [this] { painter_.prepare(stage_.scene().layers(devicePixelRatioF()).images); });
     QWidget::showEvent(event);
 }
 
@@ -108,6 +117,8 @@ void BoardWidget::resizeEvent(QResizeEvent*) {
 }
 
 bool BoardWidget::event(QEvent* event) {
+    // The first that is known of a key, which may belong to a menu entry.
+    if (event->type() == QEvent::ShortcutOverride) stage_.end_motion();
     if (event->type() == QEvent::UngrabMouse || event->type() == QEvent::Hide) stage_.cancel();
     if (event->type() == QEvent::FontChange) stage_.font_changed();
     // The board looks the same with the keyboard and without: no need to paint it as a widget does by itself.

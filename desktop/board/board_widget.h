@@ -17,6 +17,8 @@ class BoardWidget : public QWidget, private BoardFront {
     // What the view of the window is told.
     void widget_changed(const Widget& widget, const Rect& before) { stage_.widget_changed(widget, before); }
     void drag_changed();
+    void image_passes(const Image& image, const Image& other) { stage_.image_passes(image, other); }
+    void dealt(const Image& from) { stage_.dealt(from); }
     void form_changed() { stage_.form_changed(); }
 
     Form& form() const { return form_; }
@@ -49,6 +51,7 @@ class BoardWidget : public QWidget, private BoardFront {
     void scroll_changed() override;
     void settle_later() override;
     void steps_changed() override;
+    bool allows_motion() const override;
 
     bool is_over_other_window(const QMouseEvent& event) const;
 

@@ -99,6 +99,14 @@ void BoardView::drag_changed() {
     if (board_window_) board_window_->board().drag_changed();
 }
 
+void BoardView::image_passes(const Image& image, const Image& other) {
+    if (board_window_) board_window_->board().image_passes(image, other);
+}
+
+void BoardView::dealt(const Image& from) {
+    if (board_window_) board_window_->board().dealt(from);
+}
+
 QWidget* BoardView::make_window() {
     board_window_ = new BoardWindow(form());
     return board_window_;

@@ -47,6 +47,8 @@ class BoardView : public WindowView {
     void widget_changed(const Widget& widget, const Rect& before) override;
     void menu_changed() override;
     void drag_changed() override;
+    void image_passes(const Image& image, const Image& other) override;
+    void dealt(const Image& from) override;
 
   protected:
     QWidget* make_window() override;

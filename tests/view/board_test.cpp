@@ -274,6 +274,36 @@ TEST_F(ShownBoard, ScrollsUnderACardHeldAtItsEdge) {
     EXPECT_TRUE(shows_all());
 }
 
+TEST_F(ShownBoard, LiftsWhatTheReceiverWouldTake) {
+    press(column_of_jack);
+    move(beside(top_image(column_of_queen)));
+    release(beside(top_image(column_of_queen)));
+    const Image& queen = frmcards.Image1(layout(column_of_queen, column_of_queen, column_picture_field));
+    const Image& jack = top_image(column_of_queen);
+    const std::vector<Image*> both{const_cast<Image*>(&queen), const_cast<Image*>(&jack)};
+    const Place king = on(top_image(column_of_king));
+    press(on(jack));
+    move(bare_table);
+    EXPECT_EQ(drag().lifted(), std::vector{both[1]}) << "the one taken hold of";
+    EXPECT_TRUE(shows_all());
+    move(king);
+    EXPECT_EQ(drag().lifted(), both) << "the King takes the Queen as well";
+    EXPECT_TRUE(shows_all());
+    move(bare_table);
+    EXPECT_EQ(drag().lifted(), std::vector{both[1]});
+    EXPECT_TRUE(shows_all());
+    move(king);
+    release(king);
+    EXPECT_EQ(column_top(column_of_king), column_of_king + 2);
+    EXPECT_TRUE(shows_all());
+    press({on(top_image(column_of_king)).x, on(queen).y - 80});
+    ASSERT_EQ(drag().lifted(), both) << "by its upper edge";
+    const Image& six = top_image(3);
+    move(on(six));
+    EXPECT_EQ(drag().lifted(), both) << "nobody takes them";
+    EXPECT_TRUE(shows_all());
+}
+
 TEST_F(ShownBoard, TellsWhenTheNextTimerTicks) {
     const std::optional<std::int64_t> left = time_to_next_tick();
     ASSERT_TRUE(left && *left > 0);

@@ -104,6 +104,12 @@ class GridView : public FormView, public BoardFront {
     void form_changed() override {
         if (stage_) stage_->form_changed();
     }
+    void image_passes(const Image& image, const Image& other) override {
+        if (stage_) stage_->image_passes(image, other);
+    }
+    void dealt(const Image& from) override {
+        if (stage_) stage_->dealt(from);
+    }
     void menu_changed() override {}
     void raise() override {}
 
@@ -112,6 +118,7 @@ class GridView : public FormView, public BoardFront {
     void scroll_changed() override {}
     void settle_later() override { settles_ = true; }
     void steps_changed() override {}
+    bool allows_motion() const override { return motion_allowed; }
 
     void resize(PixelSize size) {
         if (!stage_) stage_.emplace(form_, texts, *this);
@@ -137,6 +144,7 @@ class GridView : public FormView, public BoardFront {
     BoardStage& stage() { return *stage_; }
 
     FixedTexts texts;
+    bool motion_allowed = true;
 
   private:
     Form& form_;
