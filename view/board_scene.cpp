@@ -112,6 +112,8 @@ const BoardLayers& BoardScene::layers(const Area& area, double ratio) {
     layers_.coming.clear();
     add_images(ratio);
     add_outlines(ratio);
+    // A card on its way hides no place: it is about to leave it.
+    motion_.add_to(layers_, ratio);
     drag_.add_to(layers_, ratio);
     add_labels(ratio);
     return layers_;
@@ -171,7 +173,6 @@ void BoardScene::add_images(double ratio) {
         painted.push_back({(*image)->picture(), place, (*image)->bordered()});
     }
     std::reverse(painted.begin(), painted.end());
-    motion_.add_to(layers_, ratio);
 }
 
 bool BoardScene::is_seen_within(const Area& place) const {
