@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "platform/controls.h"
-#include "view/contrast.h"
 #include "view/empty_place.h"
 #include "view/picture_place.h"
 #include "windows/pictures.h"
@@ -19,39 +18,13 @@ void for_each_visible(const Form& form, WidgetKind kind, Action action) {
     }
 }
 
-// Around glyphs that the colour of the table does not set off well enough to be read: a soft one, that does.
-std::optional<PaintedRim> text_rim(Color text, Color table, double font_scale) {
-    constexpr double well_readable = 4.5;
-    constexpr double very_well_readable = 7;
-    if (contrast(text, table) >= well_readable) return std::nullopt;
-    const Color color = farthest_from(text);
-    return PaintedRim{
-        color, std::max(1.0, 0.6 * font_scale), opacity_for(very_well_readable, text, color, table)};
-}
-
 }  // namespace
 
-// The row of labels grows upwards and to the right, from the lower left corner of its first one.
+// A row of labels at the lower left corner grows to the right and upwards, and keeps its order.
 Box BoardScene::label_place(const Rect& place, double scale) const {
-    double first = static_cast<double>(place.left);
-    for_each_visible<Label>(form_, WidgetKind::label, [&first](const Label& label) {
-        first = std::min(first, static_cast<double>(label.left()));
-    });
     const Box given = box_of(place);
     const double height = given.height * scale;
-    return {first + (given.left - first) * scale,
-            given.bottom() - height + scrolled_,
-            given.width * scale,
-            height};
-}
-
-// As the cards have grown, to whose size the outlines are drawn. Small cards leave the texts readable.
-double BoardScene::font_scale() const {
-    double width = 0;
-    for_each_visible<Outline>(form_, WidgetKind::outline, [&width](const Outline& outline) {
-        width = std::max(width, static_cast<double>(outline.width()));
-    });
-    return std::max(1.0, width / card_width);
+    return {given.left * scale, given.bottom() - height + scrolled_, given.width * scale, height};
 }
 
 Area BoardScene::area_of(const Widget& widget, const Rect& place) const {
@@ -81,11 +54,11 @@ double BoardScene::label_scale() const {
         const double width = static_cast<double>(texts_.width(label.caption(), {}));
         scale = std::max({scale, width / place.width, height / place.height});
     });
-    return scale * font_scale();
+    return scale;
 }
 
 Area BoardScene::plate(double label_scale) const {
-    const double margin = 4 * font_scale();
+    constexpr double margin = 4;
     Box row;
     for_each_visible<Label>(form_, WidgetKind::label, [&](const Label& label) {
         row = united(row, label_place(label.place(), label_scale));
@@ -192,19 +165,12 @@ void BoardScene::add_labels(double ratio) {
     const Area around_labels = plate(scale);
     if (!layers_.area.meets(around_labels)) return;
     if (is_seen_within(around_labels)) {
-        layers_.plate = PaintedPlate{snapped(box_of(around_labels), ratio),
-                                     corner_radius(card_width * font_scale(), ratio)};
+        layers_.plate = PaintedPlate{snapped(box_of(around_labels), ratio), corner_radius(card_width, ratio)};
     }
     for_each_visible<Label>(form_, WidgetKind::label, [&](const Label& label) {
         const Box place = label_place(label.place(), scale);
-        // A rim reaches beyond the place.
-        if (!layers_.area.meets(touched(place.grown(font_scale())))) return;
-        layers_.labels.push_back({place,
-                                  label.caption(),
-                                  label.text_color(),
-                                  label.alignment(),
-                                  font_scale(),
-                                  text_rim(label.text_color(), form_.back_color(), font_scale())});
+        if (!layers_.area.meets(touched(place))) return;
+        layers_.labels.push_back({place, label.caption(), label.text_color(), label.alignment()});
     });
 }
 

@@ -37,8 +37,7 @@ class BoardScene {
     int lower_edge() const;
     /// What of the labels' surroundings changes when something else moves below them, in pixels of the board.
     Area plate() const { return plate(label_scale()); }
-    /// How much larger than given the labels are seen, as large as the board and so that their texts fit; 1
-    /// or more.
+    /// How much larger than given the labels are seen, so that their texts fit; 1 or more.
     double label_scale() const;
 
     BoardDrag& drag() { return drag_; }
@@ -47,7 +46,6 @@ class BoardScene {
     const Motion& motion() const { return motion_; }
 
   private:
-    double font_scale() const;
     Box label_place(const Rect& place, double scale) const;
     Area plate(double label_scale) const;
     const PaintedGround& ground(const Area& area, double ratio);

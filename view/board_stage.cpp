@@ -25,7 +25,7 @@ BoardStage::BoardStage(Form& form, const TextMeasure& texts, BoardFront& front)
       label_scale_(scene_.label_scale()) {}
 
 void BoardStage::widget_changed(const Widget& widget, const Rect& before) {
-    if (widget.kind() == WidgetKind::label || widget.kind() == WidgetKind::outline) update_labels();
+    if (widget.kind() == WidgetKind::label) update_labels();
     if (widget.kind() == WidgetKind::image) {
         const auto& image = static_cast<const Image&>(widget);
         if (const Glide& glide = scene_.drag().glide(); glide.moves(image)) {

@@ -35,9 +35,9 @@ double contrast(Color a, Color b) {
 
 Color farthest_from(Color color) { return contrast(black, color) > contrast(white, color) ? black : white; }
 
-int opacity_for(double wanted, Color from, Color color, Color ground) {
+int opacity_for(double wanted, Color color, Color ground) {
     int opacity = 0;
-    while (opacity < 255 && contrast(laid_over(color, ground, opacity), from) < wanted) ++opacity;
+    while (opacity < 255 && contrast(laid_over(color, ground, opacity), ground) < wanted) ++opacity;
     return opacity;
 }
 

@@ -1,7 +1,6 @@
 // What keeps its place in the window whatever lies or is scrolled below: the score, and the bar at the edge.
 
 #include <QScrollBar>
-#include <cmath>
 
 #include "desktop/shared/qt_convert.h"
 #include "desktop/shared/qt_texts.h"
@@ -11,16 +10,12 @@
 #include "tests/play/play.h"
 #include "view/board_scene.h"
 #include "windows/frmcards.h"
-#include "windows/pictures.h"
 
 namespace tarnwick {
 namespace {
 
-// Where the labels are, without the rounded corners of the plate under them.
-QRect labels() {
-    const int radius = static_cast<int>(std::ceil(4 * frmcards.Shape1(0).width() / card_width));
-    return to_qt(BoardScene(frmcards, qt_texts()).plate()).adjusted(radius, 2, -radius, -2);
-}
+// Where the labels are, without the rounded edges of the plate under them.
+QRect labels() { return to_qt(BoardScene(frmcards, qt_texts()).plate()).adjusted(4, 2, -4, -2); }
 
 TEST(Score, IsReadAboveEveryCard) {
     // A short column, and one that ends below the score.
