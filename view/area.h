@@ -24,44 +24,33 @@ struct Shift {
     bool none() const { return x == 0 && y == 0; }
 };
 
-/// A rectangle of whole pixels, those of the board or those of a device.
-struct Area {
-    int left = 0;
-    int top = 0;
-    int width = 0;
-    int height = 0;
+/// A rectangle; lengths in numbers of one kind.
+template <class Number>
+struct Rectangle {
+    Number left = 0;
+    Number top = 0;
+    Number width = 0;
+    Number height = 0;
 
-    int right() const { return left + width; }
-    int bottom() const { return top + height; }
+    Number right() const { return left + width; }
+    Number bottom() const { return top + height; }
     bool empty() const { return width <= 0 || height <= 0; }
-    Area shifted(int dx, int dy) const { return {left + dx, top + dy, width, height}; }
-    bool meets(const Area& other) const {
-        return !empty() && !other.empty() && left < other.right() && other.left < right() &&
-               top < other.bottom() && other.top < bottom();
-    }
-    bool operator==(const Area&) const = default;
-};
-
-/// A rectangle that need not begin and end at whole pixels.
-struct Box {
-    double left = 0;
-    double top = 0;
-    double width = 0;
-    double height = 0;
-
-    double right() const { return left + width; }
-    double bottom() const { return top + height; }
-    bool empty() const { return width <= 0 || height <= 0; }
-    bool operator==(const Box&) const = default;
-    Box shifted(Shift by) const { return {left + by.x, top + by.y, width, height}; }
-    Box grown(double margin) const {
+    Rectangle shifted(Number dx, Number dy) const { return {left + dx, top + dy, width, height}; }
+    Rectangle grown(Number margin) const {
         return {left - margin, top - margin, width + 2 * margin, height + 2 * margin};
     }
-    bool meets(const Box& other) const {
+    bool meets(const Rectangle& other) const {
         return !empty() && !other.empty() && left < other.right() && other.left < right() &&
                top < other.bottom() && other.top < bottom();
     }
+    bool operator==(const Rectangle&) const = default;
 };
+
+/// A rectangle of whole pixels, those of the board or those of a device.
+using Area = Rectangle<int>;
+
+/// A rectangle that need not begin and end at whole pixels.
+using Box = Rectangle<double>;
 
 inline Box box_of(const Rect& rect) {
     return {static_cast<double>(rect.left),
@@ -77,8 +66,8 @@ inline Box box_of(const Area& area) {
 }
 
 /// The smallest rectangle around both; one without any size adds nothing.
-template <class Rectangle>
-Rectangle united(const Rectangle& a, const Rectangle& b) {
+template <class Number>
+Rectangle<Number> united(const Rectangle<Number>& a, const Rectangle<Number>& b) {
     if (a.width == 0 && a.height == 0) return b;
     if (b.width == 0 && b.height == 0) return a;
     const auto left = std::min(a.left, b.left);
@@ -97,10 +86,7 @@ inline Area around(const Box& box) {
 }
 
 /// The pixels that a rectangle touches, with a margin for what rounding to device pixels adds.
-inline Area touched(const Box& box) {
-    const Area inner = around(box);
-    return {inner.left - 1, inner.top - 1, inner.width + 2, inner.height + 2};
-}
+inline Area touched(const Box& box) { return around(box).grown(1); }
 
 /// The rectangle in whole device pixels, so many to a pixel. Position and size are rounded apart: widgets of
 /// one size stay so.

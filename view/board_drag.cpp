@@ -41,7 +41,9 @@ Shift BoardDrag::offset() const {
     return {static_cast<double>(mouse.drag_dx()), static_cast<double>(mouse.drag_dy())};
 }
 
-Box BoardDrag::place_of(const Image& image) const { return picture_place(image).shifted(offset()); }
+Box BoardDrag::place_of(const Image& image) const {
+    return picture_place(image).shifted(offset().x, offset().y);
+}
 
 Area BoardDrag::area() const {
     Box bounds;

@@ -100,10 +100,11 @@ bool Motion::is_origin(const Image& image) const {
 
 std::optional<Box> Motion::seen_at(const Image& image) const {
     if (const Flight* flight = flight_of(image)) {
-        return flight->waits ? std::nullopt : std::optional(flight->looks.box.shifted(flight->offset));
+        return flight->waits ? std::nullopt
+                             : std::optional(flight->looks.box.shifted(flight->offset.x, flight->offset.y));
     }
     const Looks& looks = known_.at(&image);
-    return looks.seen ? std::optional(looks.box.shifted(looks.shift)) : std::nullopt;
+    return looks.seen ? std::optional(looks.box.shifted(looks.shift.x, looks.shift.y)) : std::nullopt;
 }
 
 Box Motion::origin_at(const Image& image) const { return seen_at(image).value_or(picture_place(image)); }
@@ -235,7 +236,8 @@ void Motion::land() {
 std::vector<Area> Motion::areas() const {
     std::vector<Area> areas;
     for (const Flight& flight : flights_) {
-        if (!flight.waits) add_area(areas, touched(flight.looks.box.shifted(flight.offset)));
+        if (!flight.waits)
+            add_area(areas, touched(flight.looks.box.shifted(flight.offset.x, flight.offset.y)));
     }
     return areas;
 }
@@ -243,7 +245,7 @@ std::vector<Area> Motion::areas() const {
 void Motion::add_to(BoardLayers& layers, double ratio) const {
     const std::vector<Image*>& lifted = form_.mouse().lifted();
     for (const Flight& flight : flights_) {
-        const Box box = flight.looks.box.shifted(flight.offset);
+        const Box box = flight.looks.box.shifted(flight.offset.x, flight.offset.y);
         if (std::find(lifted.begin(), lifted.end(), flight.image) != lifted.end()) continue;
         const Looks looks = is_seen(*flight.image) ? looks_of(*flight.image) : flight.looks;
         const PaintedImage painted{looks.picture, snapped(box, ratio), looks.bordered};
