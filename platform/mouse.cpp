@@ -1,6 +1,7 @@
 #include "platform/mouse.h"
 
 #include <cmath>
+#include <utility>
 
 #include "platform/desktop.h"
 #include "platform/image.h"
@@ -83,15 +84,15 @@ bool Mouse::look_for_receiver() {
     const float offset_x = target ? (x_ - target->left()) * twips_per_pixel : 0;
     const Widget* receiver = target ? on_hover(*dragged_, *target, offset_x) : nullptr;
     if (receiver == receiver_) return false;
+    std::vector<Image*> taken = receiver && on_take ? on_take(*dragged_, *target, offset_x) : taken_up_;
+    if (taken.empty()) {
+        receiver = nullptr;
+        taken = taken_up_;
+    }
+    const bool other = receiver != receiver_;
     receiver_ = receiver;
-    lifted_ = receiver ? taken_by(*target, offset_x) : taken_up_;
-    return true;
-}
-
-std::vector<Image*> Mouse::taken_by(const Image& target, float offset_x) const {
-    std::vector<Image*> taken;
-    if (on_take) taken = on_take(*dragged_, target, offset_x);
-    return taken.empty() ? taken_up_ : taken;
+    lifted_ = std::move(taken);
+    return other;
 }
 
 bool Mouse::is_seen(float x, float y) const {

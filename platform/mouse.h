@@ -58,7 +58,7 @@ class Mouse {
     /// from its left edge; null for nothing. Without it, nothing is known. Must not throw.
     std::function<const Widget*(const Image& dragged, const Image& target, float offset_x)> on_hover;
     /// Tells which images would move if the dragged one were dropped there and received, from the bottom one
-    /// up; without it, or where it tells none, those that were lifted. Must not throw.
+    /// up; where it tells none, nothing receives it. Without it, those that were lifted. Must not throw.
     std::function<std::vector<Image*>(const Image& dragged, const Image& target, float offset_x)> on_take;
     /// Tells whether images that nobody received are seen to glide back to where they came from.
     std::function<bool()> on_put_back;
@@ -68,7 +68,6 @@ class Mouse {
     void start_drag(Image& image);
     bool is_seen(float x, float y) const;
     bool look_for_receiver();
-    std::vector<Image*> taken_by(const Image& target, float offset_x) const;
     void drop(float x, float y);
     void put_down();
     void drag_changed() const;
