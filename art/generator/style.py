@@ -38,7 +38,9 @@ SUIT_COLOUR = {"hearts": RED, "diamonds": RED, "spades": INK, "clubs": INK}
 def num(value):
     """Return a number as short SVG text, rounded to a hundredth."""
     text = f"{value:.2f}".rstrip("0").rstrip(".")
-    return "0" if text in ("-0", "") else text
+    if text in ("-0", "0"):
+        return "0"
+    return text.replace("0.", ".", 1) if abs(value) < 1 else text
 
 
 def svg(body, width=WIDTH, height=HEIGHT):
