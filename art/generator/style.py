@@ -13,7 +13,7 @@ WIDTH, HEIGHT = 71, 96
 RED = "#e03a1e"
 INK = "#141c28"
 PAPER = "#fffdf7"
-EDGE = "#5f5b54"
+EDGE = "#22201d"
 
 WINE = "#a3241a"
 GOLD = "#f2b93f"
