@@ -2,7 +2,7 @@
 
 from math import cos, pi, sin
 
-from .back_figures import rose_flower, wreath
+from .back_figures import rose_flower, rose_use, wreath
 from .style import card, circle, group, line, num, path, two_way
 
 # The panel, its edges on whole units.
@@ -37,110 +37,110 @@ def outline(colour):
 
 def misty():
     """Ridge behind ridge in the mist, mirrored by a still lake."""
-    defs = "<defs>" + gradient("s", (0, "#8fb0c1"), (1, "#eff3ee"))
-    for name, top in (("a", "#7598ab"), ("b", "#4b748a"), ("c", "#1d4658")):
-        defs += gradient(name, (0, top), (1, "#e6eeee"))
+    mist, glow, lake = "#edf1ed", "#f8e7cd", "#a9c9d5"
+    defs = "<defs>" + gradient("s", (0, "#3f7d9f"), (.14, "#8fbccb"), (.28, "#fae3c0"),
+                               (.38, mist), (.6, glow), (.8, glow), (1, lake))
+    for name, top, down, foot in (
+            ("a", "#7ba3b6", 0, mist), ("b", "#23536e", .3, mist),
+            ("c", "#3a7089", .2, glow), ("d", "#123f52", .5, lake)):
+        defs += gradient(name, (down, top), (1, foot))
     defs += "</defs>"
-    firs = "".join(f"L{num(x - 1.6)} {num(y)} {num(x)} {num(y - h)}"
-                   f" {num(x + 1.6)} {num(y)}"
-                   for x, y, h in ((7, 38.5, 6), (10, 39, 8), (13.5, 40, 6),
-                                   (17, 41, 5), (50, 41.5, 5), (53.5, 40.5, 7),
-                                   (57, 39.5, 9), (60.5, 38.8, 7), (64, 38, 8)))
+    firs = "".join(f"M{num(x - h / 4.5)} 46 {x} {num(46 - h)} {num(x + h / 4.5)} 46Z"
+                   for x, h in ((6.5, 10), (10.5, 14), (14.5, 11), (18, 13), (22, 8),
+                                (46, 7), (50.5, 10), (54.5, 12), (58.5, 16), (63, 12)))
     half = (path("M4 48V6Q4 4 6 4H65Q67 4 67 6V48Z", "url(#s)")
-            + circle(48, 17, 4.5, "#f6f5ea")
-            + path("M4 48V25L12 20 18 24 29 13.5 37 21 43 18.5 52 26 60 22 67 27"
-                   "V48Z", "url(#a)")
-            + path("M29 13.5 37 21 34 20.5 32 23 29.5 19.5 27 22 24.5 18Z",
-                   "#f2f6f5")
-            + path("M4 48V33L14 27.5 22 33 31 29 41 35.5 53 26.5 67 34V48Z",
-                   "url(#b)")
-            + path(f"M4 48V38.5{firs}L67 38V48Z", "url(#c)"))
-    lake = (path("M4 45.5H67V50.5H4Z", "#e6eeee")
-            + line("M12 47H34M44 47H58M59 49H37M27 49H13", "#6f94a5", .8))
-    return defs + two_way(half) + lake + outline("#3f6678")
+            + circle(47.5, 10.5, 3.6, "#fffbe9")
+            + path("M4 20V13L10 9 15 12 38 13 43 11 49 15 57 9 62 12 67 9.5V20Z",
+                   "url(#a)")
+            + path("M4 21V17L9 14.5 14 16 25 5.5 33 12.5 37 11 46 17 51 15 55 16.5"
+                   " 61 13.5 67 17V21Z", "url(#b)")
+            + path("M25 5.5 30.5 10.3 28 9.8 26.5 12 23.5 10 20.4 10Z", "#fff")
+            + path("M4 36V27L13 22 22 28 31 24.5 40 30 53 22.5 67 29V36Z", "url(#c)")
+            + path(firs, "url(#d)"))
+    water = line("M10 46.5H30M41 46.5H56M24 48.5H47M61 49.5H41M30 49.5H15", mist, 1)
+    return defs + two_way(half) + water + outline("#23536e")
+
+
+def frieze(fill, rule):
+    """Return the band that is seen of a covered back, with a rule at its foot."""
+    return (path("M4 20V6Q4 4 6 4H65Q67 4 67 6V20Z", fill)
+            + path("M4 18H67V19H4Z", rule))
 
 
 def rose():
-    """A garden rose before a trellis."""
+    """A garden rose before a trellis, below a garland of others."""
     trellis = ""
     for start in range(-70, 71, 14):
         # Both diagonals of the trellis, from edge to edge of the panel.
         for slope in (1, -1):
-            low, high = sorted((start - 41 * slope, start + 41 * slope))
-            low, high = max(low, -28.5), min(high, 28.5)
+            low, high = sorted((start - 30 * slope, start + 30 * slope))
+            low, high = max(low, -31), min(high, 31)
             if high - low > 1:
                 trellis += "M" + "L".join(
                     f"{num(CX + x)} {num(CY + slope * (x - start))}"
                     for x in (low, high))
-    return (panel("#b23a5a") + line(trellis, "#c35270", 1.4)
-            + '<rect x="6.5" y="6.5" width="58" height="83" rx="1"'
-              ' fill="none" stroke="#f3c3c9"/>'
-            + rose_flower(CX, CY))
+    garland = (frieze("#7c1f41", "#f3c3c9")
+               + line("M6 14C12 6 20 6 25.5 11S40 16 46 11 59 6 65 14", "#5d9a74", 1)
+               + "".join(rose_use(x, y, size, 90) for x, y, size in (
+                   (15.5, 11, .25), (35.5, 11.2, .28), (55.5, 11, .25))))
+    return ("<defs>" + rose_flower() + "</defs>" + panel("#a83355")
+            + line(trellis, "#bd4c6b", 1.4) + two_way(garland)
+            + rose_use(CX, CY, .92) + outline("#611030"))
 
 
 def mid_earth():
-    """Layers of soil and rock around the glowing middle of the earth."""
-    defs = "<defs>" + gradient("m", (0, "#fff1b0"), (.3, "#ffc54a"),
-                               (.62, "#ee6f1f"), (1, "#8e2a14"),
-                               radial=True) + "</defs>"
-    layers = ((4, 0, "#4c5a2a"), (7, .8, "#3a271b"), (15, 1.6, "#6e4a2c"),
-              (24, 2, "#9a6b3d"), (32, 2.2, "#5d3a2a"), (40, 2, "#43211b"))
-    half = path("M4 48V6Q4 4 6 4H65Q67 4 67 6V48Z", layers[0][2])
-    for top, swing, colour in layers[1:]:
+    """Woods above, layers of soil and rock, and the glowing middle of the earth."""
+    defs = "<defs>" + gradient("m", (0, "#fff6cc"), (.3, "#ffcf57"), (.6, "#f07a22"),
+                               (.83, "#8e2a14"), (.85, "#ffb347"), (.89, "#ffb347"),
+                               (.91, "#b03a18"),
+                               (1, "#43211b"), radial=True) + "</defs>"
+    half = path("M4 48V6Q4 4 6 4H65Q67 4 67 6V48Z", "#a8d8d8")
+    half += path("M4 20V12C12 8 20 9 28 12S46 8 54 9 64 12 67 11V20Z", "#5f9a4a")
+    for x, y, r in ((12, 8.5, 2.7), (16.5, 9.5, 2), (47, 8.2, 2), (52, 8, 2.8),
+                    (57, 9, 2.2)):
+        half += line(f"M{num(x)} {num(y)}v4", "#5b3a22", 1)
+        half += circle(x, y, r, "#2a6638")
+    layers = ((15, 1, "#9cc653"), (17, 1, "#3f2517"), (22, 1.4, "#7a4a27"),
+              (28, 2, "#b57a3c"), (34, 2.2, "#74402b"), (41, 2, "#43211b"))
+    for top, swing, colour in layers:
         half += path(f"M4 48V{top}C12 {num(top - 2 * swing)} 20 {num(top + 2 * swing)}"
                      f" 30 {top}S50 {num(top - 2 * swing)} 67 {num(top + swing)}V48Z",
                      colour)
-    stones = ((11, 11.5, 1.4), (24, 12.4, 1), (44, 11, 1.5), (58, 12.2, 1.1),
-              (51, 13.2, .8), (17, 20, 1.8), (53, 19.5, 1.6), (38, 20.5, 1.1))
-    half += "".join(f'<ellipse cx="{x}" cy="{y}" rx="{num(r * 1.5)}" ry="{r}"'
-                    ' fill="#8d6a4a"/>' for x, y, r in stones)
-    half += line("M31 7C31 10 28.5 11 29 14.5M31 9.5C33 11 33.5 12 33 13.5"
-                 "M63 7C62 9 63.5 11 62 13", "#6f7a3c", .8)
-    # An ammonite and a seam of crystals.
-    half += line("M13 28A1 1 0 0 1 15 28 2 2 0 0 1 11 28 3 3 0 0 1 17 28",
-                 "#e0bd86", 1.1)
-    half += path("M52 30 53.4 26 55 30ZM55.4 30 57.4 24.6 59 30Z"
-                 "M59.2 30 60.6 27 62 30Z", "#e8cf9d")
-    rings = circle(CX, CY, 19, "url(#m)")
-    rings += line("M35.5 35.5A12.5 12.5 0 0 1 35.5 60.5 12.5 12.5 0 0 1 35.5 35.5Z",
-                  "#ffdf8a", .7)
-    rings += line("M35.5 29A19 19 0 0 1 35.5 67 19 19 0 0 1 35.5 29Z",
-                  "#2b1512", 1.6)
-    return defs + two_way(half) + rings + outline("#2b1a12")
-
-
-def meander(x, y, count, turn):
-    """Return a run of the Greek key, eight units a turn."""
-    d = "".join(f"M{at + 1} 7V1H{at + 6}V5H{at + 3.5:g}V3"
-                for at in range(0, 8 * count, 8))
-    return path(d, transform=f"translate({num(x)} {num(y)}) rotate({turn})")
+    # An ammonite, seams of crystals, and stones that nobody has found.
+    half += line("M12 32A1 1 0 0 1 14 32 2 2 0 0 1 10 32 3 3 0 0 1 16 32",
+                 "#f3d9a4", 1.1)
+    half += path("M52 31 53.4 27 55 31ZM55.4 31 57.4 25.6 59 31Z"
+                 "M59.2 31 60.6 28 62 31Z", "#f6e3b8")
+    for x, y, colour in ((24, 23.5, "#5fb8ae"), (9, 40, "#e2574c"), (45, 24, "#e2574c"),
+                         (63, 38, "#5fb8ae")):
+        half += path(f"M{x} {y - 2}l2 2-2 2-2-2Z", colour)
+    return defs + two_way(half) + circle(CX, CY, 22, "url(#m)") + outline("#2b1a12")
 
 
 def roman():
     """A mosaic floor with a meander border and a laurel wreath."""
-    purple, ivory, brass = "#6a2450", "#f3e8cf", "#efcd7c"
-    keys = group(meander(15.5, 6.5, 5, 0) + meander(64.5, 16.5, 8, 90)
-                 + path("M7.5 7.5H12.5V12.5H7.5ZM58.5 7.5H63.5V12.5H58.5Z"),
-                 stroke=brass)
-    tiles = ("".join(f"M{x} 17V79" for x in range(17, 55, 3))
-             + "".join(f"M17 {y}H54" for y in range(18, 79, 3)))
-    return (panel(purple) + two_way(keys)
-            + f'<rect x="13.5" y="13.5" width="44" height="69" fill="none"'
-              f' stroke="{brass}"/>'
-            + f'<rect x="16" y="16" width="39" height="64" fill="{ivory}"/>'
-            + line(tiles, "#e2d3b2", .7) + wreath(CX, CY))
+    purple, ivory, brass = "#5f1d49", "#f3e8cf", "#f0c96c"
+    # The Greek key runs from both sides to a tile in the middle.
+    key = "".join(f"M{x + 1} 16V9H{x + 6}V13H{x + 3.5:g}" for x in (4, 13, 22))
+    key += "".join(f"M{x - 1} 16V9H{x - 6}V13H{x - 3.5:g}" for x in (67, 58, 49))
+    border = (line(key, brass, 2) + path("M4 16H67V18H4Z", brass)
+              + path("M35.5 7.5 39.5 11.5 35.5 15.5 31.5 11.5Z", "#d9573a"))
+    tiles = ("".join(f"M{x} 22V74" for x in range(10, 62, 3))
+             + "".join(f"M8 {y}H63" for y in range(24, 73, 3)))
+    return (panel(purple) + path("M7 21H64V75H7Z", brass)
+            + path("M8 22H63V74H8Z", ivory) + line(tiles, "#e2d3b2", .7)
+            + two_way(border) + wreath(CX, CY))
 
 
-def chain(dark, ground):
-    """Return the chain that frames the chainring."""
-    links = "".join(f"M{num(11.2 + 6.6 * index)} 8H{num(13.8 + 6.6 * index)}"
-                    for index in range(8))
-    links += "".join(f"M63 {num(11.2 + 6.6 * index)}V{num(13.6 + 6.6 * index)}"
-                     for index in range(12))
-    return (line("M10.5 8H60.5Q63 8 63 10.5V85.5Q63 88 60.5 88H10.5Q8 88 8 85.5"
-                 "V10.5Q8 8 10.5 8Z", dark, 1.2)
-            + two_way(line(links, dark, 3.6, stroke_linecap="round")
-                      + line(links, ground, 1.2, stroke_linecap="round"), "k"))
+def chain(dark, steel, light):
+    """Return a run of chain: narrow links of steel between wide dark ones."""
+    pins = "".join(f"M{num(8.5 + 9 * index)} 11.5h.01" for index in range(7))
+    wide = "M8.5 11.5h9M26.5 11.5h9M44.5 11.5h9"
+    narrow = "M17.5 11.5h9M35.5 11.5h9M53.5 11.5h9"
+    return (line(narrow, dark, 6) + line(pins, dark, 8.6, stroke_linecap="round")
+            + line(narrow, steel, 4)
+            + line(wide, dark, 6) + line(pins, dark, 6.4, stroke_linecap="round")
+            + line(pins, light, 2.6, stroke_linecap="round"))
 
 
 def polar(radius, turn, x=CX, y=CY):
@@ -153,28 +153,27 @@ def wheel():
     spokes = "".join(f"M{polar(4, turn + lean)}L{polar(22, turn)}"
                      for turn in (pi * index / 9 for index in range(18))
                      for lean in (1.25, -1.25))
-    tread = "".join(f"M{polar(23.2, turn)}L{polar(25.4, turn + .06)}"
-                    for turn in (pi * index / 30 for index in range(60)))
     return (circle(CX, CY, 25.4, "#b97d17") + circle(CX, CY, 22.8, "#f6d27a")
-            + circle(CX, CY, 21.9, "url(#g)") + line(tread, "#e3ac32", .9)
+            + circle(CX, CY, 21.9, "url(#g)")
+            + circle(CX, CY, 24.2, "none", stroke="#e3ac32",
+                     **{"stroke-width": 1.6, "stroke-dasharray": "1 1.53"})
             + line(spokes, "#cf9424", .6))
 
 
 def pedal():
-    """A chainring with its cranks and pedals, framed by the chain."""
+    """A chainring with its cranks and pedals between two runs of chain."""
     dark, light, steel = "#2c2a2b", "#6d6763", "#f7ecd0"
     defs = ("<defs>"
             + gradient("g", (0, "#ffe08c"), (.6, "#f0bd4a"), (1, "#e3ac32"),
                        radial=True)
             + gradient("d", (0, "#1c1a1b"), (.75, "#2c2a2b"), (.86, "#5a5552"),
                        (1, "#242223"), radial=True) + "</defs>")
-    teeth = "L".join(f"{polar(16.8, turn - .075)}L{polar(18.8, turn)}"
-                     f"L{polar(16.8, turn + .075)}"
-                     for turn in (2 * pi * index / 30 for index in range(30)))
     spider = "".join(f"M35.5 48L{polar(15, pi * index / 3)}" for index in range(6))
     bolts = "".join(circle(CX + 14.9 * cos(turn), CY + 14.9 * sin(turn), .9, "#e3ac32")
                     for turn in (pi * index / 3 for index in range(6)))
-    ring = (path(f"M{teeth}Z", "url(#d)") + circle(CX, CY, 13.2, "#eab440")
+    ring = (circle(CX, CY, 17.6, "none", stroke=dark,
+                   **{"stroke-width": 2.4, "stroke-dasharray": "1.8 1.886"})
+            + circle(CX, CY, 16.8, "url(#d)") + circle(CX, CY, 13.2, "#eab440")
             + line(f"M{polar(12.8, pi)}A12.8 12.8 0 0 1 {polar(12.8, 0)}",
                    "#b97d17", .8)
             + line(spider, dark, 2.6) + line(spider, light, .7)
@@ -193,10 +192,11 @@ def pedal():
              + line("M-7-1.2H-2M-7 1.2H-2M2-1.2H7M2 1.2H7", "#f2b93f", 1,
                     transform=place)
              + circle(x, y, 1.4, steel))
-    return (defs + panel("#e3ac32") + panel("url(#g)", 5) + wheel()
-            + chain(dark, "#e3ac32") + ring + two_way(crank, "c")
+    return (defs + panel("#e3ac32") + wheel()
+            + two_way(frieze("#f0bd4a", dark) + chain(dark, "#a39c95", steel), "k")
+            + ring + two_way(crank, "c")
             + circle(CX, CY, 3.4, steel) + circle(CX, CY, 2.2, "#c9b58a")
-            + circle(CX, CY, 1.4, dark) + outline("#a06f14"))
+            + circle(CX, CY, 1.4, dark) + outline("#8a5d10"))
 
 
 def cut(points, left, top, right, bottom):

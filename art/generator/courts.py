@@ -2,8 +2,9 @@
 
 from . import black_courts, red_courts
 from .faces import index
-from .style import (GOLD, INK, PINE, SLATE, WINE, card, circle, line, num, path,
-                    two_way)
+from .figure import LOWERED
+from .style import (GOLD, INK, PINE, SLATE, WINE, card, circle, group, line, num,
+                    path, two_way)
 from .suits import pip
 
 # The frame leaves room for the corner indices.
@@ -49,6 +50,7 @@ def sash(suit, name):
 
 def court(suit, name):
     """Return a court card."""
-    half = [FIGURES[suit, name](), pip(suit, 13.5, 26.5), index(suit, name)]
+    figure = group(FIGURES[suit, name](), f"translate(0 {LOWERED})")
+    half = [figure, pip(suit, 13.5, 26.5), index(suit, name)]
     return card(path(FRAME, GROUND[suit]) + "\n" + two_way("\n".join(half))
                 + "\n" + sash(suit, name) + line(FRAME, INK))

@@ -1,17 +1,25 @@
 """Parts that the court figures have in common.
 
 A figure is the upper half of a two-way card. It faces us with its head around
-(36, 22); its body fills the frame down to the sash, which runs from (6, 40) to
-(65, 56), and its hand holds something at the right-hand side.
+(36, 22); its body fills the frame down to the sash, and its hand holds something
+at the right-hand side. The card shows it LOWERED by so much, so that a card in a
+stack, of which twenty units are seen, shows what its figure wears on the head and
+neither eyes nor brows. The middle of the sash then runs from (6, 38.5) to (65, 54.5).
 """
 
 from .style import BROWN, INK, RED, circle, group, line, path
+
+LOWERED = 1.5
 
 # Skin and the shade that models it.
 FAIR = ("#fbe0c8", "#e2a683")
 RUDDY = ("#f6cba6", "#cf8a62")
 TAWNY = ("#d9a070", "#a86c42")
 DARK = ("#9a6440", "#6d4128")
+
+# What outlines white, and gold, on the pale ground of a card.
+SHADOW = "#7f7565"
+RIM = "#96600f"
 
 BODY = "M6 39C13 35 22 33 29 31H43C51 33 60 37 65 43V56L6 40Z"
 
@@ -34,13 +42,10 @@ def head(skin, jaw="round"):
 
 def features(skin, look=0.0, brow=None, mood="calm", mouth=RED, eye=INK):
     """Draw eyes, brows, nose and mouth; look shifts the gaze sideways."""
-    brows = {"calm": "M30.5 19.5C31.5 18.5 33 18.5 34 19"
-                     "M38 19C39 18.5 40.5 18.5 41.5 19.5",
-             "stern": "M30.3 18.4 34.4 19.8M41.7 18.4 37.6 19.8",
-             "raised": "M30.3 19C31.5 17.4 33.2 17.4 34.2 18.2"
-                       "M37.8 18.2C38.8 17.4 40.5 17.4 41.7 19",
-             "gentle": "M30.2 19.8C31.4 18.6 32.8 18.3 34.2 18.6"
-                       "M37.8 18.6C39.2 18.3 40.6 18.6 41.8 19.8"}[mood]
+    brows = {"calm": "M30.5 19.5Q32.2 18.7 34 19.2M38 19.2Q39.8 18.7 41.5 19.5",
+             "stern": "M30.3 19 34.3 20.2M41.7 19 37.7 20.2",
+             "raised": "M30.3 19.6Q32.4 18.3 34.2 19.2M37.8 19.2Q39.6 18.3 41.7 19.6",
+             "gentle": "M30.2 19.9Q32 18.8 34.2 19M37.8 19Q40 18.8 41.8 19.9"}[mood]
     smile = {"calm": "M34.2 28.2C35.4 28.7 36.6 28.7 37.8 28.2",
              "stern": "M34 28.5H38",
              "raised": "M34 27.7C35 29 37.2 29 38.2 27.4",
@@ -66,18 +71,18 @@ def arm(sleeve, shade, cuff, skin):
             + line("M55 39.4H59.5M55 41.2H59.2", skin[1], .8))
 
 
-def beard(colour, length=38.0, point=0.0):
+def beard(colour, length=38.0, point=0.0, **rim):
     """Draw a full beard that ends at the given height."""
     low = length - 3
     return path(f"M28.5 21C29.5 25 32.5 25.6 36 25.6S42.5 25 43.5 21"
                 f"C45.5 27 44.5 {low:g} {36 + 3.5 - point:g} {length - 1:g}"
                 f"L36 {length + 1:g} {36 - 3.5 + point:g} {length - 1:g}"
-                f"C27.5 {low:g} 26.5 27 28.5 21Z", colour)
+                f"C27.5 {low:g} 26.5 27 28.5 21Z", colour, **rim)
 
 
-def moustache(colour):
-    """Draw a moustache with the lip below it."""
-    return (path("M34 27.6H38L36 29.4Z", RED)
-            + path("M36 25.2C33.8 24.6 31 25.4 29.8 28.4 32.4 29 35 28.4 36 26.8"
-                   " 37 28.4 39.6 29 42.2 28.4 41 25.4 38.2 24.6 36 25.2Z",
+def moustache(colour, lip):
+    """Draw a moustache with the lower lip below it."""
+    return (line("M34.5 29.2Q36 29.8 37.5 29.2", lip, 1.2)
+            + path("M36 25.3C33.8 24.5 31 25.3 29.6 28.7 32.2 29.1 34.6 28.8 36 27.8"
+                   " 37.4 28.8 39.8 29.1 42.4 28.7 41 25.3 38.2 24.5 36 25.3Z",
                    colour))
