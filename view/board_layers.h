@@ -99,19 +99,20 @@ struct PaintedPlate {
     double radius = 0;
 };
 
-/// A text in the desktop's font, in the middle of the height of its place. Pixels of the board; it may reach
-/// beyond its place. The text is valid until the label changes.
+/// A text in the desktop's font, so many times as large, in the middle of the height of its place. Pixels of
+/// the board; it may reach beyond its place. The text is valid until the label changes.
 struct PaintedLabel {
     Box place;
     std::string_view text;
     Color color = black;
     Alignment alignment = Alignment::left;
+    double font_scale = 1;
+    std::optional<PaintedRim> rim;
 };
 
-/// All that is seen of an area of a board, from back to front, in the order of these members but the
-/// last. What only
-/// reaches into the area is listed whole: the area clips it. All places count from the upper left corner of
-/// the board, those of the labels too: a front end shifts them all up by BoardScroll::offset().
+/// All that is seen of an area of a board, from back to front, in the order of these members but the last.
+/// What only reaches into the area is listed whole: the area clips it. All places count from the upper left
+/// corner of the board, those of the labels too: a front end shifts them all up by BoardScroll::offset().
 struct BoardLayers {
     Area area;  ///< pixels of the board
     const PaintedGround* ground = nullptr;

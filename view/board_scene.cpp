@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "platform/controls.h"
+#include "view/contrast.h"
 #include "view/empty_place.h"
 #include "view/picture_place.h"
 #include "windows/pictures.h"
@@ -18,14 +19,17 @@ void for_each_visible(const Form& form, WidgetKind kind, Action action) {
     }
 }
 
-}  // namespace
-
-// A row of labels at the lower left corner grows to the right and upwards, and keeps its order.
-Box BoardScene::label_place(const Rect& place, double scale) const {
-    const Box given = box_of(place);
-    const double height = given.height * scale;
-    return {given.left * scale, given.bottom() - height + scrolled_, given.width * scale, height};
+// Around glyphs that the colour of the table does not set off well enough to be read: a soft one, that does.
+std::optional<PaintedRim> text_rim(Color text, Color table, double font_scale) {
+    constexpr double well_readable = 4.5;
+    constexpr double very_well_readable = 7;
+    if (contrast(text, table) >= well_readable) return std::nullopt;
+    const Color color = farthest_from(text);
+    return PaintedRim{
+        color, std::max(1.0, 0.6 * font_scale), opacity_for(very_well_readable, text, color, table)};
 }
+
+}  // namespace
 
 Area BoardScene::area_of(const Widget& widget, const Rect& place) const {
     if (widget.kind() == WidgetKind::image) {
@@ -33,7 +37,11 @@ Area BoardScene::area_of(const Widget& widget, const Rect& place) const {
         // An image that has not moved may have begun or ceased to stretch.
         return touched(place == widget.place() ? united(seen, box_of(place)) : seen);
     }
-    if (widget.kind() == WidgetKind::label) return touched(label_place(place, label_scale()));
+    if (widget.kind() == WidgetKind::label) {
+        const LabelRow row(form_, texts_);
+        // A rim reaches beyond the place.
+        return touched(row.place(place).shifted(0, scrolled_).grown(row.font_scale()));
+    }
     return touched(box_of(place));
 }
 
@@ -45,26 +53,9 @@ int BoardScene::lower_edge() const {
     return static_cast<int>(std::ceil(edge));
 }
 
-double BoardScene::label_scale() const {
-    const double height = static_cast<double>(texts_.height({}));
-    double scale = 1;
-    for_each_visible<Label>(form_, WidgetKind::label, [&](const Label& label) {
-        const Box place = box_of(label.place());
-        if (label.caption().empty() || place.empty()) return;
-        const double width = static_cast<double>(texts_.width(label.caption(), {}));
-        scale = std::max({scale, width / place.width, height / place.height});
-    });
-    return scale;
-}
-
-Area BoardScene::plate(double label_scale) const {
-    constexpr double margin = 4;
-    Box row;
-    for_each_visible<Label>(form_, WidgetKind::label, [&](const Label& label) {
-        row = united(row, label_place(label.place(), label_scale));
-    });
-    if (row.empty()) return {};
-    return around({row.left - margin, row.top - 1, row.width + 2 * margin, row.height + 2});
+Area BoardScene::plate(const LabelRow& row) const {
+    const Box box = row.surroundings();
+    return box.empty() ? Area() : around(box.shifted(0, scrolled_));
 }
 
 const BoardLayers& BoardScene::layers(double ratio) {
@@ -161,16 +152,23 @@ bool BoardScene::is_seen_within(const Area& place) const {
 // Above all cards: the score can always be read. Where cards lie under it, the colour of the table is laid
 // between them.
 void BoardScene::add_labels(double ratio) {
-    const double scale = label_scale();
-    const Area around_labels = plate(scale);
+    const LabelRow row(form_, texts_);
+    const Area around_labels = plate(row);
     if (!layers_.area.meets(around_labels)) return;
+    const double scale = row.font_scale();
     if (is_seen_within(around_labels)) {
-        layers_.plate = PaintedPlate{snapped(box_of(around_labels), ratio), corner_radius(card_width, ratio)};
+        layers_.plate =
+            PaintedPlate{snapped(box_of(around_labels), ratio), corner_radius(card_width * scale, ratio)};
     }
     for_each_visible<Label>(form_, WidgetKind::label, [&](const Label& label) {
-        const Box place = label_place(label.place(), scale);
-        if (!layers_.area.meets(touched(place))) return;
-        layers_.labels.push_back({place, label.caption(), label.text_color(), label.alignment()});
+        const Box place = row.place(label.place()).shifted(0, scrolled_);
+        if (!layers_.area.meets(touched(place.grown(scale)))) return;
+        layers_.labels.push_back({place,
+                                  label.caption(),
+                                  label.text_color(),
+                                  label.alignment(),
+                                  scale,
+                                  text_rim(label.text_color(), form_.back_color(), scale)});
     });
 }
 

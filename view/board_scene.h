@@ -6,6 +6,7 @@
 #include "platform/image.h"
 #include "view/board_drag.h"
 #include "view/board_layers.h"
+#include "view/label_row.h"
 #include "view/motion.h"
 #include "view/table_light.h"
 #include "view/text_measure.h"
@@ -35,10 +36,12 @@ class BoardScene {
     Area area_of(const Widget& widget) const { return area_of(widget, widget.place()); }
     /// The lower edge of the lowest picture, in pixels of the board.
     int lower_edge() const;
-    /// What of the labels' surroundings changes when something else moves below them, in pixels of the board.
-    Area plate() const { return plate(label_scale()); }
-    /// How much larger than given the labels are seen, so that their texts fit; 1 or more.
-    double label_scale() const;
+    /// Where a plate is laid below the labels, in pixels of the board, and whether there is anything under it
+    /// to keep from them.
+    Area plate() const { return plate(LabelRow(form_, texts_)); }
+    bool lays_plate() const { return is_seen_within(plate()); }
+    /// How much larger than given the labels are seen; 1 or more.
+    double label_scale() const { return LabelRow(form_, texts_).place_scale(); }
 
     BoardDrag& drag() { return drag_; }
     const BoardDrag& drag() const { return drag_; }
@@ -46,8 +49,7 @@ class BoardScene {
     const Motion& motion() const { return motion_; }
 
   private:
-    Box label_place(const Rect& place, double scale) const;
-    Area plate(double label_scale) const;
+    Area plate(const LabelRow& row) const;
     const PaintedGround& ground(const Area& area, double ratio);
     void add_outlines(double ratio);
     void add_images(double ratio);

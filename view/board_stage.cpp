@@ -25,7 +25,7 @@ BoardStage::BoardStage(Form& form, const TextMeasure& texts, BoardFront& front)
       label_scale_(scene_.label_scale()) {}
 
 void BoardStage::widget_changed(const Widget& widget, const Rect& before) {
-    if (widget.kind() == WidgetKind::label) update_labels();
+    if (widget.kind() == WidgetKind::label || widget.kind() == WidgetKind::outline) update_labels();
     if (widget.kind() == WidgetKind::image) {
         const auto& image = static_cast<const Image&>(widget);
         if (const Glide& glide = scene_.drag().glide(); glide.moves(image)) {
@@ -76,6 +76,7 @@ void BoardStage::repaint_lifted() {
         repaint(before);
         repaint(lifted_area_);
     }
+    update_plate();
 }
 
 void BoardStage::repaint_mark() {
@@ -98,8 +99,14 @@ void BoardStage::repaint(const Area& area) {
         return;
     }
     front_.repaint(area.shifted(0, -scroll_.offset()));
-    // With a card below them, the labels are painted on a plate.
-    if (area.meets(plate_)) front_.repaint(plate_.shifted(0, -scroll_.offset()));
+}
+
+// It comes with the first card below the labels, and goes with the last one.
+void BoardStage::update_plate() {
+    const bool laid = scene_.lays_plate();
+    if (laid == lays_plate_) return;
+    lays_plate_ = laid;
+    repaint(plate_);
 }
 
 void BoardStage::resized(PixelSize size) {
@@ -224,6 +231,7 @@ void BoardStage::repaint_motion() {
     motion_areas_ = scene_.motion().areas();
     for (const Area& area : motion_areas_) add_area(areas, area);
     for (const Area& area : areas) repaint(area);
+    update_plate();
 }
 
 void BoardStage::begin_motion() {

@@ -94,6 +94,7 @@ class BoardStage {
     void repaint_mark();
     void repaint_home(const std::vector<Image*>& images);
     void update_labels();
+    void update_plate();
     void repaint_motion();
     void begin_motion();
     void settle_later();
@@ -114,7 +115,8 @@ class BoardStage {
     Area lifted_area_;
     Area mark_area_;
     std::vector<Area> motion_areas_;
-    Area plate_;  ///< what is painted anew when anything below the labels changes
+    Area plate_;
+    bool lays_plate_ = false;  ///< as it was last told
     double label_scale_;
     double pointer_x_ = 0;  ///< where the pointer was last seen
     double pointer_y_ = 0;

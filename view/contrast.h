@@ -10,8 +10,8 @@ double contrast(Color a, Color b);
 /// Black or white, whichever stands out more from a colour: never less than 4.5 to 1.
 Color farthest_from(Color color);
 
-/// The least opacity, of 255, at which `color` laid over `ground` stands out from it so well; 255 where it
-/// never does.
-int opacity_for(double wanted, Color color, Color ground);
+/// The least opacity, of 255, at which `color` laid over `ground` stands out so well from `from`; 255 where
+/// it never does.
+int opacity_for(double wanted, Color from, Color color, Color ground);
 
 }  // namespace tarnwick

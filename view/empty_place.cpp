@@ -86,7 +86,7 @@ PaintedOutline empty_place(const Area& place, double radius, const Outline& outl
     look.sign_opacity = sign_opacity;
     if (contrast(look.color, table) < least_contrast) {
         const Color rim = farthest_from(table);
-        look.rim = PaintedRim{rim, static_cast<double>(line), opacity_for(least_contrast, rim, table)};
+        look.rim = PaintedRim{rim, static_cast<double>(line), opacity_for(least_contrast, table, rim, table)};
     }
     const int reach = look.rim ? line : 0;
     look.size = {place.width + 2 * reach, place.height + 2 * reach};

@@ -1,23 +1,8 @@
 #include "desktop/board/board_painter.h"
-
-#include <QApplication>
-
 #include "desktop/shared/qt_convert.h"
 
 namespace tarnwick {
 namespace {
-
-int text_flags(Alignment alignment) {
-    switch (alignment) {
-        case Alignment::right:
-            return Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip;
-        case Alignment::center:
-            return Qt::AlignHCenter | Qt::AlignVCenter | Qt::TextDontClip;
-        case Alignment::left:
-            break;
-    }
-    return Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip;
-}
 
 void paint_mark(QPainter& painter, const PaintedMark& mark) {
     painter.setPen(QPen(to_qt(mark.color, mark.line_opacity), mark.line));
@@ -51,11 +36,6 @@ void paint_plate(QPainter& painter, const PaintedPlate& plate, const PaintedGrou
     }
 }
 
-void paint_label(QPainter& painter, const PaintedLabel& label) {
-    painter.setPen(to_qt(label.color));
-    painter.drawText(to_qt(label.place), text_flags(label.alignment), to_qt(std::string(label.text)));
-}
-
 }  // namespace
 
 void BoardPainter::paint(QPainter& painter, const BoardLayers& layers) {
@@ -76,8 +56,7 @@ void BoardPainter::paint(QPainter& painter, const BoardLayers& layers) {
     for (const PaintedImage& image : layers.lifted) paint_image(painter, image);
     if (layers.plate) paint_plate(painter, *layers.plate, *layers.ground);
     painter.restore();
-    painter.setFont(QApplication::font());
-    for (const PaintedLabel& label : layers.labels) paint_label(painter, label);
+    for (const PaintedLabel& label : layers.labels) labels_.paint(painter, label, ratio);
     prepare(layers.coming);
 }
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "desktop/board/drag_shadow.h"
+#include "desktop/board/label_pictures.h"
 #include "desktop/board/outline_pictures.h"
 #include "desktop/shared/picture_cache.h"
 #include "view/board_layers.h"
@@ -26,6 +27,7 @@ class BoardPainter {
 
     PictureCache pictures_;
     OutlinePictures outlines_;
+    LabelPictures labels_;
     DragShadow shadow_;
 };
 

@@ -62,7 +62,8 @@ class Grid {
         for (const PaintedImage& image : layers.lifted) fill(image.place, picture(image));
         if (layers.plate) fill(layers.plate->place, flat(4));
         for (const PaintedLabel& label : layers.labels) {
-            fill(around(label.place), over(static_cast<unsigned>(std::hash<std::string_view>()(label.text))));
+            fill(around(label.place.grown(label.rim ? label.rim->width : 0)),
+                 over(static_cast<unsigned>(std::hash<std::string_view>()(label.text))));
         }
     }
     bool operator==(const Grid& other) const { return cells_ == other.cells_; }
