@@ -107,8 +107,8 @@ TEST_F(ShownBoard, IsPaintedAnewWhereItIsToldToHaveChanged) {
     std::mt19937 random(1);
     const auto below = [&](unsigned limit) { return static_cast<int>(random() % limit); };
     const auto anywhere = [&] { return Place{below(800) + 0.0, below(560) + 0.0}; };
-    for (int event = 0; event < 600; ++event) {
-        const int kind = below(12);
+    for (int event = 0; event < 700; ++event) {
+        const int kind = below(14);
         if (kind < 3) press(anywhere());
         if (kind < 3 && event % 2 == 0) press(below(10));
         if (kind >= 3 && kind < 6) move(anywhere());
@@ -125,6 +125,8 @@ TEST_F(ShownBoard, IsPaintedAnewWhereItIsToldToHaveChanged) {
         if (kind == 10 && event % 3 == 0) stage.key_down(' ');
         if (kind == 11 && event % 3 == 0) view.resize({700 + below(100), 300 + below(300)});
         if (kind == 11 && event % 3 == 1 && frmcards.mnuUndo.visible()) frmcards.mnuUndo.choose();
+        constexpr std::array keys{left_key, up_key, right_key, down_key, enter_key, enter_key, escape_key};
+        if (kind > 11) stage.key_down(keys.at(static_cast<std::size_t>(below(keys.size()))));
         ASSERT_TRUE(shows_all()) << event << ", " << kind;
     }
 }
