@@ -22,6 +22,8 @@ class BoardFront {
     virtual bool allows_motion() const = 0;
     /// The keyboard's cursor is on another item, or its hint has changed, for those who have them read out.
     virtual void cursor_moved() = 0;
+    /// pointer_shape() has changed.
+    virtual void pointer_shape_changed() = 0;
     /// Whether the window covers the whole screen, and to let it.
     virtual bool full_screen() const = 0;
     virtual void set_full_screen(bool on) = 0;

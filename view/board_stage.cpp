@@ -23,6 +23,7 @@ BoardStage::BoardStage(Form& form, const TextMeasure& texts, BoardFront& front)
       scene_(form, texts),
       keys_(form, scene_.cursor()),
       repaints_(front, scroll_),
+      pointer_(form),
       color_(form.back_color()),
       label_scale_(scene_.label_scale()) {
     repaints_.set_plate(scene_.plate());
@@ -52,6 +53,7 @@ void BoardStage::update_labels() {
 }
 
 void BoardStage::form_changed() {
+    update_pointer();
     if (color_ == form_.back_color()) return;
     color_ = form_.back_color();
     repaints_.add_all();
@@ -67,6 +69,7 @@ void BoardStage::drag_changed() {
         repaints_.move(cursor_area_, scene_.cursor().area());
     }
     if (keys_.hold() != std::exchange(keys_held_, keys_.hold())) settle_later();
+    if (holds() != std::exchange(held_, holds())) update_pointer();
     update_steps();
 }
 
@@ -113,6 +116,7 @@ void BoardStage::settle() {
     front_.scroll_changed();
     begin_motion();
     update_cursor();
+    update_pointer();
     update_steps();
 }
 
@@ -131,7 +135,11 @@ void BoardStage::move(double x, double y, bool left_button) {
     // Somebody else took the mouse, and its button was let go there.
     if (!left_button && form_.mouse().is_down() && !keys_.hold()) return cancel();
     if (std::hypot(x - rest_x_, y - rest_y_) > deliberate_move) hide_cursor();
-    if (!keys_.hold()) point_at(x, y);
+    pointer_x_ = x;
+    pointer_y_ = y;
+    if (pointer_holds()) return point_at(x, y);
+    if (pointer_.move(static_cast<float>(x), static_cast<float>(y + scroll_.offset())))
+        front_.pointer_shape_changed();
 }
 
 void BoardStage::point_at(double x, double y) {
@@ -199,6 +207,12 @@ void BoardStage::hide_cursor() {
     tell_cursor();
 }
 
+void BoardStage::update_pointer() {
+    const auto x = static_cast<float>(pointer_x_);
+    const auto y = static_cast<float>(pointer_y_ + scroll_.offset());
+    if (pointer_.look_again(x, y)) front_.pointer_shape_changed();
+}
+
 void BoardStage::tell_cursor() {
     const std::pair now{scene_.cursor().item(), keys_.hint()};
     if (now != std::exchange(told_cursor_, now)) front_.cursor_moved();
@@ -229,6 +243,7 @@ void BoardStage::scroll(Action action) {
     repaints_.add_all();
     // Under a pointer that holds cards another part of the board lies now.
     if (pointer_holds()) point_at(pointer_x_, pointer_y_);
+    update_pointer();
 }
 
 // What is not seen takes no clicks and no drops.

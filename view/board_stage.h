@@ -11,6 +11,7 @@
 #include "view/board_keys.h"
 #include "view/board_scene.h"
 #include "view/board_scroll.h"
+#include "view/pointer_shape.h"
 #include "view/repaints.h"
 
 namespace tarnwick {
@@ -65,7 +66,8 @@ class BoardStage {
     std::optional<std::int64_t> next_step() const;
     void step();
 
-    // What is painted.
+    // What is seen.
+    PointerShape pointer_shape() const { return pointer_.shape(); }
     /// All areas that were told so far are painted now: to be called before each picture. Until then, what is
     /// all to be painted is told no further areas.
     void begin_painting() { repaints_.begin_painting(); }
@@ -85,6 +87,7 @@ class BoardStage {
     void update_cursor();
     void hide_cursor();
     void tell_cursor();
+    void update_pointer();
     void update_labels();
     void repaint_motion();
     void begin_motion();
@@ -103,19 +106,21 @@ class BoardStage {
     BoardKeys keys_;
     BoardScroll scroll_;
     Repaints repaints_;
+    PointerLook pointer_;
     PixelSize size_;
     Color color_;
     Area lifted_area_;
     Area mark_area_;
     Area cursor_area_;
     std::pair<const Widget*, std::string_view> told_cursor_{};  ///< its item and hint
+    bool held_ = false;
     bool keys_held_ = false;
     std::vector<Area> motion_areas_;
     double label_scale_;
-    double pointer_x_ = 0;  ///< where the pointer was last seen
-    double pointer_y_ = 0;
-    double rest_x_ = 0;  ///< where it was when a key was last pressed
-    double rest_y_ = 0;
+    double pointer_x_ = -1;  ///< where the pointer was last seen
+    double pointer_y_ = -1;
+    double rest_x_ = -1;  ///< where it was when a key was last pressed
+    double rest_y_ = -1;
     std::optional<std::int64_t> next_frame_;      ///< of the glide and of motion
     std::optional<std::int64_t> next_edge_step_;  ///< of a drag held where there is more beyond the edge
     bool settles_later_ = false;

@@ -24,6 +24,20 @@ MouseButton button_of(const QMouseEvent& event) {
     return event.button() == Qt::LeftButton ? MouseButton::left : MouseButton::other;
 }
 
+Qt::CursorShape to_qt(PointerShape shape) {
+    switch (shape) {
+        case PointerShape::pointing_hand:
+            return Qt::PointingHandCursor;
+        case PointerShape::open_hand:
+            return Qt::OpenHandCursor;
+        case PointerShape::closed_hand:
+            return Qt::ClosedHandCursor;
+        case PointerShape::arrow:
+            break;
+    }
+    return Qt::ArrowCursor;
+}
+
 }  // namespace
 
 BoardWidget::BoardWidget(Form& form) : form_(form), stage_(form, qt_texts(), *this) {
@@ -33,6 +47,7 @@ BoardWidget::BoardWidget(Form& form) : form_(form), stage_(form, qt_texts(), *th
     setMouseTracking(true);
     setMinimumSize(320, 240);
     scroll_bar_.hide();
+    scroll_bar_.setCursor(Qt::ArrowCursor);
     scroll_bar_.setSingleStep(BoardScroll::step);
     connect(&scroll_bar_, &QScrollBar::valueChanged, this, [this](int value) { stage_.scroll_to(value); });
 }
@@ -76,6 +91,8 @@ bool BoardWidget::allows_motion() const {
 void BoardWidget::cursor_moved() {
     if (on_cursor_moved) on_cursor_moved();
 }
+
+void BoardWidget::pointer_shape_changed() { setCursor(to_qt(stage_.pointer_shape())); }
 
 void BoardWidget::set_full_screen(bool on) {
     QWidget& whole = *window();

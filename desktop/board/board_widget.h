@@ -59,6 +59,7 @@ class BoardWidget : public QWidget, private BoardFront {
     void steps_changed() override;
     bool allows_motion() const override;
     void cursor_moved() override;
+    void pointer_shape_changed() override;
     bool full_screen() const override { return window()->isFullScreen(); }
     void set_full_screen(bool on) override;
 

@@ -48,7 +48,8 @@ TEST_F(KeysOfTheWindow, PlayWithoutThePointer) {
     drag_image(top_image(column_of_jack), top_image(column_of_queen));
     EXPECT_EQ(faults(), "") << "the Jack on the Queen";
     press("llllll");
-    ASSERT_TRUE(shows_another_picture_after("*")) << "a second Enter at once would count as one that is held down";
+    ASSERT_TRUE(shows_another_picture_after("*"))
+        << "a second Enter at once would count as one that is held down";
     press("*");
     click_image(top_image(column_of_ace), plain_click_offset);
     game.headless().desktop.advance(1000);

@@ -133,7 +133,8 @@ TEST_F(KeysOfABoard, EnterTakesUpAndPutsDown) {
     EXPECT_EQ(after("rr"), "Queen of Clubs, column 10, on top; takes the lifted card");
     EXPECT_TRUE(game.layers().mark);
     const Image& queen = top_image(column_of_queen);
-    EXPECT_NEAR(game.layers().lifted[0].place.top, queen.top() + 0.2 * queen.height(), 1) << "where it will lie";
+    EXPECT_NEAR(game.layers().lifted[0].place.top, queen.top() + 0.2 * queen.height(), 1)
+        << "where it will lie";
     EXPECT_EQ(after("*"), "Jack of Diamonds, column 10, on top");
     EXPECT_EQ(column_top(column_of_queen), column_of_queen + 1);
     lift(3);

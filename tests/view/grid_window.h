@@ -122,6 +122,7 @@ class GridView : public FormView, public BoardFront {
     void steps_changed() override {}
     bool allows_motion() const override { return motion_allowed; }
     void cursor_moved() override { ++cursor_moves; }
+    void pointer_shape_changed() override { shape = stage_->pointer_shape(); }
     bool full_screen() const override { return fills_screen; }
     void set_full_screen(bool on) override { fills_screen = on; }
 
@@ -156,6 +157,7 @@ class GridView : public FormView, public BoardFront {
     bool motion_allowed = true;
     bool fills_screen = false;
     int cursor_moves = 0;
+    PointerShape shape = PointerShape::arrow;
 
   private:
     Form& form_;
