@@ -46,6 +46,13 @@ struct Menu {
     std::vector<MenuEntry*> entries;
 };
 
+/// Where the arrow keys find something: which pile of its row it belongs to, both counted from 0.
+struct PilePlace {
+    int row = 0;
+    int pile = 0;
+    bool operator==(const PilePlace&) const = default;
+};
+
 /// What one widget of a board means, for players who have the board read to them.
 struct BoardItem {
     const Widget* widget = nullptr;
@@ -55,6 +62,10 @@ struct BoardItem {
     /// The number that the widget shows, if it shows one, and the largest it can become.
     std::optional<int> value = std::nullopt;
     int most = 0;
+    /// What the arrow keys find, piles in order and each from what lies in front on; nothing for the rest.
+    std::optional<PilePlace> place = std::nullopt;
+    /// What is seen of a widget that is not seen itself.
+    const Widget* outline = nullptr;
 };
 
 enum class WindowState { normal, minimized, maximized };

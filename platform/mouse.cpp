@@ -24,8 +24,9 @@ Image* Mouse::image_at(float x, float y) const {
     return topmost;
 }
 
-void Mouse::press(float x, float y, MouseButton button) {
+void Mouse::press(float x, float y, MouseButton button, Pointer by) {
     if (button != MouseButton::left || !window_.accepts_input() || dragged_ || pressed_) return;
+    pointer_ = by;
     press_x_ = x_ = x;
     press_y_ = y_ = y;
     Image* image = image_at(x, y);
@@ -81,7 +82,7 @@ void Mouse::move(float x, float y) {
 // Whether it is another one now.
 bool Mouse::look_for_receiver() {
     const Image* target = on_hover && is_seen(x_, y_) ? image_at(x_, y_) : nullptr;
-    const float offset_x = target ? (x_ - target->left()) * twips_per_pixel : 0;
+    const float offset_x = target ? offset_in(*target, x_) : 0;
     const Widget* receiver = target ? on_hover(*dragged_, *target, offset_x) : nullptr;
     if (receiver == receiver_) return false;
     std::vector<Image*> taken = receiver && on_take ? on_take(*dragged_, *target, offset_x) : taken_up_;
@@ -127,13 +128,18 @@ void Mouse::release(float x, float y, MouseButton button) {
     }
 }
 
+float Mouse::offset_in(const Image& target, float x) const {
+    if (pointer_ == Pointer::keys && plain_offset_) return *plain_offset_;
+    return (x - target.left()) * twips_per_pixel;
+}
+
 void Mouse::drop(float x, float y) {
     Image& source = *dragged_;
     // Put down first: a message that the drop raises must not show the cards still lifted.
     put_down();
     Image* target = is_seen(x, y) ? image_at(x, y) : nullptr;
     if (target && target->events().drop) {
-        const float offset_x = (x - target->left()) * twips_per_pixel;
+        const float offset_x = offset_in(*target, x);
         const float offset_y = (y - target->top()) * twips_per_pixel;
         desktop().event([&] { target->events().drop(target->index(), source, offset_x, offset_y); });
     }

@@ -45,9 +45,14 @@ Box BoardDrag::place_of(const Image& image) const {
     return picture_place(image).shifted(offset().x, offset().y);
 }
 
-Area BoardDrag::area() const {
+Box BoardDrag::place() const {
     Box bounds;
     for (const Image* image : lifted()) bounds = united(bounds, place_of(*image));
+    return bounds;
+}
+
+Area BoardDrag::area() const {
+    const Box bounds = place();
     return bounds.empty() ? Area() : touched(bounds.grown(shadow_reach));
 }
 

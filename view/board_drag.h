@@ -19,7 +19,8 @@ class BoardDrag {
     /// there.
     const std::vector<Image*>& lifted() const;
     Shift offset() const;
-    /// Where they are seen, with their shadow; empty when there are none.
+    /// Where they are seen, without and with their shadow; empty when there are none.
+    Box place() const;
     Area area() const;
     /// Where the mark is seen; empty when there is none.
     Area mark_area() const;

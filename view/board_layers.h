@@ -83,6 +83,14 @@ struct PaintedMark {
     int fill_opacity = 255;
 };
 
+/// The outline of a rectangle with round corners.
+struct PaintedRing {
+    Box middle;  ///< of the line
+    Color color = black;
+    double line = 1;
+    double radius = 0;
+};
+
 /// The shadow of a pile of lifted cards. Device pixels: it reaches `reach` beyond the pile on every side,
 /// lies `drop` lower, and fades out over `blur`; where it is darkest, its black has this opacity, of 255.
 struct PaintedShadow {
@@ -121,6 +129,7 @@ struct BoardLayers {
     std::optional<PaintedMark> mark;
     std::optional<PaintedShadow> shadow;
     std::vector<PaintedImage> lifted;
+    std::vector<PaintedRing> rings;  ///< of the keyboard's cursor
     std::optional<PaintedPlate> plate;
     std::vector<PaintedLabel> labels;
     /// Not seen yet, but soon: so that their pictures can be drawn now, and not while all moves.

@@ -71,6 +71,7 @@ const BoardLayers& BoardScene::layers(const Area& area, double ratio) {
     layers_.mark.reset();
     layers_.shadow.reset();
     layers_.lifted.clear();
+    layers_.rings.clear();
     layers_.plate.reset();
     layers_.labels.clear();
     layers_.coming.clear();
@@ -79,6 +80,7 @@ const BoardLayers& BoardScene::layers(const Area& area, double ratio) {
     // A card on its way hides no place: it is about to leave it.
     motion_.add_to(layers_, ratio);
     drag_.add_to(layers_, ratio);
+    cursor_.add_to(layers_, form_.back_color(), ratio);
     add_labels(ratio);
     return layers_;
 }

@@ -4,6 +4,7 @@
 
 #include "platform/form.h"
 #include "platform/image.h"
+#include "view/board_cursor.h"
 #include "view/board_drag.h"
 #include "view/board_layers.h"
 #include "view/label_row.h"
@@ -13,9 +14,9 @@
 
 namespace tarnwick {
 
-/// What a window's board looks like: its outlines, images and labels, and what is seen of a drag and of
-/// images on their way. It depends on nothing but the window's widgets, the size of texts, and how far the
-/// board is scrolled.
+/// What a window's board looks like: its outlines, images and labels, and what is seen of a drag, of
+/// images on their way and of the keyboard's cursor. It depends on nothing but the window's widgets, the size
+/// of texts, and how far the board is scrolled.
 class BoardScene {
   public:
     /// @param texts  measures the desktop's font; outlives the scene
@@ -45,6 +46,8 @@ class BoardScene {
 
     BoardDrag& drag() { return drag_; }
     const BoardDrag& drag() const { return drag_; }
+    BoardCursor& cursor() { return cursor_; }
+    const BoardCursor& cursor() const { return cursor_; }
     Motion& motion() { return motion_; }
     const Motion& motion() const { return motion_; }
 
@@ -60,6 +63,7 @@ class BoardScene {
     const Form& form_;
     const TextMeasure& texts_;
     BoardDrag drag_;
+    BoardCursor cursor_;
     TableLight light_;
     Motion motion_;
     int scrolled_ = 0;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "platform/desktop.h"
 #include "platform/key_codes.h"
@@ -9,10 +10,10 @@
 namespace tarnwick {
 namespace {
 
-// Beyond so many areas, painting the whole board costs less than keeping them apart.
-constexpr int most_repaints = 24;
 // Milliseconds from one picture of a glide to the next.
 constexpr int frame_time = 16;
+// A pointer that has moved so far, in pixels, is meant to play: less may be a bump against the table.
+constexpr double deliberate_move = 8;
 
 }  // namespace
 
@@ -20,6 +21,9 @@ BoardStage::BoardStage(Form& form, const TextMeasure& texts, BoardFront& front)
     : form_(form),
       front_(front),
       scene_(form, texts),
+      keys_(form, scene_.cursor()),
+      repaints_(front, scroll_),
+      pointer_(form),
       color_(form.back_color()),
       plate_(scene_.plate()),
       label_scale_(scene_.label_scale()) {}
@@ -35,8 +39,8 @@ void BoardStage::widget_changed(const Widget& widget, const Rect& before) {
         scene_.motion().image_changed(image);
         settle_later();
     }
-    repaint(scene_.area_of(widget, before));
-    if (widget.place() != before) repaint(scene_.area_of(widget));
+    repaints_.add(scene_.area_of(widget, before));
+    if (widget.place() != before) repaints_.add(scene_.area_of(widget));
 }
 
 void BoardStage::update_labels() {
@@ -44,26 +48,33 @@ void BoardStage::update_labels() {
     const double scale = scene_.label_scale();
     if (scale == label_scale_) return;
     label_scale_ = scale;
-    repaint_all();
+    repaints_.add_all();
 }
 
 void BoardStage::form_changed() {
+    update_pointer();
     if (color_ == form_.back_color()) return;
     color_ = form_.back_color();
-    repaint_all();
+    repaints_.add_all();
 }
 
 void BoardStage::drag_changed() {
     const bool glides = !holds() && front_.allows_motion();
     repaint_home(scene_.drag().follow(desktop().now(), glides));
     repaint_lifted();
-    repaint_mark();
+    repaints_.move(mark_area_, scene_.drag().mark_area());
+    if (keys_.hold()) {
+        scene_.cursor().surround(scene_.drag().place());
+        repaints_.move(cursor_area_, scene_.cursor().area());
+    }
+    if (keys_.hold() != std::exchange(keys_held_, keys_.hold())) settle_later();
+    if (holds() != std::exchange(held_, holds())) update_pointer();
     update_steps();
 }
 
 // What lies at the images' own places is seen or hidden.
 void BoardStage::repaint_home(const std::vector<Image*>& images) {
-    for (const Image* image : images) repaint(scene_.area_of(*image));
+    for (const Image* image : images) repaints_.add(scene_.area_of(*image));
 }
 
 void BoardStage::repaint_lifted() {
@@ -71,34 +82,12 @@ void BoardStage::repaint_lifted() {
     lifted_area_ = scene_.drag().area();
     // One rectangle paints faster than the several that two overlapping ones are made of.
     if (before.meets(lifted_area_)) {
-        repaint(united(before, lifted_area_));
+        repaints_.add(united(before, lifted_area_));
     } else {
-        repaint(before);
-        repaint(lifted_area_);
+        repaints_.add(before);
+        repaints_.add(lifted_area_);
     }
     update_plate();
-}
-
-void BoardStage::repaint_mark() {
-    const Area before = mark_area_;
-    mark_area_ = scene_.drag().mark_area();
-    if (mark_area_ == before) return;
-    repaint(before);
-    repaint(mark_area_);
-}
-
-void BoardStage::repaint_all() {
-    repaints_ = most_repaints;
-    front_.repaint_all();
-}
-
-void BoardStage::repaint(const Area& area) {
-    if (area.empty() || repaints_ >= most_repaints) return;
-    if (++repaints_ == most_repaints) {
-        front_.repaint_all();
-        return;
-    }
-    front_.repaint(area.shifted(0, -scroll_.offset()));
 }
 
 // It comes with the first card below the labels, and goes with the last one.
@@ -106,19 +95,20 @@ void BoardStage::update_plate() {
     const bool laid = scene_.lays_plate();
     if (laid == lays_plate_) return;
     lays_plate_ = laid;
-    repaint(plate_);
+    repaints_.add(plate_);
 }
 
 void BoardStage::resized(PixelSize size) {
     size_ = size;
     scroll_.set_page(size.height);
     end_glide();
-    repaint_all();
+    repaints_.add_all();
     show_part();
     settle_later();
     form_.user_resized(size);
     motion_areas_.clear();
     scene_.motion().rest();
+    update_cursor();
 }
 
 void BoardStage::settle_later() {
@@ -133,6 +123,8 @@ void BoardStage::settle() {
     scroll([this] { scroll_.set_lower_edge(scene_.lower_edge()); });
     front_.scroll_changed();
     begin_motion();
+    update_cursor();
+    update_pointer();
     update_steps();
 }
 
@@ -140,6 +132,7 @@ void BoardStage::press(double x, double y, MouseButton button) {
     if (form_.accepts_input()) {
         end_glide();
         end_motion();
+        hide_cursor();
     }
     pointer_x_ = x;
     pointer_y_ = y;
@@ -148,8 +141,13 @@ void BoardStage::press(double x, double y, MouseButton button) {
 
 void BoardStage::move(double x, double y, bool left_button) {
     // Somebody else took the mouse, and its button was let go there.
-    if (!left_button) return cancel();
-    point_at(x, y);
+    if (!left_button && form_.mouse().is_down() && !keys_.hold()) return cancel();
+    if (std::hypot(x - rest_x_, y - rest_y_) > deliberate_move) hide_cursor();
+    pointer_x_ = x;
+    pointer_y_ = y;
+    if (pointer_holds()) return point_at(x, y);
+    if (pointer_.move(static_cast<float>(x), static_cast<float>(y + scroll_.offset())))
+        front_.pointer_shape_changed();
 }
 
 void BoardStage::point_at(double x, double y) {
@@ -159,11 +157,12 @@ void BoardStage::point_at(double x, double y) {
 }
 
 void BoardStage::release(double x, double y, MouseButton button, bool elsewhere) {
+    if (keys_.hold()) return;
     if (elsewhere && holds()) return cancel();
     form_.mouse().release(static_cast<float>(x), static_cast<float>(y + scroll_.offset()), button);
 }
 
-bool BoardStage::key_down(int key_code) {
+bool BoardStage::key_down(int key_code, bool again) {
     if (key_code == escape_key && holds()) {
         cancel();
         return true;
@@ -172,8 +171,59 @@ bool BoardStage::key_down(int key_code) {
         end_glide();
         end_motion();
         scroll([=, this] { scroll_.press(key_code); });
+        const bool fills_screen = front_.full_screen();
+        if (key_code == f11_key || (key_code == escape_key && fills_screen)) {
+            if (!again) front_.set_full_screen(!fills_screen);
+            return true;
+        }
+        if (cursor_key(key_code, again)) return true;
     }
     return key_code != 0 && form_.key_down(key_code);
+}
+
+bool BoardStage::cursor_key(int key_code, bool again) {
+    const bool is_arrow = key_code >= left_key && key_code <= down_key;
+    const bool is_enter = key_code == enter_key && scene_.cursor().shown();
+    if (!is_arrow && !is_enter) return false;
+    if (form_.mouse().is_down() && !keys_.hold()) return true;
+    rest_x_ = pointer_x_;
+    rest_y_ = pointer_y_;
+    if (is_arrow) keys_.go(key_code);
+    keys_.follow();
+    const Area place = scene_.cursor().area();
+    reveal(place.bottom() - 1);
+    reveal(place.top);
+    update_cursor();
+    if (is_enter && !again) keys_.enter();
+    return true;
+}
+
+void BoardStage::update_cursor() {
+    if (!scene_.cursor().shown()) return;
+    keys_.follow();
+    keys_.carry();
+    if (keys_.hold()) scene_.cursor().surround(scene_.drag().place());
+    repaints_.move(cursor_area_, scene_.cursor().area());
+    tell_cursor();
+}
+
+void BoardStage::hide_cursor() {
+    if (!scene_.cursor().shown()) return;
+    if (keys_.hold()) cancel();
+    scene_.cursor().hide();
+    repaints_.move(cursor_area_, scene_.cursor().area());
+    tell_cursor();
+}
+
+void BoardStage::update_pointer() {
+    const auto x = static_cast<float>(pointer_x_);
+    const auto y = static_cast<float>(pointer_y_ + scroll_.offset());
+    if (pointer_.look_again(x, y)) front_.pointer_shape_changed();
+}
+
+void BoardStage::tell_cursor() {
+    const std::pair now{scene_.cursor().item(), keys_.hint()};
+    if (now != std::exchange(told_cursor_, now)) front_.cursor_moved();
 }
 
 void BoardStage::scroll_to(int value) {
@@ -198,9 +248,10 @@ void BoardStage::scroll(Action action) {
     front_.scroll_changed();
     if (scroll_.offset() == offset) return;
     show_part();
-    repaint_all();
+    repaints_.add_all();
     // Under a pointer that holds cards another part of the board lies now.
-    if (holds()) point_at(pointer_x_, pointer_y_);
+    if (pointer_holds()) point_at(pointer_x_, pointer_y_);
+    update_pointer();
 }
 
 // What is not seen takes no clicks and no drops.
@@ -215,7 +266,7 @@ void BoardStage::show_part() {
 
 int BoardStage::edge_ahead() const {
     const Shift moved = scene_.drag().offset();
-    if (!holds() || std::abs(moved.x) + std::abs(moved.y) < BoardScroll::edge_reach) return 0;
+    if (!pointer_holds() || std::abs(moved.x) + std::abs(moved.y) < BoardScroll::edge_reach) return 0;
     return scroll_.ahead(pointer_y_);
 }
 
@@ -230,7 +281,7 @@ void BoardStage::repaint_motion() {
     std::vector<Area> areas = std::move(motion_areas_);
     motion_areas_ = scene_.motion().areas();
     for (const Area& area : motion_areas_) add_area(areas, area);
-    for (const Area& area : areas) repaint(area);
+    for (const Area& area : areas) repaints_.add(area);
     update_plate();
 }
 

@@ -2,31 +2,19 @@
 
 #include <cstdint>
 #include <optional>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/form.h"
+#include "view/board_front.h"
+#include "view/board_keys.h"
 #include "view/board_scene.h"
 #include "view/board_scroll.h"
+#include "view/pointer_shape.h"
+#include "view/repaints.h"
 
 namespace tarnwick {
-
-/// What a stage asks of the front end that shows a board. Areas are pixels of the board's window.
-class BoardFront {
-  public:
-    virtual ~BoardFront() = default;
-    /// What is seen of an area, or of all of it, has changed: to be painted with the next picture.
-    virtual void repaint(const Area& area) = 0;
-    virtual void repaint_all() = 0;
-    /// The range, the page or the value of the stage's scroll() has changed.
-    virtual void scroll_changed() = 0;
-    /// The layout changes in many small steps, of which only the end counts: settle() is to be called once,
-    /// after the event that is under way.
-    virtual void settle_later() = 0;
-    /// next_step() has changed.
-    virtual void steps_changed() = 0;
-    /// Whether the desktop has nothing against things that are seen to move.
-    virtual bool allows_motion() const = 0;
-};
 
 /// A board on show: turns what happens in its window into what is to be painted, and what the player does
 /// into what the game understands. A front end hands on the news of the window's FormView and its own events,
@@ -59,9 +47,10 @@ class BoardStage {
     void release(double x, double y, MouseButton button, bool elsewhere);
     /// The board has lost the mouse or the keyboard, or is no longer seen: nothing is dragged or pressed.
     void cancel() { form_.mouse().cancel(); }
-    /// A key, by its code (see platform/key_codes.h), 0 for one without: it may scroll, and goes to
-    /// the form. True when that took it.
-    bool key_down(int key_code);
+    /// A key, by its code (see platform/key_codes.h), 0 for one without: it may scroll, is the cursor's, lets
+    /// go of a card, or changes between window and screen; all others go to the form. True when it was taken.
+    /// @param again  whether the key is only held
+    bool key_down(int key_code, bool again = false);
     /// Whatever moves is where it lies at once: for what the player does and the stage is not told.
     void end_motion();
     /// Scrolls to a value of scroll(), which a scroll bar was moved to.
@@ -77,22 +66,28 @@ class BoardStage {
     std::optional<std::int64_t> next_step() const;
     void step();
 
-    // What is painted.
+    // What is seen.
+    PointerShape pointer_shape() const { return pointer_.shape(); }
     /// All areas that were told so far are painted now: to be called before each picture. Until then, what is
     /// all to be painted is told no further areas.
-    void begin_painting() { repaints_ = 0; }
+    void begin_painting() { repaints_.begin_painting(); }
     BoardScene& scene() { return scene_; }
     const BoardScene& scene() const { return scene_; }
     const BoardScroll& scroll() const { return scroll_; }
-    /// Whether a card is held.
+    /// Whether a card is held, and whether by the pointer.
     bool holds() const { return form_.mouse().dragged() != nullptr; }
+    bool pointer_holds() const { return holds() && !keys_.hold(); }
+    /// What there is to tell of the cursor's item besides its name (see BoardKeys::hint).
+    std::string_view cursor_hint() const { return keys_.hint(); }
 
   private:
-    void repaint(const Area& area);
-    void repaint_all();
     void repaint_lifted();
-    void repaint_mark();
     void repaint_home(const std::vector<Image*>& images);
+    bool cursor_key(int key_code, bool again);
+    void update_cursor();
+    void hide_cursor();
+    void tell_cursor();
+    void update_pointer();
     void update_labels();
     void update_plate();
     void repaint_motion();
@@ -109,20 +104,28 @@ class BoardStage {
     Form& form_;
     BoardFront& front_;
     BoardScene scene_;
+    BoardKeys keys_;
     BoardScroll scroll_;
+    Repaints repaints_;
+    PointerLook pointer_;
     PixelSize size_;
     Color color_;
     Area lifted_area_;
     Area mark_area_;
+    Area cursor_area_;
+    std::pair<const Widget*, std::string_view> told_cursor_{};  ///< its item and hint
+    bool held_ = false;
+    bool keys_held_ = false;
     std::vector<Area> motion_areas_;
     Area plate_;
     bool lays_plate_ = false;  ///< as it was last told
     double label_scale_;
-    double pointer_x_ = 0;  ///< where the pointer was last seen
-    double pointer_y_ = 0;
+    double pointer_x_ = -1;  ///< where the pointer was last seen
+    double pointer_y_ = -1;
+    double rest_x_ = -1;  ///< where it was when a key was last pressed
+    double rest_y_ = -1;
     std::optional<std::int64_t> next_frame_;      ///< of the glide and of motion
     std::optional<std::int64_t> next_edge_step_;  ///< of a drag held where there is more beyond the edge
-    int repaints_ = 0;                            ///< areas since the board was last painted
     bool settles_later_ = false;
 };
 

@@ -10,6 +10,12 @@ void paint_mark(QPainter& painter, const PaintedMark& mark) {
     painter.drawRoundedRect(to_qt(mark.middle), mark.radius, mark.radius);
 }
 
+void paint_ring(QPainter& painter, const PaintedRing& ring) {
+    painter.setPen(QPen(to_qt(ring.color), ring.line));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(to_qt(ring.middle), ring.radius, ring.radius);
+}
+
 QImage image_of(const PaintedGround::Sheet& sheet) {
     const auto* pixels = reinterpret_cast<const uchar*>(sheet.pixels.data());
     return QImage(pixels, sheet.width, sheet.height, sheet.width * 4, QImage::Format_RGB32);
@@ -54,6 +60,7 @@ void BoardPainter::paint(QPainter& painter, const BoardLayers& layers) {
         painter.drawImage(to_qt(layers.shadow->pile).topLeft() - reach, shadow_.image(*layers.shadow));
     }
     for (const PaintedImage& image : layers.lifted) paint_image(painter, image);
+    for (const PaintedRing& ring : layers.rings) paint_ring(painter, ring);
     if (layers.plate) paint_plate(painter, *layers.plate, *layers.ground);
     painter.restore();
     for (const PaintedLabel& label : layers.labels) labels_.paint(painter, label, ratio);

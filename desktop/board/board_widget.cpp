@@ -24,21 +24,36 @@ MouseButton button_of(const QMouseEvent& event) {
     return event.button() == Qt::LeftButton ? MouseButton::left : MouseButton::other;
 }
 
+Qt::CursorShape to_qt(PointerShape shape) {
+    switch (shape) {
+        case PointerShape::pointing_hand:
+            return Qt::PointingHandCursor;
+        case PointerShape::open_hand:
+            return Qt::OpenHandCursor;
+        case PointerShape::closed_hand:
+            return Qt::ClosedHandCursor;
+        case PointerShape::arrow:
+            break;
+    }
+    return Qt::ArrowCursor;
+}
+
 }  // namespace
 
 BoardWidget::BoardWidget(Form& form) : form_(form), stage_(form, qt_texts(), *this) {
     setObjectName("board");
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
     setMinimumSize(320, 240);
     scroll_bar_.hide();
+    scroll_bar_.setCursor(Qt::ArrowCursor);
     scroll_bar_.setSingleStep(BoardScroll::step);
     connect(&scroll_bar_, &QScrollBar::valueChanged, this, [this](int value) { stage_.scroll_to(value); });
 }
 
 void BoardWidget::drag_changed() {
     stage_.drag_changed();
-    setMouseTracking(stage_.holds());
     scroll_bar_.set_out_of_the_way(stage_.holds());
 }
 
@@ -71,6 +86,18 @@ void BoardWidget::steps_changed() {
 bool BoardWidget::allows_motion() const {
     return !qEnvironmentVariableIsSet("TARNWICK_LESS_MOTION") &&
            style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0;
+}
+
+void BoardWidget::cursor_moved() {
+    if (on_cursor_moved) on_cursor_moved();
+}
+
+void BoardWidget::pointer_shape_changed() { setCursor(to_qt(stage_.pointer_shape())); }
+
+void BoardWidget::set_full_screen(bool on) {
+    QWidget& whole = *window();
+    whole.setWindowState(on ? whole.windowState() | Qt::WindowFullScreen
+                            : whole.windowState() & ~Qt::WindowFullScreen);
 }
 
 void BoardWidget::timerEvent(QTimerEvent* event) {
@@ -111,7 +138,7 @@ void BoardWidget::resizeEvent(QResizeEvent*) {
     scroll_bar_.settle();
     stage_.resized({width(), height()});
     // The window may have been moved as well, from under a pointer that holds a card.
-    if (!stage_.holds()) return;
+    if (!stage_.pointer_holds()) return;
     const QPointF pointer = mapFromGlobal(QPointF(QCursor::pos()));
     stage_.move(pointer.x(), pointer.y(), true);
 }
@@ -146,7 +173,8 @@ void BoardWidget::mouseMoveEvent(QMouseEvent* event) {
 
 void BoardWidget::mouseReleaseEvent(QMouseEvent* event) {
     const QPointF place = event->position();
-    stage_.release(place.x(), place.y(), button_of(*event), stage_.holds() && is_over_other_window(*event));
+    stage_.release(
+        place.x(), place.y(), button_of(*event), stage_.pointer_holds() && is_over_other_window(*event));
 }
 
 void BoardWidget::wheelEvent(QWheelEvent* event) {
@@ -154,11 +182,13 @@ void BoardWidget::wheelEvent(QWheelEvent* event) {
 }
 
 void BoardWidget::keyPressEvent(QKeyEvent* event) {
-    event->setAccepted(stage_.key_down(key_code_of(event->key())));
+    event->setAccepted(stage_.key_down(key_code_of(event->key()), event->isAutoRepeat()));
 }
 
 // Nor do these paint.
-void BoardWidget::focusInEvent(QFocusEvent*) {}
+void BoardWidget::focusInEvent(QFocusEvent*) {
+    if (cursor_item()) cursor_moved();
+}
 void BoardWidget::focusOutEvent(QFocusEvent*) { stage_.cancel(); }
 
 }  // namespace tarnwick

@@ -2,6 +2,7 @@
 
 #include <QBasicTimer>
 #include <QWidget>
+#include <functional>
 
 #include "desktop/board/board_painter.h"
 #include "desktop/board/slim_scroll_bar.h"
@@ -28,6 +29,11 @@ class BoardWidget : public QWidget, private BoardFront {
     int scroll_offset() const { return stage_.scroll().offset(); }
     /// Where one of the board's widgets is seen, in pixels of the board.
     QRect area_of(const Widget& widget) const;
+    /// The widget that the keyboard's cursor is on, or null, and what there is to tell of it besides.
+    const Widget* cursor_item() const { return stage_.scene().cursor().item(); }
+    std::string_view cursor_hint() const { return stage_.cursor_hint(); }
+    /// Told when that has changed, or has got the keyboard.
+    std::function<void()> on_cursor_moved;
 
   protected:
     bool event(QEvent* event) override;
@@ -52,6 +58,10 @@ class BoardWidget : public QWidget, private BoardFront {
     void settle_later() override;
     void steps_changed() override;
     bool allows_motion() const override;
+    void cursor_moved() override;
+    void pointer_shape_changed() override;
+    bool full_screen() const override { return window()->isFullScreen(); }
+    void set_full_screen(bool on) override;
 
     bool is_over_other_window(const QMouseEvent& event) const;
 

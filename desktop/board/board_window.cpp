@@ -33,6 +33,7 @@ BoardWindow::BoardWindow(Form& form) : form_(form), board_(*new BoardWidget(form
     setObjectName(to_qt(form.name()));
     make_menus();
     setCentralWidget(&board_);
+    board_.on_cursor_moved = [this] { news_.cursor_moved(); };
     board_.setFocus();
 }
 
