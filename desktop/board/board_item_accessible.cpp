@@ -29,6 +29,8 @@ BoardItem BoardItemAccessible::item() const {
 QString BoardItemAccessible::text(QAccessible::Text text) const {
     const BoardItem described = item();
     if (text == QAccessible::Name) return to_qt(described.name);
+    // An image says it in its name.
+    if (text == QAccessible::Description && described.value) return to_qt(described.tip);
     if (text == QAccessible::Value && described.value) return QString::number(*described.value);
     return {};
 }

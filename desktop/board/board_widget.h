@@ -53,6 +53,7 @@ class BoardWidget : public QWidget, private BoardFront {
     void steps_changed() override;
     bool allows_motion() const override;
 
+    void show_tip(const QHelpEvent& event);
     bool is_over_other_window(const QMouseEvent& event) const;
 
     Form& form_;
