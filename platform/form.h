@@ -66,6 +66,8 @@ struct BoardItem {
     std::optional<PilePlace> place = std::nullopt;
     /// What is seen of a widget that is not seen itself.
     const Widget* outline = nullptr;
+    /// What a pointer that rests on the widget is told.
+    std::string tip = {};
 };
 
 enum class WindowState { normal, minimized, maximized };
@@ -91,6 +93,8 @@ class Form : public Window {
     /// Tells what the widgets of a board mean, in the order in which they are read out. Nobody is told that
     /// it has changed: it may after every event, and what is new is found by view/spoken_board.h.
     std::function<std::vector<BoardItem>()> on_describe;
+    /// Tells what the player's command to copy puts on the clipboard.
+    std::function<std::string()> on_copy;
     /// Tells whether images are to be seen on their way to where they lie, asked after an event has moved
     /// some; without it, none are. Must not throw.
     std::function<bool()> on_motion;
@@ -143,6 +147,8 @@ class Form : public Window {
     /// keys and took it.
     bool key_down(int key_code);
     void click_background();
+    /// What a desktop calls for the command to copy.
+    void copy() const;
     Mouse& mouse() override { return mouse_; }
     const Mouse& mouse() const { return mouse_; }
 

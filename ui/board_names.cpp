@@ -2,6 +2,8 @@
 #include <vector>
 
 #include "board/peek.h"
+#include "game/tablet.h"
+#include "platform/random.h"
 #include "state/variables.h"
 #include "ui/handlers.h"
 #include "windows/frmcards.h"
@@ -18,6 +20,7 @@ constexpr PilePlace stock_place{0, 0};
 constexpr PilePlace turned_card_place{0, 1};
 PilePlace ace_pile_place(int p) { return {0, 2 + p}; }
 PilePlace column_place(int c) { return {1, c}; }
+std::string deal_number() { return std::to_string(random_generator().seed()); }
 
 // Collects the images that can be seen, or at least clicked.
 class Description {
@@ -35,6 +38,12 @@ class Description {
     void add_score() {
         const std::string name = "Score: " + std::to_string(score) + " of " + std::to_string(most_points);
         items_.push_back({&frmcards.LblScore, name, 0, score, most_points});
+        set_tip(frmcards.LblScore, "Deal " + deal_number() + " (Ctrl+C copies the number)");
+    }
+
+    // Of what was added last, if it could be seen.
+    void set_tip(const Widget& widget, const std::string& tip) {
+        if (!items_.empty() && items_.back().widget == &widget) items_.back().tip = tip;
     }
 
     std::vector<BoardItem> items() && { return std::move(items_); }
@@ -43,14 +52,24 @@ class Description {
     std::vector<BoardItem> items_;
 };
 
+int face_down_in_stock() { return last_tablet_slot() - turned_slot(); }
+
 std::string stock_name() {
-    const int face_down = last_tablet_slot() - turned_slot();
+    const int face_down = face_down_in_stock();
     if (face_down == 0) return "stock, all cards turned";
     return "stock, " + std::to_string(face_down) + (face_down == 1 ? " card" : " cards") + " face down";
 }
 
+std::string stock_tip() {
+    if (tablet_is_turned_for_good()) return {};
+    const int face_down = face_down_in_stock();
+    if (face_down == 0) return "No card lies face down: a click turns the cards over";
+    return std::to_string(face_down) + (face_down == 1 ? " card lies" : " cards lie") + " face down";
+}
+
 void describe_tablet(Description& board) {
     board.add(stock_image, stock_name(), 1, stock_place);
+    board.set_tip(frmcards.Image1(stock_image), stock_tip());
     if (turned_slot() == -1) return;
     const Card card = turned_card();
     board.add(card.picture, card_name(card.rank, card.suit) + ", turned card", 1, turned_card_place);
@@ -106,6 +125,9 @@ std::vector<BoardItem> describe() {
 
 }  // namespace
 
-void attach_board_names() { frmcards.on_describe = describe; }
+void attach_board_names() {
+    frmcards.on_describe = describe;
+    frmcards.on_copy = deal_number;
+}
 
 }  // namespace tarnwick

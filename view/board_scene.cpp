@@ -7,6 +7,7 @@
 #include "view/contrast.h"
 #include "view/empty_place.h"
 #include "view/picture_place.h"
+#include "view/pile_edges.h"
 #include "windows/pictures.h"
 
 namespace tarnwick {
@@ -33,7 +34,7 @@ std::optional<PaintedRim> text_rim(Color text, Color table, double font_scale) {
 
 Area BoardScene::area_of(const Widget& widget, const Rect& place) const {
     if (widget.kind() == WidgetKind::image) {
-        const Box seen = picture_place(static_cast<const Image&>(widget), place);
+        const Box seen = pile_place(static_cast<const Image&>(widget), place);
         // An image that has not moved may have begun or ceased to stretch.
         return touched(place == widget.place() ? united(seen, box_of(place)) : seen);
     }
@@ -131,12 +132,17 @@ void BoardScene::add_images(double ratio) {
         if (!is_seen(**image) || std::find(elsewhere.begin(), elsewhere.end(), *image) != elsewhere.end())
             continue;
         if (motion_.moves(**image)) continue;
+        if (!layers_.area.meets(touched(pile_place(**image, (*image)->place())))) continue;
         const Box box = picture_place(**image);
-        if (!layers_.area.meets(touched(box))) continue;
         const Area place = snapped(box, ratio);
         const auto covers = [&](const PaintedImage& upper) { return upper.place == place; };
         if (std::any_of(painted.begin(), painted.end(), covers)) continue;
         painted.push_back({(*image)->picture(), place, (*image)->bordered()});
+        for (int edge = 1; edge <= pile_edges(**image); ++edge) {
+            const Shift out = edge_shift(box.width, edge, ratio);
+            painted.push_back(
+                {(*image)->picture(), place.shifted(static_cast<int>(out.x), static_cast<int>(out.y))});
+        }
     }
     std::reverse(painted.begin(), painted.end());
 }

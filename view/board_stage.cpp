@@ -6,6 +6,7 @@
 
 #include "platform/desktop.h"
 #include "platform/key_codes.h"
+#include "view/spoken_board.h"
 
 namespace tarnwick {
 namespace {
@@ -264,6 +265,23 @@ void BoardStage::show_part() {
                                      static_cast<float>(size_.height)});
 }
 
+// The labels are read as one, and lie above all cards.
+std::optional<BoardTip> BoardStage::tip_at(double x, double y) const {
+    const int down = scroll_.offset();
+    const Area spot{static_cast<int>(x), static_cast<int>(y) + down, 1, 1};
+    if (holds() || !form_.accepts_input()) return std::nullopt;
+    const bool on_labels = spot.meets(plate_);
+    const Image* image =
+        form_.mouse().image_at(static_cast<float>(x), static_cast<float>(y + static_cast<double>(down)));
+    for (const BoardItem& item : described_items(form_)) {
+        const bool is_meant = on_labels ? item.widget->kind() == WidgetKind::label : item.widget == image;
+        if (!is_meant || item.tip.empty()) continue;
+        const Area area = on_labels ? plate_ : scene_.area_of(*item.widget);
+        return BoardTip{item.tip, area.shifted(0, -down)};
+    }
+    return std::nullopt;
+}
+
 int BoardStage::edge_ahead() const {
     const Shift moved = scene_.drag().offset();
     if (!pointer_holds() || std::abs(moved.x) + std::abs(moved.y) < BoardScroll::edge_reach) return 0;
@@ -286,6 +304,8 @@ void BoardStage::repaint_motion() {
 }
 
 void BoardStage::begin_motion() {
+    // Nothing was seen elsewhere before the first picture.
+    if (!painted_) return scene_.motion().rest();
     // Behind a dialog nothing moves.
     scene_.motion().begin(desktop().now(), front_.allows_motion() && form_.accepts_input());
     repaint_motion();

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -15,6 +16,12 @@
 #include "view/repaints.h"
 
 namespace tarnwick {
+
+/// A text about something on the board, and the area that it is about.
+struct BoardTip {
+    std::string text;
+    Area area;
+};
 
 /// A board on show: turns what happens in its window into what is to be painted, and what the player does
 /// into what the game understands. A front end hands on the news of the window's FormView and its own events,
@@ -60,6 +67,9 @@ class BoardStage {
     /// Scrolls as far as it takes to see this row, in pixels of the board.
     void reveal(int y);
 
+    /// What the pointer is told where it rests; nothing while a card is held.
+    std::optional<BoardTip> tip_at(double x, double y) const;
+
     // What moves by itself: a glide, and a board scrolled by a drag that is held at its edge.
     /// When step() is to be called, in milliseconds of the desktop's clock; nothing while all is at rest.
     /// Asked again after each step, and when the front is told that it has changed.
@@ -70,7 +80,10 @@ class BoardStage {
     PointerShape pointer_shape() const { return pointer_.shape(); }
     /// All areas that were told so far are painted now: to be called before each picture. Until then, what is
     /// all to be painted is told no further areas.
-    void begin_painting() { repaints_.begin_painting(); }
+    void begin_painting() {
+        repaints_.begin_painting();
+        painted_ = true;
+    }
     BoardScene& scene() { return scene_; }
     const BoardScene& scene() const { return scene_; }
     const BoardScroll& scroll() const { return scroll_; }
@@ -127,6 +140,7 @@ class BoardStage {
     std::optional<std::int64_t> next_frame_;      ///< of the glide and of motion
     std::optional<std::int64_t> next_edge_step_;  ///< of a drag held where there is more beyond the edge
     bool settles_later_ = false;
+    bool painted_ = false;
 };
 
 }  // namespace tarnwick

@@ -4,6 +4,9 @@
 
 namespace tarnwick {
 
+/// What is no text has to stand out so well to be seen by most.
+inline constexpr double least_contrast = 3;
+
 /// How well one colour stands out from another, from 1 (not at all) to 21 (black on white).
 double contrast(Color a, Color b);
 

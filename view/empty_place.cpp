@@ -11,8 +11,6 @@ namespace {
 constexpr int line_opacity = 90;
 constexpr int fill_opacity = 30;
 constexpr int sign_opacity = 80;
-// What is no text has to stand out so well to be seen by most.
-constexpr double least_contrast = 3;
 
 using Lines = std::vector<std::vector<Point>>;
 

@@ -122,9 +122,10 @@ const Motion::Flight* Motion::unmoved_flight(const Image& image, const Looks& lo
 }
 
 // An image that was hidden, and of which nothing else is known, is there at once: something has uncovered it.
+// So is a pile, which nobody moves.
 std::optional<Motion::Flight> Motion::flight_of_seen(const Image& image, const Looks& looks,
                                                      std::int64_t now) const {
-    const std::optional<Box> start = start_of(image);
+    const std::optional<Box> start = image.depth() > 0 ? std::nullopt : start_of(image);
     if (!start || same_place(*start, looks.box) || !same_size(*start, looks.box)) return std::nullopt;
     Flight flight{.image = &image, .looks = looks, .from = between(*start, looks.box)};
     flight.time = form_.on_step ? form_.on_step(image) : 0;

@@ -1,6 +1,7 @@
 #include "desktop/app/qt_desktop.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QColorDialog>
 #include <QDate>
 #include <QIcon>
@@ -188,5 +189,7 @@ bool QtDesktop::show_help(const std::string& file_name) {
     if (!help_) help_ = std::make_unique<HelpWindow>();
     return help_->show_file(path);
 }
+
+void QtDesktop::copy_text(const std::string& text) { QGuiApplication::clipboard()->setText(to_qt(text)); }
 
 }  // namespace tarnwick

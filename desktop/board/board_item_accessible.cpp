@@ -33,6 +33,8 @@ QString BoardItemAccessible::text(QAccessible::Text text) const {
     if (text == QAccessible::Name) return to_qt(described.name);
     if (text == QAccessible::Description && is_under_cursor())
         return to_qt(std::string(board().cursor_hint()));
+    // An image says it in its name.
+    if (text == QAccessible::Description && described.value) return to_qt(described.tip);
     if (text == QAccessible::Value && described.value) return QString::number(*described.value);
     return {};
 }

@@ -5,7 +5,7 @@
 
 #include "desktop/board/drag_shadow.h"
 #include "desktop/board/label_pictures.h"
-#include "desktop/board/outline_pictures.h"
+#include "desktop/shared/outline_pictures.h"
 #include "desktop/shared/picture_cache.h"
 #include "view/board_layers.h"
 

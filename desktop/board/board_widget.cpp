@@ -2,11 +2,13 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QTimer>
+#include <QToolTip>
 #include <algorithm>
 
 #include "desktop/shared/key_codes.h"
@@ -144,8 +146,15 @@ void BoardWidget::resizeEvent(QResizeEvent*) {
 }
 
 bool BoardWidget::event(QEvent* event) {
-    // The first that is known of a key, which may belong to a menu entry.
-    if (event->type() == QEvent::ShortcutOverride) stage_.end_motion();
+    // The first that is known of a key, which may belong to a menu entry, and change what a tip tells.
+    if (event->type() == QEvent::ShortcutOverride) {
+        stage_.end_motion();
+        QToolTip::hideText();
+    }
+    if (event->type() == QEvent::ToolTip) {
+        show_tip(static_cast<const QHelpEvent&>(*event));
+        return true;
+    }
     if (event->type() == QEvent::UngrabMouse || event->type() == QEvent::Hide) stage_.cancel();
     if (event->type() == QEvent::FontChange) stage_.font_changed();
     // The board looks the same with the keyboard and without: no need to paint it as a widget does by itself.
@@ -153,6 +162,12 @@ bool BoardWidget::event(QEvent* event) {
         return scroll_bar_.isHidden() || QCoreApplication::sendEvent(&scroll_bar_, event);
     }
     return QWidget::event(event);
+}
+
+void BoardWidget::show_tip(const QHelpEvent& event) {
+    const std::optional<BoardTip> tip = stage_.tip_at(event.x(), event.y());
+    if (!tip) return QToolTip::hideText();
+    QToolTip::showText(event.globalPos(), to_qt(tip->text), this, to_qt(tip->area));
 }
 
 void BoardWidget::mousePressEvent(QMouseEvent* event) {

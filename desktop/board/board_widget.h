@@ -63,6 +63,7 @@ class BoardWidget : public QWidget, private BoardFront {
     bool full_screen() const override { return window()->isFullScreen(); }
     void set_full_screen(bool on) override;
 
+    void show_tip(const QHelpEvent& event);
     bool is_over_other_window(const QMouseEvent& event) const;
 
     Form& form_;

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QMenuBar>
+#include <QShortcut>
 #include <cmath>
 
 #include "desktop/shared/qt_convert.h"
@@ -46,6 +47,7 @@ void BoardWindow::make_menus() {
             entries_.push_back({entry, action});
         }
     }
+    new QShortcut(QKeySequence::Copy, this, [this] { form_.copy(); });
     menuBar()->setFixedHeight(whole_device_height(menuBar()->sizeHint().height(), devicePixelRatioF()));
     sync_menus();
 }

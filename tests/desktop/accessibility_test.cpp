@@ -130,6 +130,7 @@ TEST_F(BoardAccessibility, SaysWhatCanBePressedAndWhatHasAValue) {
     score = 7;
     EXPECT_EQ(score_label.valueInterface()->currentValue(), 7);
     EXPECT_EQ(score_label.text(QAccessible::Value), "7");
+    EXPECT_EQ(score_label.text(QAccessible::Description), "Deal 26 (Ctrl+C copies the number)");
 }
 
 TEST_F(BoardAccessibility, GivesTheFocusToWhatTheKeyboardsCursorIsOn) {

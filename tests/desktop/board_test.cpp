@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QClipboard>
+
 #include "desktop/shared/picture_cache.h"
 #include "state/variables.h"
 #include "tools/driver/board_picture.h"
@@ -54,6 +57,16 @@ TEST(Board, FollowsTheSizeOfTheWindow) {
         EXPECT_EQ(frmcards.client_size().width, width);
         EXPECT_EQ(board_faults(game), "") << width;
     }
+}
+
+TEST(Board, CopiesTheNumberOfItsDeal) {
+    TwinGame game({program, deal});
+    game.screen().key("ctrl+c");
+    EXPECT_TRUE(eventually([] {
+        QApplication::processEvents();
+        return QApplication::clipboard()->text() == "26";
+    }));
+    EXPECT_EQ(board_faults(game), "");
 }
 
 TEST(PictureCache, ScalesOnlyInHasteAndOnlyWhatItHas) {

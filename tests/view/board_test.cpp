@@ -7,6 +7,7 @@
 #include <random>
 
 #include "board/display.h"
+#include "notation/position.h"
 #include "platform/key_codes.h"
 #include "platform/timer.h"
 #include "settings/settings.h"
@@ -345,6 +346,71 @@ TEST_F(ShownBoard, ShowsThePointerWhatItCouldDo) {
     EXPECT_EQ(view.shape, Shape::arrow);
     stage.scroll_to(stage.scroll().range());
     EXPECT_EQ(view.shape, Shape::open_hand) << "scrolled";
+}
+
+TEST_F(ShownBoard, ShowsAndTellsHowManyCardsAreLeftInTheStock) {
+    const Image& stock = frmcards.Image1(stock_image);
+    const Place middle{static_cast<double>(stock.left()) + 30, static_cast<double>(stock.top()) + 40};
+    const auto tip = [&](Place at) {
+        const std::optional<BoardTip> told = stage.tip_at(at.x, at.y);
+        return told ? told->text : "";
+    };
+    const auto edges = [&] {
+        const Area pile = stage.scene().area_of(stock);
+        int cards = 0;
+        for (const PaintedImage& image : game.layers().images) {
+            if (!image.place.meets(around(box_of(stock.place())))) continue;
+            ++cards;
+            EXPECT_EQ(united(pile, image.place), pile) << "repainted with the stock";
+            EXPECT_LT(image.place.right(), turned_card_left) << "beside the turned card";
+        }
+        return std::max(0, cards - 1);
+    };
+    EXPECT_EQ(tip(middle), "45 cards lie face down");
+    std::string seen;
+    for (int left = 45; left > 0; left -= 5) {
+        EXPECT_TRUE(shows_all()) << left;
+        pass(200);
+        EXPECT_TRUE(shows_all()) << left;
+        seen += std::to_string(edges());
+        press(middle);
+        release(middle);
+    }
+    EXPECT_EQ(seen, "443322110") << "the last five lie flat";
+    EXPECT_EQ(edges(), 0);
+    EXPECT_EQ(tip(middle), "No card lies face down: a click turns the cards over");
+    set_position("0: Q♠\ntablet: (2♣) 3♣");
+    EXPECT_EQ(tip(middle), "1 card lies face down");
+    frmcards.Image1(stock_image).click();
+    EXPECT_EQ(tip(middle), "") << "turned for good";
+    EXPECT_EQ(edges(), 0);
+    EXPECT_TRUE(shows_all());
+}
+
+TEST_F(ShownBoard, TellsAndCopiesTheNumberOfTheDeal) {
+    const auto tip = [&](Place at) { return stage.tip_at(at.x, at.y); };
+    const Area label = around(game.layers().labels[2].place);
+    const Place on_label{label.left + 3.0, label.top + 3.0};
+    ASSERT_TRUE(tip(on_label));
+    EXPECT_EQ(tip(on_label)->text, "Deal 26 (Ctrl+C copies the number)");
+    EXPECT_TRUE(tip(on_label)->area.meets(around(game.layers().labels[0].place)));
+    EXPECT_FALSE(tip(bare_table) || tip(on(top_image(column_of_jack))));
+    resize(800, 300);
+    stage.scroll_to(60);
+    const Area moved = around(game.layers().labels[0].place).shifted(0, -60);
+    EXPECT_TRUE(tip({moved.left + 3.0, moved.top + 3.0})) << "in its place of the window";
+    press(column_of_jack);
+    EXPECT_FALSE(tip({moved.left + 3.0, moved.top + 3.0})) << "a card is held";
+    stage.cancel();
+    frmcards.copy();
+    EXPECT_EQ(game.desktop.copied(), "26");
+    frmcards.mnuNew.choose();
+    frmcards.set_enabled(false);
+    frmcards.copy();
+    EXPECT_EQ(game.desktop.copied(), "26") << "behind a dialog";
+    frmcards.set_enabled(true);
+    frmcards.copy();
+    EXPECT_EQ(game.desktop.copied(), "27");
 }
 
 TEST_F(ShownBoard, TellsWhenTheNextTimerTicks) {

@@ -1,4 +1,4 @@
-#include "desktop/board/outline_pictures.h"
+#include "desktop/shared/outline_pictures.h"
 
 #include <QPainter>
 #include <QPainterPath>
