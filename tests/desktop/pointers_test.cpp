@@ -23,7 +23,9 @@ constexpr int column_of_queen = 9;
 
 class Pointers : public testing::Test {
   protected:
-    static QPoint on(const Image& image) { return (to_qt(image.place()).topLeft() + QPointF(30, 40)).toPoint(); }
+    static QPoint on(const Image& image) {
+        return (to_qt(image.place()).topLeft() + QPointF(30, 40)).toPoint();
+    }
     auto touch() { return QTest::touchEvent(&board_, screen_); }
     template <class Event, class... Parts>
     void send(Parts... parts) {
@@ -94,8 +96,12 @@ TEST_F(Pointers, PensTapAndDrag) {
 
 TEST_F(Pointers, AreSeenAsHandsOverWhatTheyCanPlay) {
     const auto move_mouse = [this](QPoint place) {
-        send<QMouseEvent>(
-            QEvent::MouseMove, QPointF(place), QPointF(global(place)), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        send<QMouseEvent>(QEvent::MouseMove,
+                          QPointF(place),
+                          QPointF(global(place)),
+                          Qt::NoButton,
+                          Qt::NoButton,
+                          Qt::NoModifier);
         return shape();
     };
     EXPECT_EQ(move_mouse(on(top_image(column_of_jack))), Qt::OpenHandCursor);

@@ -97,7 +97,8 @@ TEST_F(FingersOnABoard, OneFingerPlays) {
     stage.move(20, 20, false);
     stage.press(20, 20, MouseButton::left);
     stage.release(20, 20, MouseButton::left, false);
-    EXPECT_EQ(std::pair(frmcards.mouse().drag_dx(), frmcards.mouse().drag_dy()), drag) << "nor does the mouse";
+    EXPECT_EQ(std::pair(frmcards.mouse().drag_dx(), frmcards.mouse().drag_dy()), drag)
+        << "nor does the mouse";
     fingers.up(1, on(queen), false);
     EXPECT_EQ(column_top(column_of_queen), column_of_queen + 1);
     // A palm that rests on the table.
