@@ -190,8 +190,10 @@ void BoardWidget::mouseReleaseEvent(QMouseEvent* event) {
 // What is taken here, the toolkit makes no mouse events of. Of several fingers only one counts, and the
 // window may be gone after what it does.
 bool BoardWidget::touch_event(QTouchEvent& event) {
-    if (event.device()->type() != QInputDevice::DeviceType::TouchScreen) return false;
-    event.accept();
+    const bool begins = event.type() == QEvent::TouchBegin;
+    event.setAccepted(event.device()->type() == QInputDevice::DeviceType::TouchScreen &&
+                      !(begins && is_for_scroll_bar(event.points().first().position())));
+    if (!event.isAccepted()) return false;
     if (event.type() == QEvent::TouchCancel) {
         fingers_.cancel();
         return true;
@@ -210,6 +212,10 @@ bool BoardWidget::touch_event(QTouchEvent& event) {
 
 void BoardWidget::tabletEvent(QTabletEvent* event) {
     const QPointF place = event->position();
+    const bool is_down = event->buttons() != Qt::NoButton || event->type() == QEvent::TabletRelease;
+    if (event->type() == QEvent::TabletPress || !is_down) scrolls_by_pen_ = is_for_scroll_bar(place);
+    event->setAccepted(!scrolls_by_pen_);
+    if (scrolls_by_pen_) return;
     if (event->type() == QEvent::TabletPress) {
         stage_.press(place.x(), place.y(), button_of(*event), Pointer::pen);
     } else if (event->type() == QEvent::TabletMove) {
@@ -219,6 +225,9 @@ void BoardWidget::tabletEvent(QTabletEvent* event) {
         stage_.release(place.x(), place.y(), button_of(*event), elsewhere, Pointer::pen);
     }
 }
+
+// The bar knows the mouse alone, which the toolkit makes of what nobody takes.
+bool BoardWidget::is_for_scroll_bar(QPointF place) const { return childAt(place.toPoint()) != nullptr; }
 
 void BoardWidget::wheelEvent(QWheelEvent* event) {
     stage_.scroll_by(-event->angleDelta().y() * BoardScroll::step / QWheelEvent::DefaultDeltasPerStep);

@@ -67,12 +67,14 @@ class BoardWidget : public QWidget, private BoardFront {
 
     bool touch_event(QTouchEvent& event);
     bool is_over_other_window(QPointF global) const;
+    bool is_for_scroll_bar(QPointF place) const;
 
     Form& form_;
     BoardPainter painter_;
     SlimScrollBar scroll_bar_{this};
     BoardStage stage_;
     BoardFingers fingers_{stage_};
+    bool scrolls_by_pen_ = false;
     QBasicTimer steps_;     ///< runs until the stage's next step
     QBasicTimer settling_;  ///< runs while the size changes, and a moment after
 };

@@ -4,6 +4,7 @@
 
 #include <QCursor>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <QTabletEvent>
 #include <QTest>
 
@@ -31,6 +32,24 @@ class Pointers : public testing::Test {
     void send(Parts... parts) {
         Event event(parts...);
         QCoreApplication::sendEvent(&board_, &event);
+    }
+    bool pen(QEvent::Type type, QPoint place, bool down) {
+        const Qt::MouseButton button = type == QEvent::TabletMove ? Qt::NoButton : Qt::LeftButton;
+        QTabletEvent event(type,
+                           QPointingDevice::primaryPointingDevice(),
+                           place,
+                           global(place),
+                           1,
+                           0,
+                           0,
+                           0,
+                           0,
+                           0,
+                           Qt::NoModifier,
+                           button,
+                           down ? Qt::LeftButton : Qt::NoButton);
+        QCoreApplication::sendEvent(&board_, &event);
+        return event.isAccepted();
     }
     QPoint global(QPoint place) { return board_.mapToGlobal(place); }
     Qt::CursorShape shape() { return board_.cursor().shape(); }
@@ -64,22 +83,6 @@ TEST_F(Pointers, FingersTapAndDrag) {
 }
 
 TEST_F(Pointers, PensTapAndDrag) {
-    const auto pen = [this](QEvent::Type type, QPoint place, bool down) {
-        const Qt::MouseButton button = type == QEvent::TabletMove ? Qt::NoButton : Qt::LeftButton;
-        send<QTabletEvent>(type,
-                           QPointingDevice::primaryPointingDevice(),
-                           QPointF(place),
-                           QPointF(global(place)),
-                           1.0,
-                           0.0F,
-                           0.0F,
-                           0.0F,
-                           0.0,
-                           0.0F,
-                           Qt::NoModifier,
-                           button,
-                           down ? Qt::LeftButton : Qt::NoButton);
-    };
     const QPoint ace = on(top_image(column_of_ace));
     pen(QEvent::TabletMove, ace, false);
     EXPECT_EQ(shape(), Qt::OpenHandCursor);
@@ -92,6 +95,21 @@ TEST_F(Pointers, PensTapAndDrag) {
     pen(QEvent::TabletMove, on(top_image(column_of_queen)), true);
     pen(QEvent::TabletRelease, on(top_image(column_of_queen)), false);
     EXPECT_EQ(column_top(column_of_queen), column_of_queen + 1);
+}
+
+TEST_F(Pointers, CanScroll) {
+    board_.window()->resize(900, 340);
+    auto* bar = board_.findChild<QScrollBar*>();
+    ASSERT_TRUE(comes_true([&] { return bar->maximum() > 0; }));
+    const QPoint lower_end = bar->geometry().center() + QPoint(0, bar->height() / 2 - 6);
+    touch().press(0, lower_end);
+    touch().release(0, lower_end);
+    EXPECT_TRUE(comes_true([&] { return bar->value() > 0; }))
+        << "with the mouse that the toolkit makes of it";
+    EXPECT_FALSE(pen(QEvent::TabletPress, lower_end, true));
+    EXPECT_FALSE(pen(QEvent::TabletMove, lower_end - QPoint(50, 0), true));
+    EXPECT_FALSE(pen(QEvent::TabletRelease, lower_end - QPoint(50, 0), false));
+    EXPECT_TRUE(pen(QEvent::TabletMove, lower_end - QPoint(50, 0), false));
 }
 
 TEST_F(Pointers, AreSeenAsHandsOverWhatTheyCanPlay) {
