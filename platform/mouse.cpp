@@ -9,8 +9,18 @@
 namespace tarnwick {
 namespace {
 
-// How far, in pixels, the second press of a two-click event may lie from the first.
-constexpr float double_click_distance = 4;
+// How well a pointer aims, in pixels: how far it may move within a press and still only click, and how far
+// the second press of a two-click event may lie from the first.
+struct Aim {
+    float tap;
+    float second_click;
+};
+
+Aim aim_of(Pointer pointer) {
+    if (pointer == Pointer::finger) return {10, 24};
+    if (pointer == Pointer::pen) return {4, 8};
+    return {0, 4};
+}
 
 }  // namespace
 
@@ -27,6 +37,7 @@ Image* Mouse::image_at(float x, float y) const {
 void Mouse::press(float x, float y, MouseButton button, Pointer by) {
     if (button != MouseButton::left || !window_.accepts_input() || dragged_ || pressed_) return;
     pointer_ = by;
+    moved_ = false;
     press_x_ = x_ = x;
     press_y_ = y_ = y;
     Image* image = image_at(x, y);
@@ -52,8 +63,13 @@ void Mouse::press(float x, float y, MouseButton button, Pointer by) {
 
 bool Mouse::is_second_click(const Image& image, float x, float y) const {
     return last_clicked_ == &image && desktop().now() - last_press_time_ <= desktop().double_click_time() &&
-           std::abs(x - last_press_x_) <= double_click_distance &&
-           std::abs(y - last_press_y_) <= double_click_distance;
+           std::abs(x - last_press_x_) <= aim_of(pointer_).second_click &&
+           std::abs(y - last_press_y_) <= aim_of(pointer_).second_click;
+}
+
+bool Mouse::is_tap(float x, float y) const {
+    const float reach = aim_of(pointer_).tap;
+    return !moved_ && std::abs(x - press_x_) <= reach && std::abs(y - press_y_) <= reach;
 }
 
 void Mouse::start_drag(Image& image) {
@@ -72,7 +88,8 @@ void Mouse::start_drag(Image& image) {
 }
 
 void Mouse::move(float x, float y) {
-    if (!dragged_ || (x == x_ && y == y_)) return;
+    if (!dragged_ || (x == x_ && y == y_) || is_tap(x, y)) return;
+    moved_ = true;
     x_ = x;
     y_ = y;
     look_for_receiver();
@@ -108,6 +125,7 @@ void Mouse::follow_layout() {
     const float press_y = dragged_->top() + hold_y_ * dragged_->height();
     const bool other_receiver = look_for_receiver();
     if (press_x == press_x_ && press_y == press_y_ && !other_receiver) return;
+    moved_ = moved_ || press_x != press_x_ || press_y != press_y_;
     press_x_ = press_x;
     press_y_ = press_y;
     drag_changed();
@@ -119,6 +137,12 @@ void Mouse::release(float x, float y, MouseButton button) {
         cancel();
         return;
     }
+    if (is_tap(x, y)) {
+        x = press_x_;
+        y = press_y_;
+    } else {
+        moved_ = true;
+    }
     if (dragged_) {
         drop(x, y);
     } else if (pressed_) {
@@ -129,7 +153,8 @@ void Mouse::release(float x, float y, MouseButton button) {
 }
 
 float Mouse::offset_in(const Image& target, float x) const {
-    if (pointer_ == Pointer::keys && plain_offset_) return *plain_offset_;
+    const bool is_plain = pointer_ == Pointer::keys || (pointer_ != Pointer::mouse && !moved_);
+    if (is_plain && plain_offset_) return *plain_offset_;
     return (x - target.left()) * twips_per_pixel;
 }
 

@@ -16,11 +16,11 @@ class Widget;
 enum class MouseButton { left, other };
 
 /// What plays on a board.
-enum class Pointer { mouse, keys };
+enum class Pointer { mouse, pen, finger, keys };
 
-/// What the left mouse button does to the images of one window: clicks and two-click events on images that
-/// are dragged by hand, drags and drops of those on automatic drag. Places are pixels of the board: those of
-/// the window's client area, as long as it is not scrolled.
+/// What the left mouse button, a pen or a finger does to the images of one window: clicks and two-click
+/// events on images that are dragged by hand, drags and drops of those on automatic drag. Places are pixels
+/// of the board: those of the window's client area, as long as it is not scrolled.
 class Mouse {
   public:
     explicit Mouse(Window& window) : window_(window) {}
@@ -31,8 +31,8 @@ class Mouse {
     /// Only this part of the board is seen, in its pixels: what lies elsewhere is neither clicked nor dropped
     /// on. Without it, what lies in the window's client area.
     void set_seen_area(const std::optional<Rect>& area) { seen_area_ = area; }
-    /// Wherever the keys drop an image on another one, it counts as so many twips from its left edge. Without
-    /// it, the place itself counts.
+    /// A drop by keys, which do not aim within an image, or by a tap of a pen or finger, which aims badly,
+    /// counts as one so many twips from the left edge. Without it, the place itself counts.
     void set_plain_offset(float offset_x) { plain_offset_ = offset_x; }
     /// What lies on the board may have moved under a drag: the lifted images are held where they were taken
     /// hold of, and what would receive them is looked for anew.
@@ -80,6 +80,7 @@ class Mouse {
     bool is_second_click(const Image& image, float x, float y) const;
     void start_drag(Image& image);
     bool is_seen(float x, float y) const;
+    bool is_tap(float x, float y) const;
     bool look_for_receiver();
     float offset_in(const Image& target, float x) const;
     void drop(float x, float y);
@@ -95,6 +96,7 @@ class Mouse {
     const Widget* receiver_ = nullptr;
     bool glides_back_ = false;
     Pointer pointer_ = Pointer::mouse;
+    bool moved_ = false;  ///< farther than within a tap
     std::optional<float> plain_offset_;
     float press_x_ = 0;
     float press_y_ = 0;

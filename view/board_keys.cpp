@@ -1,6 +1,7 @@
 #include "view/board_keys.h"
 
 #include "platform/image.h"
+#include "platform/key_codes.h"
 #include "view/control_presses.h"
 #include "view/spoken_board.h"
 
@@ -30,10 +31,47 @@ std::string_view BoardKeys::hint() const {
     return form_.mouse().receiver() ? "takes the lifted card" : "does not take the lifted card";
 }
 
-void BoardKeys::go(int key_code) {
-    if (!cursor_.shown()) return cursor_.show();
-    cursor_.go(key_code, described_items(form_), hold());
-    if (hold() && is_home()) cursor_.set_position(lift_->from);
+bool BoardKeys::take(int key_code) const {
+    const bool is_arrow = key_code >= left_key && key_code <= down_key;
+    return is_arrow || (key_code == enter_key && cursor_.shown());
+}
+
+Area BoardKeys::go(int key_code) {
+    if (!cursor_.shown()) {
+        cursor_.show();
+    } else if (key_code != enter_key) {
+        cursor_.go(key_code, described_items(form_), hold());
+        if (hold() && is_home()) cursor_.set_position(lift_->from);
+    }
+    follow();
+    return cursor_.area();
+}
+
+void BoardKeys::update() {
+    if (!cursor_.shown()) return;
+    follow();
+    carry();
+    drag_changed();
+    ring_changed();
+}
+
+void BoardKeys::drag_changed() {
+    if (!hold()) return;
+    cursor_.surround(scene_.drag().place());
+    repaints_.move(area_, cursor_.area());
+}
+
+void BoardKeys::hide() {
+    if (!cursor_.shown()) return;
+    if (hold()) form_.mouse().cancel();
+    cursor_.hide();
+    ring_changed();
+}
+
+void BoardKeys::ring_changed() {
+    repaints_.move(area_, cursor_.area());
+    const std::pair now{cursor_.item(), hint()};
+    if (now != std::exchange(told_, now)) front_.cursor_moved();
 }
 
 void BoardKeys::follow() {

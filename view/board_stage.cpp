@@ -22,9 +22,9 @@ BoardStage::BoardStage(Form& form, const TextMeasure& texts, BoardFront& front)
     : form_(form),
       front_(front),
       scene_(form, texts),
-      keys_(form, scene_.cursor()),
       repaints_(front, scroll_),
-      pointer_(form),
+      keys_(form, scene_, repaints_, front),
+      look_(form),
       color_(form.back_color()),
       plate_(scene_.plate()),
       label_scale_(scene_.label_scale()) {}
@@ -64,10 +64,7 @@ void BoardStage::drag_changed() {
     repaint_home(scene_.drag().follow(desktop().now(), glides));
     repaint_lifted();
     repaints_.move(mark_area_, scene_.drag().mark_area());
-    if (keys_.hold()) {
-        scene_.cursor().surround(scene_.drag().place());
-        repaints_.move(cursor_area_, scene_.cursor().area());
-    }
+    keys_.drag_changed();
     if (keys_.hold() != std::exchange(keys_held_, keys_.hold())) settle_later();
     if (holds() != std::exchange(held_, holds())) update_pointer();
     update_steps();
@@ -109,7 +106,7 @@ void BoardStage::resized(PixelSize size) {
     form_.user_resized(size);
     motion_areas_.clear();
     scene_.motion().rest();
-    update_cursor();
+    keys_.update();
 }
 
 void BoardStage::settle_later() {
@@ -124,43 +121,55 @@ void BoardStage::settle() {
     scroll([this] { scroll_.set_lower_edge(scene_.lower_edge()); });
     front_.scroll_changed();
     begin_motion();
-    update_cursor();
+    keys_.update();
     update_pointer();
     update_steps();
 }
 
-void BoardStage::press(double x, double y, MouseButton button) {
+Point BoardStage::on_board(Point place) const { return {place.x, place.y + scroll_.offset()}; }
+
+// While a pointer has pressed, the others are nothing to the board. It takes over what the keys hold.
+bool BoardStage::another_plays(Pointer by) const {
+    return form_.mouse().is_down() && form_.mouse().pointer() != by && !keys_.hold();
+}
+
+void BoardStage::press(double x, double y, MouseButton button, Pointer by) {
+    if (another_plays(by)) return;
     if (form_.accepts_input()) {
         end_glide();
         end_motion();
-        hide_cursor();
+        keys_.hide();
     }
-    pointer_x_ = x;
-    pointer_y_ = y;
-    form_.mouse().press(static_cast<float>(x), static_cast<float>(y + scroll_.offset()), button);
+    pointer_ = {x, y};
+    const Point at = on_board(pointer_);
+    form_.mouse().press(static_cast<float>(at.x), static_cast<float>(at.y), button, by);
 }
 
-void BoardStage::move(double x, double y, bool left_button) {
+void BoardStage::move(double x, double y, bool left_button, Pointer by) {
+    if (another_plays(by)) return;
     // Somebody else took the mouse, and its button was let go there.
     if (!left_button && form_.mouse().is_down() && !keys_.hold()) return cancel();
-    if (std::hypot(x - rest_x_, y - rest_y_) > deliberate_move) hide_cursor();
-    pointer_x_ = x;
-    pointer_y_ = y;
-    if (pointer_holds()) return point_at(x, y);
-    if (pointer_.move(static_cast<float>(x), static_cast<float>(y + scroll_.offset())))
-        front_.pointer_shape_changed();
+    if (std::hypot(x - rest_.x, y - rest_.y) > deliberate_move) keys_.hide();
+    if (by != Pointer::finger) hover_ = {x, y};
+    point_at({x, y});
 }
 
-void BoardStage::point_at(double x, double y) {
-    pointer_x_ = x;
-    pointer_y_ = y;
-    form_.mouse().move(static_cast<float>(x), static_cast<float>(y + scroll_.offset()));
+void BoardStage::point_at(Point place) {
+    pointer_ = place;
+    const Point at = on_board(place);
+    if (pointer_holds()) return form_.mouse().move(static_cast<float>(at.x), static_cast<float>(at.y));
+    if (look_.move(on_board(hover_))) front_.pointer_shape_changed();
 }
 
-void BoardStage::release(double x, double y, MouseButton button, bool elsewhere) {
-    if (keys_.hold()) return;
+void BoardStage::release(double x, double y, MouseButton button, bool elsewhere, Pointer by) {
+    if (keys_.hold() || another_plays(by)) return;
     if (elsewhere && holds()) return cancel();
-    form_.mouse().release(static_cast<float>(x), static_cast<float>(y + scroll_.offset()), button);
+    const Point at = on_board({x, y});
+    form_.mouse().release(static_cast<float>(at.x), static_cast<float>(at.y), button);
+}
+
+void BoardStage::cancel(Pointer by) {
+    if (plays(by)) cancel();
 }
 
 bool BoardStage::key_down(int key_code, bool again) {
@@ -183,48 +192,19 @@ bool BoardStage::key_down(int key_code, bool again) {
 }
 
 bool BoardStage::cursor_key(int key_code, bool again) {
-    const bool is_arrow = key_code >= left_key && key_code <= down_key;
-    const bool is_enter = key_code == enter_key && scene_.cursor().shown();
-    if (!is_arrow && !is_enter) return false;
+    if (!keys_.take(key_code)) return false;
     if (form_.mouse().is_down() && !keys_.hold()) return true;
-    rest_x_ = pointer_x_;
-    rest_y_ = pointer_y_;
-    if (is_arrow) keys_.go(key_code);
-    keys_.follow();
-    const Area place = scene_.cursor().area();
+    rest_ = hover_;
+    const Area place = keys_.go(key_code);
     reveal(place.bottom() - 1);
     reveal(place.top);
-    update_cursor();
-    if (is_enter && !again) keys_.enter();
+    keys_.update();
+    if (key_code == enter_key && !again) keys_.enter();
     return true;
 }
 
-void BoardStage::update_cursor() {
-    if (!scene_.cursor().shown()) return;
-    keys_.follow();
-    keys_.carry();
-    if (keys_.hold()) scene_.cursor().surround(scene_.drag().place());
-    repaints_.move(cursor_area_, scene_.cursor().area());
-    tell_cursor();
-}
-
-void BoardStage::hide_cursor() {
-    if (!scene_.cursor().shown()) return;
-    if (keys_.hold()) cancel();
-    scene_.cursor().hide();
-    repaints_.move(cursor_area_, scene_.cursor().area());
-    tell_cursor();
-}
-
 void BoardStage::update_pointer() {
-    const auto x = static_cast<float>(pointer_x_);
-    const auto y = static_cast<float>(pointer_y_ + scroll_.offset());
-    if (pointer_.look_again(x, y)) front_.pointer_shape_changed();
-}
-
-void BoardStage::tell_cursor() {
-    const std::pair now{scene_.cursor().item(), keys_.hint()};
-    if (now != std::exchange(told_cursor_, now)) front_.cursor_moved();
+    if (look_.look_again(on_board(hover_))) front_.pointer_shape_changed();
 }
 
 void BoardStage::scroll_to(int value) {
@@ -251,7 +231,7 @@ void BoardStage::scroll(Action action) {
     show_part();
     repaints_.add_all();
     // Under a pointer that holds cards another part of the board lies now.
-    if (pointer_holds()) point_at(pointer_x_, pointer_y_);
+    if (pointer_holds()) point_at(pointer_);
     update_pointer();
 }
 
@@ -285,7 +265,7 @@ std::optional<BoardTip> BoardStage::tip_at(double x, double y) const {
 int BoardStage::edge_ahead() const {
     const Shift moved = scene_.drag().offset();
     if (!pointer_holds() || std::abs(moved.x) + std::abs(moved.y) < BoardScroll::edge_reach) return 0;
-    return scroll_.ahead(pointer_y_);
+    return scroll_.ahead(pointer_.y);
 }
 
 void BoardStage::end_glide() {
@@ -358,7 +338,7 @@ void BoardStage::step() {
     }
     if (next_edge_step_ && *next_edge_step_ <= now) {
         next_edge_step_.reset();
-        scroll([this] { scroll_.step_ahead(pointer_y_); });
+        scroll([this] { scroll_.step_ahead(pointer_.y); });
     }
     update_steps();
 }

@@ -46,14 +46,19 @@ class BoardStage {
     void resized(PixelSize size);
     /// The event is over after which BoardFront::settle_later() was to be answered.
     void settle();
-    void press(double x, double y, MouseButton button);
+    // Each pointer plays alone: what another one does meanwhile is nothing. Fingers see view/board_fingers.h.
+    void press(double x, double y, MouseButton button, Pointer by = Pointer::mouse);
     /// The pointer has moved; a drag whose button is no longer held has lost it, and ends without a drop.
-    void move(double x, double y, bool left_button);
+    void move(double x, double y, bool left_button, Pointer by = Pointer::mouse);
     /// @param elsewhere  whether the place lies over another window of the program, so that nothing drops
     /// there
-    void release(double x, double y, MouseButton button, bool elsewhere);
+    void release(double x, double y, MouseButton button, bool elsewhere, Pointer by = Pointer::mouse);
     /// The board has lost the mouse or the keyboard, or is no longer seen: nothing is dragged or pressed.
     void cancel() { form_.mouse().cancel(); }
+    /// The same for what this pointer holds.
+    void cancel(Pointer by);
+    /// Whether this pointer has pressed something, and not let go of it yet.
+    bool plays(Pointer by) const { return form_.mouse().is_down() && form_.mouse().pointer() == by; }
     /// A key, by its code (see platform/key_codes.h), 0 for one without: it may scroll, is the cursor's, lets
     /// go of a card, or changes between window and screen; all others go to the form. True when it was taken.
     /// @param again  whether the key is only held
@@ -77,7 +82,7 @@ class BoardStage {
     void step();
 
     // What is seen.
-    PointerShape pointer_shape() const { return pointer_.shape(); }
+    PointerShape pointer_shape() const { return look_.shape(); }
     /// All areas that were told so far are painted now: to be called before each picture. Until then, what is
     /// all to be painted is told no further areas.
     void begin_painting() {
@@ -97,17 +102,16 @@ class BoardStage {
     void repaint_lifted();
     void repaint_home(const std::vector<Image*>& images);
     bool cursor_key(int key_code, bool again);
-    void update_cursor();
-    void hide_cursor();
-    void tell_cursor();
     void update_pointer();
+    Point on_board(Point place) const;
+    bool another_plays(Pointer by) const;
     void update_labels();
     void update_plate();
     void repaint_motion();
     void begin_motion();
     void settle_later();
     void end_glide();
-    void point_at(double x, double y);
+    void point_at(Point place);
     template <class Action>
     void scroll(Action action);
     void show_part();
@@ -117,26 +121,23 @@ class BoardStage {
     Form& form_;
     BoardFront& front_;
     BoardScene scene_;
-    BoardKeys keys_;
     BoardScroll scroll_;
     Repaints repaints_;
-    PointerLook pointer_;
+    BoardKeys keys_;
+    PointerLook look_;
     PixelSize size_;
     Color color_;
     Area lifted_area_;
     Area mark_area_;
-    Area cursor_area_;
-    std::pair<const Widget*, std::string_view> told_cursor_{};  ///< its item and hint
     bool held_ = false;
     bool keys_held_ = false;
     std::vector<Area> motion_areas_;
     Area plate_;
     bool lays_plate_ = false;  ///< as it was last told
     double label_scale_;
-    double pointer_x_ = -1;  ///< where the pointer was last seen
-    double pointer_y_ = -1;
-    double rest_x_ = -1;  ///< where it was when a key was last pressed
-    double rest_y_ = -1;
+    Point pointer_;                               ///< where the one that plays was last seen
+    Point hover_{-1, -1};                         ///< the same of one that is seen where it only moves
+    Point rest_{-1, -1};                          ///< and where that was when a key was last pressed
     std::optional<std::int64_t> next_frame_;      ///< of the glide and of motion
     std::optional<std::int64_t> next_edge_step_;  ///< of a drag held where there is more beyond the edge
     bool settles_later_ = false;

@@ -8,12 +8,16 @@
 namespace tarnwick {
 
 // Most moves stay over the same thing, and are to cost nothing.
-bool PointerLook::move(float x, float y) {
-    const Image* image = form_.mouse().image_at(x, y);
+bool PointerLook::move(Point place) {
+    const Image* image = image_at(place);
     return image != over_ && look_over(image);
 }
 
-bool PointerLook::look_again(float x, float y) { return look_over(form_.mouse().image_at(x, y)); }
+bool PointerLook::look_again(Point place) { return look_over(image_at(place)); }
+
+const Image* PointerLook::image_at(Point place) const {
+    return form_.mouse().image_at(static_cast<float>(place.x), static_cast<float>(place.y));
+}
 
 bool PointerLook::look_over(const Image* image) {
     over_ = image;
@@ -23,7 +27,9 @@ bool PointerLook::look_over(const Image* image) {
 
 PointerShape PointerLook::shape_over(const Image* image) const {
     const Mouse& mouse = form_.mouse();
-    if (mouse.dragged() && mouse.pointer() != Pointer::keys) return PointerShape::closed_hand;
+    const bool holds =
+        mouse.dragged() && (mouse.pointer() == Pointer::mouse || mouse.pointer() == Pointer::pen);
+    if (holds) return PointerShape::closed_hand;
     if (!image || !form_.accepts_input()) return PointerShape::arrow;
     if (image->drag_mode() == DragMode::automatic) return PointerShape::open_hand;
     const std::vector<BoardItem> items = described_items(form_);

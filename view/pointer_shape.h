@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/form.h"
+#include "view/area.h"
 
 namespace tarnwick {
 
@@ -15,11 +16,12 @@ class PointerLook {
 
     PointerShape shape() const { return shape_; }
     /// The pointer has moved there; whether its shape is another one.
-    bool move(float x, float y);
+    bool move(Point place);
     /// What lies there, or is held, may be something else as well.
-    bool look_again(float x, float y);
+    bool look_again(Point place);
 
   private:
+    const Image* image_at(Point place) const;
     bool look_over(const Image* image);
     PointerShape shape_over(const Image* image) const;
 

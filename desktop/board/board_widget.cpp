@@ -22,8 +22,13 @@ namespace {
 // A size that has not changed for so many milliseconds has settled.
 constexpr int settling_time = 100;
 
-MouseButton button_of(const QMouseEvent& event) {
+MouseButton button_of(const QSinglePointEvent& event) {
     return event.button() == Qt::LeftButton ? MouseButton::left : MouseButton::other;
+}
+
+bool is_touch(QEvent::Type type) {
+    return type == QEvent::TouchBegin || type == QEvent::TouchUpdate || type == QEvent::TouchEnd ||
+           type == QEvent::TouchCancel;
 }
 
 Qt::CursorShape to_qt(PointerShape shape) {
@@ -47,6 +52,8 @@ BoardWidget::BoardWidget(Form& form) : form_(form), stage_(form, qt_texts(), *th
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
+    setTabletTracking(true);
+    setAttribute(Qt::WA_AcceptTouchEvents);
     setMinimumSize(320, 240);
     scroll_bar_.hide();
     scroll_bar_.setCursor(Qt::ArrowCursor);
@@ -140,7 +147,7 @@ void BoardWidget::resizeEvent(QResizeEvent*) {
     scroll_bar_.settle();
     stage_.resized({width(), height()});
     // The window may have been moved as well, from under a pointer that holds a card.
-    if (!stage_.pointer_holds()) return;
+    if (!stage_.plays(Pointer::mouse)) return;
     const QPointF pointer = mapFromGlobal(QPointF(QCursor::pos()));
     stage_.move(pointer.x(), pointer.y(), true);
 }
@@ -156,6 +163,7 @@ bool BoardWidget::event(QEvent* event) {
         return true;
     }
     if (event->type() == QEvent::UngrabMouse || event->type() == QEvent::Hide) stage_.cancel();
+    if (is_touch(event->type())) return touch_event(static_cast<QTouchEvent&>(*event));
     if (event->type() == QEvent::FontChange) stage_.font_changed();
     // The board looks the same with the keyboard and without: no need to paint it as a widget does by itself.
     if (event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate) {
@@ -174,8 +182,8 @@ void BoardWidget::mousePressEvent(QMouseEvent* event) {
     stage_.press(event->position().x(), event->position().y(), button_of(*event));
 }
 
-bool BoardWidget::is_over_other_window(const QMouseEvent& event) const {
-    const QWidget* there = QApplication::topLevelAt(event.globalPosition().toPoint());
+bool BoardWidget::is_over_other_window(QPointF global) const {
+    const QWidget* there = QApplication::topLevelAt(global.toPoint());
     return there && there != window();
 }
 
@@ -188,9 +196,53 @@ void BoardWidget::mouseMoveEvent(QMouseEvent* event) {
 
 void BoardWidget::mouseReleaseEvent(QMouseEvent* event) {
     const QPointF place = event->position();
-    stage_.release(
-        place.x(), place.y(), button_of(*event), stage_.pointer_holds() && is_over_other_window(*event));
+    stage_.release(place.x(),
+                   place.y(),
+                   button_of(*event),
+                   stage_.pointer_holds() && is_over_other_window(event->globalPosition()));
 }
+
+// What is taken here, the toolkit makes no mouse events of. Of several fingers only one counts, and the
+// window may be gone after what it does.
+bool BoardWidget::touch_event(QTouchEvent& event) {
+    const bool begins = event.type() == QEvent::TouchBegin;
+    event.setAccepted(event.device()->type() == QInputDevice::DeviceType::TouchScreen &&
+                      !(begins && is_for_scroll_bar(event.points().first().position())));
+    if (!event.isAccepted()) return false;
+    if (event.type() == QEvent::TouchCancel) {
+        fingers_.cancel();
+        return true;
+    }
+    for (const QEventPoint& point : event.points()) {
+        const Point place{point.position().x(), point.position().y()};
+        const QPointF global = point.globalPosition();
+        const bool pressed = point.state() == QEventPoint::Pressed;
+        const bool released = point.state() == QEventPoint::Released;
+        if (pressed && fingers_.down(point.id(), place)) break;
+        if (released && fingers_.up(point.id(), place, is_over_other_window(global))) break;
+        if (point.state() == QEventPoint::Updated) fingers_.move(point.id(), place);
+    }
+    return true;
+}
+
+void BoardWidget::tabletEvent(QTabletEvent* event) {
+    const QPointF place = event->position();
+    const bool is_down = event->buttons() != Qt::NoButton || event->type() == QEvent::TabletRelease;
+    if (event->type() == QEvent::TabletPress || !is_down) scrolls_by_pen_ = is_for_scroll_bar(place);
+    event->setAccepted(!scrolls_by_pen_);
+    if (scrolls_by_pen_) return;
+    if (event->type() == QEvent::TabletPress) {
+        stage_.press(place.x(), place.y(), button_of(*event), Pointer::pen);
+    } else if (event->type() == QEvent::TabletMove) {
+        stage_.move(place.x(), place.y(), event->buttons() & Qt::LeftButton, Pointer::pen);
+    } else {
+        const bool elsewhere = stage_.holds() && is_over_other_window(event->globalPosition());
+        stage_.release(place.x(), place.y(), button_of(*event), elsewhere, Pointer::pen);
+    }
+}
+
+// The bar knows the mouse alone, which the toolkit makes of what nobody takes.
+bool BoardWidget::is_for_scroll_bar(QPointF place) const { return childAt(place.toPoint()) != nullptr; }
 
 void BoardWidget::wheelEvent(QWheelEvent* event) {
     stage_.scroll_by(-event->angleDelta().y() * BoardScroll::step / QWheelEvent::DefaultDeltasPerStep);

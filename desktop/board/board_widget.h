@@ -6,6 +6,7 @@
 
 #include "desktop/board/board_painter.h"
 #include "desktop/board/slim_scroll_bar.h"
+#include "view/board_fingers.h"
 #include "view/board_stage.h"
 
 namespace tarnwick {
@@ -43,6 +44,7 @@ class BoardWidget : public QWidget, private BoardFront {
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void tabletEvent(QTabletEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
@@ -64,12 +66,16 @@ class BoardWidget : public QWidget, private BoardFront {
     void set_full_screen(bool on) override;
 
     void show_tip(const QHelpEvent& event);
-    bool is_over_other_window(const QMouseEvent& event) const;
+    bool touch_event(QTouchEvent& event);
+    bool is_over_other_window(QPointF global) const;
+    bool is_for_scroll_bar(QPointF place) const;
 
     Form& form_;
     BoardPainter painter_;
     SlimScrollBar scroll_bar_{this};
     BoardStage stage_;
+    BoardFingers fingers_{stage_};
+    bool scrolls_by_pen_ = false;
     QBasicTimer steps_;     ///< runs until the stage's next step
     QBasicTimer settling_;  ///< runs while the size changes, and a moment after
 };
