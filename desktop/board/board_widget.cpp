@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <QTimer>
+#include <QTouchEvent>
 #include <algorithm>
 
 #include "desktop/shared/key_codes.h"
