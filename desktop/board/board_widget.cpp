@@ -9,6 +9,7 @@
 #include <QStyle>
 #include <QTimer>
 #include <QToolTip>
+#include <QTouchEvent>
 #include <algorithm>
 
 #include "desktop/shared/key_codes.h"

@@ -9,6 +9,8 @@
 #include "view/board_fingers.h"
 #include "view/board_stage.h"
 
+class QTouchEvent;
+
 namespace tarnwick {
 
 /// Shows a window's board, and hands the mouse, the keys and the user's resizing on to its stage.
