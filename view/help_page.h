@@ -13,7 +13,8 @@ namespace tarnwick {
 /// is seen where the screen has room.
 /// @param screen     what windows may cover
 /// @param height_at  how high the text is in a window of this width
-PixelSize page_size(const TextMeasure& measure, PixelSize screen, const std::function<int(int width)>& height_at);
+PixelSize page_size(const TextMeasure& measure, PixelSize screen,
+                    const std::function<int(int width)>& height_at);
 
 /// A piece of the table with an empty place.
 struct PictureOfPlace {
