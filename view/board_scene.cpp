@@ -104,8 +104,9 @@ void BoardScene::add_outlines(double ratio) {
         const Area place = snapped(box, ratio);
         const auto covers = [&](const PaintedImage& image) { return image.place == place; };
         if (std::any_of(layers_.images.begin(), layers_.images.end(), covers)) return;
-        layers_.outlines.push_back(
-            empty_place(place, corner_radius(box.width, ratio), outline, form_.back_color(), ratio));
+        // Of the whole pixels: most steps of a window that is resized leave the place as it looked.
+        const double radius = corner_radius(place.width / ratio, ratio);
+        layers_.outlines.push_back(empty_place(place, radius, outline, form_.back_color(), ratio));
     });
 }
 

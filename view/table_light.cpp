@@ -1,6 +1,7 @@
 #include "view/table_light.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
 
@@ -19,7 +20,7 @@ constexpr int pattern = 8;
 
 // In which order the pixels of a square turn to the next shade, 0 to 63: an even mix of two shades looks like
 // one between, so that no edges of shades are seen.
-std::uint32_t turn_of(int x, int y) {
+constexpr std::uint32_t turn_of(int x, int y) {
     int turn = 0;
     for (int bit = 0; bit < 3; ++bit) {
         const int from_right = (x >> bit) & 1;
@@ -36,7 +37,7 @@ struct Parts {
           green(lit(green_of(color), light)),
           blue(lit(blue_of(color), light)) {}
     static std::uint32_t lit(int part, double light) {
-        return static_cast<std::uint32_t>(std::lround(std::min(255.0, part * (1 + light)) * 64));
+        return static_cast<std::uint32_t>(std::min(255.0, part * (1 + light)) * 64 + 0.5);
     }
     // That of a pixel: on the average of a square, exactly so bright.
     std::uint32_t shade(std::uint32_t turn) const {
@@ -60,13 +61,22 @@ void TableLight::draw(PixelSize window, Color table) {
     PaintedGround::Sheet& sheet = ground_.sheet;
     sheet.width = window.width + first_column(window.height / strip_height, window);
     sheet.height = strip_height;
-    sheet.pixels.resize(static_cast<std::size_t>(sheet.width) * strip_height);
+    const auto width = static_cast<std::size_t>(sheet.width);
+    sheet.pixels.resize(width * strip_height);
+    std::vector<Parts> columns;
+    columns.reserve(width);
     for (int x = 0; x < sheet.width; ++x) {
-        const double light = fall + fall_to_right * (1 - 2 * (x + 0.5) / window.width);
-        const Parts parts(table, light);
-        for (int y = 0; y < strip_height; ++y) {
-            sheet.pixels[static_cast<std::size_t>(y * sheet.width + x)] = parts.shade(turn_of(x, y));
-        }
+        columns.emplace_back(table, fall + fall_to_right * (1 - 2 * (x + 0.5) / window.width));
+    }
+    for (int y = 0; y < pattern; ++y) {
+        std::array<std::uint32_t, pattern> turns{};
+        for (int x = 0; x < pattern; ++x) turns[static_cast<std::size_t>(x)] = turn_of(x, y);
+        std::uint32_t* const row = &sheet.pixels[width * static_cast<std::size_t>(y)];
+        for (std::size_t x = 0; x < width; ++x) row[x] = columns[x].shade(turns[x % pattern]);
+    }
+    const auto pattern_end = sheet.pixels.begin() + static_cast<std::ptrdiff_t>(width * pattern);
+    for (auto row = pattern_end; row != sheet.pixels.end(); row += pattern_end - sheet.pixels.begin()) {
+        std::copy(sheet.pixels.begin(), pattern_end, row);
     }
 }
 

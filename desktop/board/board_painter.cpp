@@ -76,6 +76,16 @@ void BoardPainter::paint_image(QPainter& painter, const PaintedImage& image) {
     painter.drawRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
+void BoardPainter::begin_haste() {
+    pictures_.begin_haste();
+    outlines_.begin_haste();
+}
+
+bool BoardPainter::end_haste() {
+    const bool pictures_scaled = pictures_.end_haste();
+    return outlines_.end_haste() || pictures_scaled;
+}
+
 void BoardPainter::prepare(const std::vector<PaintedImage>& images) {
     for (const PaintedImage& image : images) {
         pictures_.pixmap(image.picture, QSize(image.place.width, image.place.height));

@@ -20,7 +20,10 @@ class BoardPainter {
     /// Draws the pictures that a painting of these images will want.
     void prepare(const std::vector<PaintedImage>& images);
 
-    PictureCache& pictures() { return pictures_; }
+    /// From now on sizes change often: what was drawn before is scaled.
+    void begin_haste();
+    /// The sizes have settled. True when something was painted scaled.
+    bool end_haste();
 
   private:
     void paint_image(QPainter& painter, const PaintedImage& image);

@@ -113,7 +113,7 @@ void BoardWidget::set_full_screen(bool on) {
 void BoardWidget::timerEvent(QTimerEvent* event) {
     if (event->timerId() == settling_.timerId()) {
         settling_.stop();
-        if (painter_.pictures().end_haste()) update();
+        if (painter_.end_haste()) update();
     } else if (event->timerId() == steps_.timerId()) {
         stage_.step();
         steps_changed();
@@ -143,7 +143,7 @@ void BoardWidget::showEvent(QShowEvent* event) {
 }
 
 void BoardWidget::resizeEvent(QResizeEvent*) {
-    painter_.pictures().begin_haste();
+    painter_.begin_haste();
     settling_.start(settling_time, this);
     scroll_bar_.settle();
     stage_.resized({width(), height()});
