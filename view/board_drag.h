@@ -26,7 +26,8 @@ class BoardDrag {
     Area mark_area() const;
 
     /// Adds what is seen of the drag to what is painted, as far as it lies in the area of that.
-    void add_to(BoardLayers& layers, double ratio) const;
+    /// @param strong  whether the mark is to be seen in high contrast
+    void add_to(BoardLayers& layers, double ratio, bool strong) const;
 
     /// Takes note of what the mouse does now; `glides` allows a way back. The result are the images whose own
     /// places look different from now on; none when the lifted ones were only moved.

@@ -20,6 +20,8 @@ class BoardFront {
     virtual void steps_changed() = 0;
     /// Whether the desktop has nothing against things that are seen to move.
     virtual bool allows_motion() const = 0;
+    /// Whether the desktop, or the player, wants all lines seen in high contrast.
+    virtual bool wants_high_contrast() const = 0;
     /// The keyboard's cursor is on another item, or its hint has changed, for those who have them read out.
     virtual void cursor_moved() = 0;
     /// pointer_shape() has changed.

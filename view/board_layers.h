@@ -72,8 +72,8 @@ struct PaintedImage {
     bool bordered = false;
 };
 
-/// What marks the receiver of a drag: a line and what it surrounds, in one colour. Device pixels; the
-/// opacities go from 0 to 255.
+/// What marks the receiver of a drag: a line and what it surrounds, in one colour. A rim, if there is one,
+/// runs along both sides of the line. Device pixels; the opacities go from 0 to 255.
 struct PaintedMark {
     Box middle;
     Color color = black;
@@ -81,6 +81,7 @@ struct PaintedMark {
     double radius = 0;
     int line_opacity = 255;
     int fill_opacity = 255;
+    std::optional<PaintedRim> rim = std::nullopt;
 };
 
 /// The outline of a rectangle with round corners.

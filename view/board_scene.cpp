@@ -21,13 +21,12 @@ void for_each_visible(const Form& form, WidgetKind kind, Action action) {
 }
 
 // Around glyphs that the colour of the table does not set off well enough to be read: a soft one, that does.
-std::optional<PaintedRim> text_rim(Color text, Color table, double font_scale) {
+std::optional<PaintedRim> text_rim(Color text, Color table, double font_scale, bool strong) {
     constexpr double well_readable = 4.5;
-    constexpr double very_well_readable = 7;
-    if (contrast(text, table) >= well_readable) return std::nullopt;
+    if (contrast(text, table) >= (strong ? high_contrast : well_readable)) return std::nullopt;
     const Color color = farthest_from(text);
-    return PaintedRim{
-        color, std::max(1.0, 0.6 * font_scale), opacity_for(very_well_readable, text, color, table)};
+    const int opacity = strong ? 255 : opacity_for(high_contrast, text, color, table);
+    return PaintedRim{color, std::max(1.0, 0.6 * font_scale), opacity};
 }
 
 }  // namespace
@@ -80,7 +79,7 @@ const BoardLayers& BoardScene::layers(const Area& area, double ratio) {
     add_outlines(ratio);
     // A card on its way hides no place: it is about to leave it.
     motion_.add_to(layers_, ratio);
-    drag_.add_to(layers_, ratio);
+    drag_.add_to(layers_, ratio, strong_);
     cursor_.add_to(layers_, form_.back_color(), ratio);
     add_labels(ratio);
     return layers_;
@@ -106,7 +105,7 @@ void BoardScene::add_outlines(double ratio) {
         if (std::any_of(layers_.images.begin(), layers_.images.end(), covers)) return;
         // Of the whole pixels: most steps of a window that is resized leave the place as it looked.
         const double radius = corner_radius(place.width / ratio, ratio);
-        layers_.outlines.push_back(empty_place(place, radius, outline, form_.back_color(), ratio));
+        layers_.outlines.push_back(empty_place(place, radius, outline, form_.back_color(), ratio, strong_));
     });
 }
 
@@ -177,7 +176,7 @@ void BoardScene::add_labels(double ratio) {
                                   label.text_color(),
                                   label.alignment(),
                                   scale,
-                                  text_rim(label.text_color(), form_.back_color(), scale)});
+                                  text_rim(label.text_color(), form_.back_color(), scale, strong_)});
     });
 }
 

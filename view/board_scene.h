@@ -26,6 +26,9 @@ class BoardScene {
     /// How far the board is scrolled down, in pixels: the labels keep their places in the window.
     void set_scrolled(int offset) { scrolled_ = offset; }
 
+    /// Whether lines and signs are to be seen in high contrast (see view/contrast.h).
+    void set_high_contrast(bool strong) { strong_ = strong; }
+
     /// What is to be painted of an area (pixels of the board), so many device pixels to a pixel. Valid until
     /// the next call.
     const BoardLayers& layers(const Area& area, double ratio);
@@ -67,6 +70,7 @@ class BoardScene {
     TableLight light_;
     Motion motion_;
     int scrolled_ = 0;
+    bool strong_ = false;
     std::vector<const Image*> images_;  ///< from the lowest one up
     BoardLayers layers_;
 };

@@ -27,7 +27,14 @@ BoardStage::BoardStage(Form& form, const TextMeasure& texts, BoardFront& front)
       look_(form),
       color_(form.back_color()),
       plate_(scene_.plate()),
-      label_scale_(scene_.label_scale()) {}
+      label_scale_(scene_.label_scale()) {
+    scene_.set_high_contrast(front.wants_high_contrast());
+}
+
+void BoardStage::contrast_changed() {
+    scene_.set_high_contrast(front_.wants_high_contrast());
+    repaints_.add_all();
+}
 
 void BoardStage::widget_changed(const Widget& widget, const Rect& before) {
     if (widget.kind() == WidgetKind::label || widget.kind() == WidgetKind::outline) update_labels();

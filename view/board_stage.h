@@ -41,6 +41,8 @@ class BoardStage {
     // What happens on the screen.
     /// The desktop's font is another one.
     void font_changed() { update_labels(); }
+    /// The front end may answer another way whether it wants high contrast.
+    void contrast_changed();
     /// The board's window has this size now, in pixels: to be told before the first picture, and after every
     /// change, whoever made it. The stage tells the form (Form::user_resized).
     void resized(PixelSize size);

@@ -53,4 +53,17 @@ int opacity_for(double wanted, Color from, Color color, Color ground) {
     return opacity;
 }
 
+// Pure black and white, or nearly: other desktops soften one of them.
+bool is_high_contrast(Color text, Color ground) {
+    constexpr double of_usual_desktops = 19;
+    return contrast(text, ground) > of_usual_desktops;
+}
+
+StrongLine strong_line(Color wished, Color ground) {
+    if (contrast(wished, ground) >= high_contrast) return {wished, std::nullopt};
+    const Color color = farthest_from(ground);
+    if (contrast(color, ground) >= high_contrast) return {color, std::nullopt};
+    return {color, farthest_from(color)};
+}
+
 }  // namespace tarnwick

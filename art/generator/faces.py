@@ -1,8 +1,8 @@
 """Aces and number cards: corner indices and the pips between them."""
 
 from .ranks import rank
-from .style import (BROWN, GOLD, INK, OAK, PAPER, SLATE, STEEL, SUIT_COLOUR,
-                    TEAL, WINE, card, circle, line, path, two_way)
+from .style import (BROWN, FACET_DARK, FACET_LIGHT, GOLD, INK, OAK, PAPER, SLATE,
+                    STEEL, SUIT_COLOUR, TEAL, card, circle, line, path, two_way)
 from .suits import pip, small_pip
 
 LEFT, MIDDLE, RIGHT = 20.5, 35.5, 50.5
@@ -67,9 +67,9 @@ def heart_scene():
 def diamond_scene():
     """Return the facets of the great diamond."""
     return (path("M35.5 31.5 29 48 35.5 64.5C32.5 59 28.5 52.5 23.5 48"
-                 " 28.5 43.5 32.5 37 35.5 31.5Z", "#f58a6a")
+                 " 28.5 43.5 32.5 37 35.5 31.5Z", FACET_LIGHT)
             + path("M35.5 31.5 42 48 35.5 64.5C38.5 59 42.5 52.5 47.5 48"
-                   " 42.5 43.5 38.5 37 35.5 31.5Z", WINE)
+                   " 42.5 43.5 38.5 37 35.5 31.5Z", FACET_DARK)
             + line("M23.5 48H47.5M35.5 31.5 29 48 35.5 64.5 42 48Z", GOLD, 1))
 
 

@@ -5,6 +5,11 @@ namespace tarnwick {
 namespace {
 
 void paint_mark(QPainter& painter, const PaintedMark& mark) {
+    if (mark.rim) {
+        painter.setPen(QPen(to_qt(mark.rim->color, mark.rim->opacity), mark.line + 2 * mark.rim->width));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(to_qt(mark.middle), mark.radius, mark.radius);
+    }
     painter.setPen(QPen(to_qt(mark.color, mark.line_opacity), mark.line));
     painter.setBrush(to_qt(mark.color, mark.fill_opacity));
     painter.drawRoundedRect(to_qt(mark.middle), mark.radius, mark.radius);

@@ -12,6 +12,7 @@
 #include <QTouchEvent>
 #include <algorithm>
 
+#include "desktop/shared/high_contrast.h"
 #include "desktop/shared/key_codes.h"
 #include "desktop/shared/qt_convert.h"
 #include "desktop/shared/qt_texts.h"
@@ -110,6 +111,8 @@ void BoardWidget::set_full_screen(bool on) {
                             : whole.windowState() & ~Qt::WindowFullScreen);
 }
 
+bool BoardWidget::wants_high_contrast() const { return has_high_contrast(palette()); }
+
 void BoardWidget::timerEvent(QTimerEvent* event) {
     if (event->timerId() == settling_.timerId()) {
         settling_.stop();
@@ -166,6 +169,7 @@ bool BoardWidget::event(QEvent* event) {
     if (event->type() == QEvent::UngrabMouse || event->type() == QEvent::Hide) stage_.cancel();
     if (is_touch(event->type())) return touch_event(static_cast<QTouchEvent&>(*event));
     if (event->type() == QEvent::FontChange) stage_.font_changed();
+    if (event->type() == QEvent::PaletteChange) stage_.contrast_changed();
     // The board looks the same with the keyboard and without: no need to paint it as a widget does by itself.
     if (event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate) {
         return scroll_bar_.isHidden() || QCoreApplication::sendEvent(&scroll_bar_, event);

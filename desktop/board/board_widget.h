@@ -66,6 +66,7 @@ class BoardWidget : public QWidget, private BoardFront {
     void pointer_shape_changed() override;
     bool full_screen() const override { return window()->isFullScreen(); }
     void set_full_screen(bool on) override;
+    bool wants_high_contrast() const override;
 
     void show_tip(const QHelpEvent& event);
     bool touch_event(QTouchEvent& event);

@@ -2,15 +2,14 @@
 
 #include <QApplication>
 #include <QFontInfo>
-#include <QFontMetricsF>
 #include <QGlyphRun>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPen>
 #include <QRawFont>
 #include <QTextLayout>
+#include <algorithm>
 #include <cmath>
-#include <limits>
 
 #include "desktop/shared/qt_convert.h"
 
@@ -31,30 +30,31 @@ struct Shape {
 // Drawn large and made smaller: the toolkit bends the outlines of small glyphs to the pixels, and gives them
 // out as they are bent for whatever size the font was last used at. Of glyphs as large as these it keeps
 // nothing, so that the shape is the same whenever it is asked for, and grows smoothly with the board.
-Shape shape_of(const QString& text, QFont font, qreal pixels) {
+Shape shape_of(const QString& text, const QFont& font, qreal pixels) {
     constexpr int large = 1000;
-    font.setPixelSize(large);
-    font.setHintingPreference(QFont::PreferNoHinting);
     QTextLayout layout(text, font);
     layout.beginLayout();
-    QTextLine line = layout.createLine();
-    line.setLineWidth(std::numeric_limits<int>::max());
+    layout.createLine();
     layout.endLayout();
-    QPainterPath path;
+    Shape shape;
     for (const QGlyphRun& run : layout.glyphRuns()) {
+        QRawFont raw = run.rawFont();
+        raw.setPixelSize(large);
         const QList<quint32> glyphs = run.glyphIndexes();
-        const QList<QPointF> places = run.positions();
+        const QList<QPointF> advances = raw.advancesForGlyphIndexes(glyphs, QRawFont::KernedAdvances);
         for (qsizetype i = 0; i < glyphs.size(); ++i) {
-            path.addPath(run.rawFont().pathForGlyph(glyphs[i]).translated(places[i].x(), 0));
+            shape.path.addPath(raw.pathForGlyph(glyphs[i]).translated(shape.width, 0));
+            shape.width += advances[i].x();
         }
+        shape.ascent = std::max(shape.ascent, raw.ascent());
+        shape.height = std::max(shape.height, raw.ascent() + raw.descent());
     }
-    path.setFillRule(Qt::WindingFill);
+    shape.path.setFillRule(Qt::WindingFill);
     const qreal scale = pixels / large;
-    const QFontMetricsF metrics(font);
-    return {QTransform::fromScale(scale, scale).map(path),
-            line.naturalTextWidth() * scale,
-            metrics.ascent() * scale,
-            metrics.height() * scale};
+    return {QTransform::fromScale(scale, scale).map(shape.path),
+            shape.width * scale,
+            shape.ascent * scale,
+            shape.height * scale};
 }
 
 // How far right of the left edge of its place a text begins.

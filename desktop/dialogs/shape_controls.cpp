@@ -5,9 +5,11 @@
 
 #include "desktop/dialogs/dialog_accessible.h"
 #include "desktop/dialogs/dialog_control.h"
+#include "desktop/shared/high_contrast.h"
 #include "desktop/shared/picture_cache.h"
 #include "desktop/shared/qt_convert.h"
 #include "view/chosen_ring.h"
+#include "view/contrast.h"
 #include "view/control_presses.h"
 #include "windows/pictures.h"
 
@@ -36,8 +38,9 @@ class FrameBox : public QGroupBox {
         painter.setClipRegion(QRegion(rect()) - text.adjusted(-gap, 0, gap, 0));
         painter.setRenderHint(QPainter::Antialiasing);
         QColor border = palette().color(QPalette::WindowText);
-        border.setAlpha(border_alpha);
-        painter.setPen(border);
+        const bool strong = has_high_contrast(palette());
+        if (!strong) border.setAlpha(border_alpha);
+        painter.setPen(QPen(border, strong ? high_contrast_line : 1));
         const int middle = text.height() / 2;
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, middle + 0.5, -0.5, -0.5), radius, radius);
     }
@@ -166,7 +169,8 @@ class OutlineBox : public QWidget {
         const bool plain = outline_.border_color() == black;
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(plain ? palette().color(QPalette::WindowText) : to_qt(outline_.border_color()));
+        painter.setPen(QPen(plain ? palette().color(QPalette::WindowText) : to_qt(outline_.border_color()),
+                            has_high_contrast(palette()) ? high_contrast_line : 1));
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
     }
 

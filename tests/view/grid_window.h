@@ -126,6 +126,7 @@ class GridView : public FormView, public BoardFront {
     void pointer_shape_changed() override { shape = stage_->pointer_shape(); }
     bool full_screen() const override { return fills_screen; }
     void set_full_screen(bool on) override { fills_screen = on; }
+    bool wants_high_contrast() const override { return high_contrast_wanted; }
 
     void resize(PixelSize size) {
         if (!stage_) stage_.emplace(form_, texts, *this);
@@ -159,6 +160,7 @@ class GridView : public FormView, public BoardFront {
     bool fills_screen = false;
     int cursor_moves = 0;
     PointerShape shape = PointerShape::arrow;
+    bool high_contrast_wanted = false;
 
   private:
     Form& form_;
