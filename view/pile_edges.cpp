@@ -15,7 +15,7 @@ int pile_edges(const Image& image) {
 
 // At a card's natural size, so many pixels; its border and some of the white inside are seen of each.
 Shift edge_shift(double width, int edge, double ratio) {
-    constexpr double right = 1;
+    constexpr double right = 1.75;
     constexpr double down = 2;
     const double step = edge * ratio * width / card_width;
     return {right * step, down * step};
