@@ -7,6 +7,8 @@
 #include "desktop/board/slim_scroll_bar.h"
 #include "view/board_stage.h"
 
+class QHelpEvent;
+
 namespace tarnwick {
 
 /// Shows a window's board, and hands the mouse, the keys and the user's resizing on to its stage.
