@@ -131,7 +131,8 @@ std::optional<Motion::Flight> Motion::flight_of_seen(const Image& image, const L
     flight.time = form_.on_step ? form_.on_step(image) : 0;
     // The last of several steps is told by nobody.
     const Flight* current = flight_of(image);
-    if (current && current->even && flight.time == 0 && now < current->begin + 2 * current->time) {
+    if (current && current->even && flight.time == 0 &&
+        now < current->begin + std::int64_t{2} * current->time) {
         flight.time = current->time;
     }
     flight.even = flight.time > 0;

@@ -37,7 +37,7 @@ struct Parts {
           green(lit(green_of(color), light)),
           blue(lit(blue_of(color), light)) {}
     static std::uint32_t lit(int part, double light) {
-        return static_cast<std::uint32_t>(std::min(255.0, part * (1 + light)) * 64 + 0.5);
+        return static_cast<std::uint32_t>(rounded(std::min(255.0, part * (1 + light)) * 64));
     }
     // That of a pixel: on the average of a square, exactly so bright.
     std::uint32_t shade(std::uint32_t turn) const {

@@ -49,7 +49,9 @@ Lines lines_of(const std::string& text, const TextFont& font, float width, const
     };
     std::istringstream words(text);
     for (std::string word; words >> word;) {
-        const std::string longer = line.empty() ? word : line + ' ' + word;
+        std::string longer = line;
+        if (!longer.empty()) longer += ' ';
+        longer += word;
         if (line.empty() || measure.width(longer, font) <= width) {
             line = longer;
             continue;

@@ -23,7 +23,7 @@ void paint_ring(QPainter& painter, const PaintedRing& ring) {
 
 QImage image_of(const PaintedGround::Sheet& sheet) {
     const auto* pixels = reinterpret_cast<const uchar*>(sheet.pixels.data());
-    return QImage(pixels, sheet.width, sheet.height, sheet.width * 4, QImage::Format_RGB32);
+    return QImage(pixels, sheet.width, sheet.height, qsizetype{4} * sheet.width, QImage::Format_RGB32);
 }
 
 void paint_ground(QPainter& painter, const PaintedGround& ground) {

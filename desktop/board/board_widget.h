@@ -9,6 +9,7 @@
 #include "view/board_fingers.h"
 #include "view/board_stage.h"
 
+class QHelpEvent;
 class QTouchEvent;
 
 namespace tarnwick {

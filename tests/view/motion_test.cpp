@@ -79,7 +79,7 @@ TEST_F(MotionTest, ACardTravelsFromUnderThePointerAndBackAgain) {
     undo();
     EXPECT_EQ(left(jack), arrival);
     pass(75);
-    EXPECT_NEAR(left(jack), (arrival + home) / 2, 30) << "half way";
+    EXPECT_NEAR(left(jack), (arrival + home) / 2.0, 30) << "half way";
     EXPECT_TRUE(in_front(jack));
     EXPECT_EQ(jack.left(), static_cast<float>(home)) << "only seen there";
     pass(85);
