@@ -95,7 +95,7 @@ const PaintedGround& BoardScene::ground(const Area& area, double ratio) {
         seen, {device(window.width), device(window.height)}, device(scrolled_), form_.back_color());
 }
 
-// Those under a card are left out: nothing is seen of them.
+// Those under a card are left out, for nothing is seen of them, and those that a deal is about to cover.
 void BoardScene::add_outlines(double ratio) {
     for_each_visible<Outline>(form_, WidgetKind::outline, [&](const Outline& outline) {
         const Box box = box_of(outline.place());
@@ -103,6 +103,7 @@ void BoardScene::add_outlines(double ratio) {
         const Area place = snapped(box, ratio);
         const auto covers = [&](const PaintedImage& image) { return image.place == place; };
         if (std::any_of(layers_.images.begin(), layers_.images.end(), covers)) return;
+        if (motion_.deals_to(place, ratio)) return;
         // Of the whole pixels: most steps of a window that is resized leave the place as it looked.
         const double radius = corner_radius(place.width / ratio, ratio);
         layers_.outlines.push_back(empty_place(place, radius, outline, form_.back_color(), ratio, strong_));

@@ -172,6 +172,7 @@ void Motion::set_out(std::vector<Flight>& flights, std::int64_t now) const {
         Flight& flight = flights[static_cast<std::size_t>(i)];
         flight.begin = now + deal_delay * i / count;
         flight.time = deal_time;
+        flight.dealt = true;
         flight.waits = flight.begin > now;
     }
 }
@@ -233,6 +234,12 @@ void Motion::land() {
         flight.begin = 0;
         flight.waits = false;
     }
+}
+
+bool Motion::deals_to(const Area& place, double ratio) const {
+    return std::any_of(flights_.begin(), flights_.end(), [&](const Flight& flight) {
+        return flight.dealt && snapped(flight.looks.box, ratio) == place;
+    });
 }
 
 std::vector<Area> Motion::areas() const {

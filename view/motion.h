@@ -41,6 +41,8 @@ class Motion {
     bool under_way() const { return !flights_.empty(); }
     /// Whether an image is seen on its way, and not where it lies.
     bool moves(const Image& image) const { return flight_of(image) != nullptr; }
+    /// Whether a card is being dealt to a place, in device pixels, so many to a pixel.
+    bool deals_to(const Area& place, double ratio) const;
     /// Where something is seen on its way: areas that do not overlap.
     std::vector<Area> areas() const;
     /// Adds what is on its way, in stacking order, above the images that rest.
@@ -64,6 +66,7 @@ class Motion {
         int time = 0;
         bool even = false;   ///< a step of several, all at one speed
         bool waits = false;  ///< has not set out yet, and is not seen
+        bool dealt = false;
     };
 
     static Looks looks_of(const Image& image);

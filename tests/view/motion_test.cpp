@@ -136,6 +136,7 @@ TEST_F(MotionTest, ADealComesFromTheStockAndARestartFromWhereTheCardsLay) {
     const auto lies_elsewhere = [&](const PaintedImage& image) { return !image.place.meets(stock); };
     const std::vector<PaintedImage>& images = game.layers().images;
     EXPECT_LE(std::count_if(images.begin(), images.end(), lies_elsewhere), 2) << "a bare table";
+    EXPECT_EQ(game.layers().outlines.size(), 4U) << "no sign where a card is about to lie";
     const Image& last = top_image(column_of_queen);
     EXPECT_FALSE(seen(last));
     pass(75);
