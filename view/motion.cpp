@@ -152,7 +152,7 @@ std::optional<Motion::Flight> Motion::flight_of_hidden(const Image& image) const
     return flight;
 }
 
-void Motion::set_out(std::vector<Flight>& flights, std::int64_t now) const {
+void Motion::set_out(std::vector<Flight>& flights, std::int64_t now) {
     double way = 0;
     for (Flight& flight : flights) {
         flight.offset = flight.from;
@@ -164,6 +164,7 @@ void Motion::set_out(std::vector<Flight>& flights, std::int64_t now) const {
         if (!flight.even) flight.time = time;
     }
     if (!dealt_from_) return;
+    back_ = dealt_from_->picture();
     std::sort(flights.begin(), flights.end(), [](const Flight& a, const Flight& b) {
         return std::pair(a.looks.box.top, a.looks.box.left) < std::pair(b.looks.box.top, b.looks.box.left);
     });
@@ -257,7 +258,8 @@ void Motion::add_to(BoardLayers& layers, double ratio) const {
         const Box box = flight.looks.box.shifted(flight.offset.x, flight.offset.y);
         if (std::find(lifted.begin(), lifted.end(), flight.image) != lifted.end()) continue;
         const Looks looks = is_seen(*flight.image) ? looks_of(*flight.image) : flight.looks;
-        const PaintedImage painted{looks.picture, snapped(box, ratio), looks.bordered};
+        const bool face_down = flight.dealt && !flight.offset.none();
+        const PaintedImage painted{face_down ? back_ : looks.picture, snapped(box, ratio), looks.bordered};
         if (flight.waits) {
             layers.coming.push_back(painted);
         } else if (layers.area.meets(touched(box))) {

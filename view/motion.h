@@ -66,7 +66,7 @@ class Motion {
         int time = 0;
         bool even = false;   ///< a step of several, all at one speed
         bool waits = false;  ///< has not set out yet, and is not seen
-        bool dealt = false;
+        bool dealt = false;  ///< face down until it arrives
     };
 
     static Looks looks_of(const Image& image);
@@ -80,7 +80,7 @@ class Motion {
     std::optional<Box> start_of(const Image& image) const;
     std::optional<Flight> flight_of_seen(const Image& image, const Looks& looks, std::int64_t now) const;
     std::optional<Flight> flight_of_hidden(const Image& image) const;
-    void set_out(std::vector<Flight>& flights, std::int64_t now) const;
+    void set_out(std::vector<Flight>& flights, std::int64_t now);
     void forget_event();
 
     const Form& form_;
@@ -89,6 +89,7 @@ class Motion {
     std::vector<std::pair<const Image*, const Image*>> passages_;
     const Image* dealt_from_ = nullptr;
     std::vector<Flight> flights_;  ///< from the lowest one up
+    Picture back_ = {};            ///< of the cards that are dealt
 };
 
 /// Adds an area; those that it overlaps become one with it.

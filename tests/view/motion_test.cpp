@@ -138,10 +138,11 @@ TEST_F(MotionTest, ADealComesFromTheStockAndARestartFromWhereTheCardsLay) {
     EXPECT_LE(std::count_if(images.begin(), images.end(), lies_elsewhere), 2) << "a bare table";
     EXPECT_EQ(game.layers().outlines.size(), 4U) << "no sign where a card is about to lie";
     const Image& last = top_image(column_of_queen);
-    EXPECT_FALSE(seen(last));
-    pass(75);
-    EXPECT_LT(left(last), last.left());
-    pass(85);
+    EXPECT_FALSE(seen(last) || seen(top_image(0)));
+    pass(100);
+    EXPECT_TRUE(seen(top_image(0)));
+    EXPECT_FALSE(seen(last)) << "face down until it arrives";
+    pass(60);
     EXPECT_FALSE(moves());
     EXPECT_EQ(left(last), static_cast<int>(last.left()));
 }
