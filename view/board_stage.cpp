@@ -299,6 +299,12 @@ void BoardStage::begin_motion() {
 }
 
 void BoardStage::end_motion() {
+    land_motion();
+    // What was to set out when the event before has settled stays where it lies, too.
+    if (settles_later_) scene_.motion().rest();
+}
+
+void BoardStage::land_motion() {
     if (!scene_.motion().under_way()) return;
     scene_.motion().land();
     repaint_motion();
@@ -340,7 +346,7 @@ void BoardStage::step() {
         if (scene_.motion().step(now)) {
             repaint_motion();
         } else {
-            end_motion();
+            land_motion();
         }
     }
     if (next_edge_step_ && *next_edge_step_ <= now) {

@@ -111,6 +111,7 @@ class BoardStage {
     void update_plate();
     void repaint_motion();
     void begin_motion();
+    void land_motion();
     void settle_later();
     void end_glide();
     void point_at(Point place);

@@ -93,6 +93,11 @@ const Image* Motion::passage_of(const Image& image) const {
     return nullptr;
 }
 
+bool Motion::is_lifted(const Image& image) const {
+    const std::vector<Image*>& lifted = form_.mouse().lifted();
+    return std::find(lifted.begin(), lifted.end(), &image) != lifted.end();
+}
+
 bool Motion::is_origin(const Image& image) const {
     return std::any_of(
         passages_.begin(), passages_.end(), [&](const auto& passage) { return passage.second == &image; });
@@ -185,6 +190,7 @@ void Motion::begin(std::int64_t now, bool wanted) {
     std::vector<Flight> begun;
     std::vector<Flight> hidden;
     for (const Image* image : wanted ? changed_ : std::vector<const Image*>()) {
+        if (is_lifted(*image)) continue;
         const Looks looks = looks_of(*image);
         if (const Flight* unmoved = unmoved_flight(*image, looks)) {
             kept.push_back(*unmoved);
@@ -253,10 +259,8 @@ std::vector<Area> Motion::areas() const {
 }
 
 void Motion::add_to(BoardLayers& layers, double ratio) const {
-    const std::vector<Image*>& lifted = form_.mouse().lifted();
     for (const Flight& flight : flights_) {
         const Box box = flight.looks.box.shifted(flight.offset.x, flight.offset.y);
-        if (std::find(lifted.begin(), lifted.end(), flight.image) != lifted.end()) continue;
         const Looks looks = is_seen(*flight.image) ? looks_of(*flight.image) : flight.looks;
         const bool face_down = flight.dealt && !flight.offset.none();
         const PaintedImage painted{face_down ? back_ : looks.picture, snapped(box, ratio), looks.bordered};

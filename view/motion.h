@@ -74,6 +74,7 @@ class Motion {
     /// The flight that goes on as it was: the event has not moved its image.
     const Flight* unmoved_flight(const Image& image, const Looks& looks) const;
     const Image* passage_of(const Image& image) const;
+    bool is_lifted(const Image& image) const;
     bool is_origin(const Image& image) const;
     std::optional<Box> seen_at(const Image& image) const;
     Box origin_at(const Image& image) const;

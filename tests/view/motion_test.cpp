@@ -192,6 +192,28 @@ TEST_F(MotionTest, EndsWithAnyPressKeyOrNewSize) {
     EXPECT_FALSE(moves()) << "behind a dialog";
 }
 
+TEST_F(MotionTest, APressInTheSameMomentComesBeforeAnythingSetsOut) {
+    const Image& queen = top_image(column_of_queen);
+    frmcards.mnuRestart.choose();
+    frmcards.mnuNew.choose();
+    stage.press(queen.left() + 30, queen.top() + 40, MouseButton::left);
+    EXPECT_TRUE(game.view().shows_all());
+    EXPECT_FALSE(moves());
+}
+
+TEST_F(MotionTest, ACardIsHeldWhereverItWasSlidingTo) {
+    const Image& card = top_image(column_of_ace);
+    stage.press(card.left() + 30, card.place().bottom() - 8, MouseButton::left);
+    stage.release(card.left() + 30, card.place().bottom() - 8, MouseButton::left, false);
+    pass(45);
+    ASSERT_TRUE(moves());
+    stage.press(card.left() + 30, card.top() + 40, MouseButton::left);
+    pass(40);
+    EXPECT_FALSE(moves()) << "the hand moves it";
+    stage.cancel();
+    EXPECT_TRUE(game.view().shows_all());
+}
+
 TEST_F(MotionTest, NothingMovesWhereThatIsNotWanted) {
     const auto check = [this] {
         drop(column_of_jack, column_of_queen);
