@@ -4,6 +4,8 @@
 
 namespace tarnwick {
 
+class Form;
+
 /// What a stage asks of the front end that shows a board. Areas are pixels of the board's window.
 class BoardFront {
   public:
@@ -22,6 +24,9 @@ class BoardFront {
     virtual bool allows_motion() const = 0;
     /// Whether the desktop, or the player, wants all lines seen in high contrast.
     virtual bool wants_high_contrast() const = 0;
+    /// The window that the program shows next is not to be seen, nor to get the keyboard, until it is to.
+    virtual void hold_back(Form& next) = 0;
+    virtual void show_held_back() = 0;
     /// The keyboard's cursor is on another item, or its hint has changed, for those who have them read out.
     virtual void cursor_moved() = 0;
     /// pointer_shape() has changed.

@@ -65,11 +65,13 @@ struct PaintedOutline {
     Look look;
 };
 
-/// A picture, in whole device pixels. A border is a black line of one device pixel, inside of the place.
+/// A picture, in whole device pixels. A border is a black line of one device pixel, inside of the place. The
+/// opacity goes from 0 to 255.
 struct PaintedImage {
     Picture picture;
     Area place;
     bool bordered = false;
+    int opacity = 255;
 };
 
 /// What marks the receiver of a drag: a line and what it surrounds, in one colour. A rim, if there is one,
@@ -133,6 +135,7 @@ struct BoardLayers {
     std::vector<PaintedRing> rings;  ///< of the keyboard's cursor
     std::optional<PaintedPlate> plate;
     std::vector<PaintedLabel> labels;
+    std::vector<PaintedImage> celebration;
     /// Not seen yet, but soon: so that their pictures can be drawn now, and not while all moves.
     std::vector<PaintedImage> coming;
 };

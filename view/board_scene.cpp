@@ -74,6 +74,7 @@ const BoardLayers& BoardScene::layers(const Area& area, double ratio) {
     layers_.rings.clear();
     layers_.plate.reset();
     layers_.labels.clear();
+    layers_.celebration.clear();
     layers_.coming.clear();
     add_images(ratio);
     add_outlines(ratio);
@@ -82,6 +83,7 @@ const BoardLayers& BoardScene::layers(const Area& area, double ratio) {
     drag_.add_to(layers_, ratio, strong_);
     cursor_.add_to(layers_, form_.back_color(), ratio);
     add_labels(ratio);
+    celebration_.add_to(layers_, scrolled_, ratio);
     return layers_;
 }
 

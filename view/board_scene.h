@@ -7,6 +7,7 @@
 #include "view/board_cursor.h"
 #include "view/board_drag.h"
 #include "view/board_layers.h"
+#include "view/celebration.h"
 #include "view/label_row.h"
 #include "view/motion.h"
 #include "view/table_light.h"
@@ -51,6 +52,8 @@ class BoardScene {
     const BoardDrag& drag() const { return drag_; }
     BoardCursor& cursor() { return cursor_; }
     const BoardCursor& cursor() const { return cursor_; }
+    Celebration& celebration() { return celebration_; }
+    const Celebration& celebration() const { return celebration_; }
     Motion& motion() { return motion_; }
     const Motion& motion() const { return motion_; }
 
@@ -69,6 +72,7 @@ class BoardScene {
     BoardCursor cursor_;
     TableLight light_;
     Motion motion_;
+    Celebration celebration_;
     int scrolled_ = 0;
     bool strong_ = false;
     std::vector<const Image*> images_;  ///< from the lowest one up

@@ -6,6 +6,8 @@
 
 #include "platform/desktop.h"
 #include "platform/key_codes.h"
+#include "view/dialog_keys.h"
+#include "view/picture_place.h"
 #include "view/spoken_board.h"
 
 namespace tarnwick {
@@ -59,6 +61,33 @@ void BoardStage::update_labels() {
     repaints_.add_all();
 }
 
+void BoardStage::won(Form& next, const std::vector<std::vector<const Image*>>& piles) {
+    const bool is_seen = size_.width > 0 && form_.state() != WindowState::minimized;
+    if (!is_seen || !front_.allows_motion() || !form_.on_motion || !form_.on_motion()) return;
+    std::vector<Celebration::Pile> shown;
+    for (const std::vector<const Image*>& pile : piles) {
+        shown.push_back({picture_place(*pile.front()).shifted(0, -scroll_.offset()), {}});
+        for (const Image* card : pile) shown.back().cards.push_back(card->picture());
+    }
+    scene_.celebration().begin(std::move(shown), size_, desktop().now());
+    repaint_celebration();
+    held_back_ = &next;
+    front_.hold_back(next);
+    update_steps();
+}
+
+void BoardStage::end_celebration() {
+    if (!scene_.celebration().under_way()) return;
+    scene_.celebration().end();
+    repaint_celebration();
+    update_steps();
+    front_.show_held_back();
+}
+
+void BoardStage::type(const std::string& text) {
+    if (held_back_ && !form_.enabled()) type_into(*held_back_, text);
+}
+
 void BoardStage::form_changed() {
     update_pointer();
     if (color_ == form_.back_color()) return;
@@ -104,6 +133,7 @@ void BoardStage::update_plate() {
 }
 
 void BoardStage::resized(PixelSize size) {
+    end_celebration();
     size_ = size;
     scroll_.set_page(size.height);
     end_glide();
@@ -142,6 +172,7 @@ bool BoardStage::another_plays(Pointer by) const {
 
 void BoardStage::press(double x, double y, MouseButton button, Pointer by) {
     if (another_plays(by)) return;
+    end_celebration();
     if (form_.accepts_input()) {
         end_glide();
         end_motion();
@@ -180,6 +211,7 @@ void BoardStage::cancel(Pointer by) {
 }
 
 bool BoardStage::key_down(int key_code, bool again) {
+    end_celebration();
     if (key_code == escape_key && holds()) {
         cancel();
         return true;
@@ -290,6 +322,13 @@ void BoardStage::repaint_motion() {
     update_plate();
 }
 
+void BoardStage::repaint_celebration() {
+    std::vector<Area> areas = scene_.celebration().areas(scroll_.offset());
+    celebration_areas_.resize(areas.size());
+    for (std::size_t i = 0; i < areas.size(); ++i) repaints_.add(united(celebration_areas_[i], areas[i]));
+    celebration_areas_ = std::move(areas);
+}
+
 void BoardStage::begin_motion() {
     // Nothing was seen elsewhere before the first picture.
     if (!painted_) return scene_.motion().rest();
@@ -316,7 +355,8 @@ void BoardStage::land_motion() {
 void BoardStage::update_steps() {
     const std::optional<std::int64_t> before = next_step();
     const std::int64_t now = desktop().now();
-    if (scene_.drag().glide().images().empty() && !scene_.motion().under_way()) {
+    if (scene_.drag().glide().images().empty() && !scene_.motion().under_way() &&
+        !scene_.celebration().under_way()) {
         next_frame_.reset();
     } else if (!next_frame_) {
         next_frame_ = now + frame_time;
@@ -347,6 +387,11 @@ void BoardStage::step() {
             repaint_motion();
         } else {
             land_motion();
+        }
+        if (scene_.celebration().step(now)) {
+            repaint_celebration();
+        } else {
+            end_celebration();
         }
     }
     if (next_edge_step_ && *next_edge_step_ <= now) {

@@ -35,6 +35,7 @@ class BoardStage {
     void drag_changed();
     void image_passes(const Image& image, const Image& other) { scene_.motion().image_passes(image, other); }
     void dealt(const Image& from) { scene_.motion().dealt(from); }
+    void won(Form& next, const std::vector<std::vector<const Image*>>& piles);
     /// The window's colour may be another one.
     void form_changed();
 
@@ -65,6 +66,12 @@ class BoardStage {
     /// go of a card, or changes between window and screen; all others go to the form. True when it was taken.
     /// @param again  whether the key is only held
     bool key_down(int key_code, bool again = false);
+    /// What a key writes, after key_down() and without any command: where a window was held back, it is for
+    /// the text box of that, so that a player who writes on loses nothing.
+    void type(const std::string& text);
+    /// The window that was held back is seen now: for what the stage is not told, as that another window has
+    /// got the keyboard.
+    void end_celebration();
     /// Whatever moves is where it lies at once: for what the player does and the stage is not told.
     void end_motion();
     /// Scrolls to a value of scroll(), which a scroll bar was moved to.
@@ -110,6 +117,7 @@ class BoardStage {
     void update_labels();
     void update_plate();
     void repaint_motion();
+    void repaint_celebration();
     void begin_motion();
     void land_motion();
     void settle_later();
@@ -135,13 +143,15 @@ class BoardStage {
     bool held_ = false;
     bool keys_held_ = false;
     std::vector<Area> motion_areas_;
+    std::vector<Area> celebration_areas_;
+    Form* held_back_ = nullptr;
     Area plate_;
     bool lays_plate_ = false;  ///< as it was last told
     double label_scale_;
     Point pointer_;                               ///< where the one that plays was last seen
     Point hover_{-1, -1};                         ///< the same of one that is seen where it only moves
     Point rest_{-1, -1};                          ///< and where that was when a key was last pressed
-    std::optional<std::int64_t> next_frame_;      ///< of the glide and of motion
+    std::optional<std::int64_t> next_frame_;      ///< of all that moves but scrolling
     std::optional<std::int64_t> next_edge_step_;  ///< of a drag held where there is more beyond the edge
     bool settles_later_ = false;
     bool painted_ = false;

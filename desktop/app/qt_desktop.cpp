@@ -151,6 +151,8 @@ void QtDesktop::hand_on_keyboard() {
 }
 
 void QtDesktop::show_message(const Message& message) {
+    // Later it would come to lie over the message.
+    windows_.show_held_back();
     const QPointer<QMessageBox> box = new QMessageBox(windows_.front_window());
     box->setWindowTitle(to_qt(message.title));
     box->setTextFormat(Qt::PlainText);

@@ -69,6 +69,13 @@ void BoardPainter::paint(QPainter& painter, const BoardLayers& layers) {
     if (layers.plate) paint_plate(painter, *layers.plate, *layers.ground);
     painter.restore();
     for (const PaintedLabel& label : layers.labels) labels_.paint(painter, label, ratio);
+    painter.save();
+    painter.scale(1 / ratio, 1 / ratio);
+    for (const PaintedImage& image : layers.celebration) {
+        painter.setOpacity(image.opacity / 255.0);
+        paint_image(painter, image);
+    }
+    painter.restore();
     prepare(layers.coming);
 }
 

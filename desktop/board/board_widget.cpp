@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QStyle>
 #include <QTimer>
 #include <QToolTip>
@@ -49,7 +50,8 @@ Qt::CursorShape to_qt(PointerShape shape) {
 
 }  // namespace
 
-BoardWidget::BoardWidget(Form& form) : form_(form), stage_(form, qt_texts(), *this) {
+BoardWidget::BoardWidget(Form& form, WindowList& windows)
+    : form_(form), windows_(windows), stage_(form, qt_texts(), *this) {
     setObjectName("board");
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
@@ -113,6 +115,12 @@ void BoardWidget::set_full_screen(bool on) {
 
 bool BoardWidget::wants_high_contrast() const { return has_high_contrast(palette()); }
 
+void BoardWidget::hold_back(Form& next) {
+    windows_.hold_back(next, [board = QPointer(this)] {
+        if (board) board->end_celebration();
+    });
+}
+
 void BoardWidget::timerEvent(QTimerEvent* event) {
     if (event->timerId() == settling_.timerId()) {
         settling_.stop();
@@ -166,6 +174,7 @@ bool BoardWidget::event(QEvent* event) {
         show_tip(static_cast<const QHelpEvent&>(*event));
         return true;
     }
+    if (event->type() == QEvent::WindowDeactivate || event->type() == QEvent::Hide) stage_.end_celebration();
     if (event->type() == QEvent::UngrabMouse || event->type() == QEvent::Hide) stage_.cancel();
     if (is_touch(event->type())) return touch_event(static_cast<QTouchEvent&>(*event));
     if (event->type() == QEvent::FontChange) stage_.font_changed();
@@ -255,6 +264,8 @@ void BoardWidget::wheelEvent(QWheelEvent* event) {
 
 void BoardWidget::keyPressEvent(QKeyEvent* event) {
     event->setAccepted(stage_.key_down(key_code_of(event->key()), event->isAutoRepeat()));
+    constexpr Qt::KeyboardModifiers commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    if (!(event->modifiers() & commands)) stage_.type(event->text().toStdString());
 }
 
 // Nor do these paint.

@@ -6,6 +6,7 @@
 
 #include "desktop/board/board_painter.h"
 #include "desktop/board/slim_scroll_bar.h"
+#include "desktop/shared/window_list.h"
 #include "view/board_fingers.h"
 #include "view/board_stage.h"
 
@@ -17,14 +18,17 @@ namespace tarnwick {
 /// Shows a window's board, and hands the mouse, the keys and the user's resizing on to its stage.
 class BoardWidget : public QWidget, private BoardFront {
   public:
-    explicit BoardWidget(Form& form);
+    BoardWidget(Form& form, WindowList& windows);
 
     // What the view of the window is told.
     void widget_changed(const Widget& widget, const Rect& before) { stage_.widget_changed(widget, before); }
     void drag_changed();
     void image_passes(const Image& image, const Image& other) { stage_.image_passes(image, other); }
     void dealt(const Image& from) { stage_.dealt(from); }
+    void won(Form& next, const std::vector<std::vector<const Image*>>& piles) { stage_.won(next, piles); }
     void form_changed() { stage_.form_changed(); }
+
+    void end_celebration() { stage_.end_celebration(); }
 
     Form& form() const { return form_; }
     /// Scrolls the board as far as it takes to see this spot of it, in its pixels.
@@ -68,6 +72,8 @@ class BoardWidget : public QWidget, private BoardFront {
     bool full_screen() const override { return window()->isFullScreen(); }
     void set_full_screen(bool on) override;
     bool wants_high_contrast() const override;
+    void hold_back(Form& next) override;
+    void show_held_back() override { windows_.show_held_back(); }
 
     void show_tip(const QHelpEvent& event);
     bool touch_event(QTouchEvent& event);
@@ -75,6 +81,7 @@ class BoardWidget : public QWidget, private BoardFront {
     bool is_for_scroll_bar(QPointF place) const;
 
     Form& form_;
+    WindowList& windows_;
     BoardPainter painter_;
     SlimScrollBar scroll_bar_{this};
     BoardStage stage_;

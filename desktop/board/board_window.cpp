@@ -30,7 +30,8 @@ int whole_device_height(int height, qreal ratio) {
 
 }  // namespace
 
-BoardWindow::BoardWindow(Form& form) : form_(form), board_(*new BoardWidget(form)) {
+BoardWindow::BoardWindow(Form& form, WindowList& windows)
+    : form_(form), board_(*new BoardWidget(form, windows)) {
     setObjectName(to_qt(form.name()));
     make_menus();
     setCentralWidget(&board_);
@@ -79,6 +80,7 @@ void BoardWindow::sync_size() {
 void BoardWindow::closeEvent(QCloseEvent* event) {
     // The form decides; when it ends, it takes its window with it.
     event->ignore();
+    board_.end_celebration();
     form_.close();
 }
 
@@ -110,8 +112,12 @@ void BoardView::dealt(const Image& from) {
     if (board_window_) board_window_->board().dealt(from);
 }
 
+void BoardView::won(Form& next, const std::vector<std::vector<const Image*>>& piles) {
+    if (board_window_) board_window_->board().won(next, piles);
+}
+
 QWidget* BoardView::make_window() {
-    board_window_ = new BoardWindow(form());
+    board_window_ = new BoardWindow(form(), windows());
     return board_window_;
 }
 

@@ -19,7 +19,7 @@ bool four_colors = false;
 QByteArray text_of(const QString& name) {
     QFile file(":/art/" + name + ".svg");
     if (!file.open(QIODevice::ReadOnly)) return {};
-    const QByteArray text = file.readAll();
+    QByteArray text = file.readAll();
     if (!four_colors) return text;
     return QByteArray::fromStdString(in_four_colors(name.toStdString(), text.toStdString()));
 }

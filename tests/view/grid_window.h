@@ -68,6 +68,7 @@ class Grid {
             fill(around(label.place.grown(label.rim ? label.rim->width : 0)),
                  over(static_cast<unsigned>(std::hash<std::string_view>()(label.text))));
         }
+        for (const PaintedImage& image : layers.celebration) fill(image.place, picture(image));
     }
     bool operator==(const Grid& other) const { return cells_ == other.cells_; }
 
@@ -113,6 +114,9 @@ class GridView : public FormView, public BoardFront {
     void dealt(const Image& from) override {
         if (stage_) stage_->dealt(from);
     }
+    void won(Form& next, const std::vector<std::vector<const Image*>>& piles) override {
+        if (stage_) stage_->won(next, piles);
+    }
     void menu_changed() override {}
     void raise() override {}
 
@@ -127,6 +131,8 @@ class GridView : public FormView, public BoardFront {
     bool full_screen() const override { return fills_screen; }
     void set_full_screen(bool on) override { fills_screen = on; }
     bool wants_high_contrast() const override { return high_contrast_wanted; }
+    void hold_back(Form& next) override { held_back = &next; }
+    void show_held_back() override { held_back = nullptr; }
 
     void resize(PixelSize size) {
         if (!stage_) stage_.emplace(form_, texts, *this);
@@ -161,6 +167,7 @@ class GridView : public FormView, public BoardFront {
     int cursor_moves = 0;
     PointerShape shape = PointerShape::arrow;
     bool high_contrast_wanted = false;
+    const Form* held_back = nullptr;
 
   private:
     Form& form_;

@@ -96,7 +96,9 @@ std::uint32_t ground_at(TableLight& light, PixelSize window, int x, int y, Color
     EXPECT_EQ(ground.strips.size(), 1U);
     const auto& [place, column, row] = ground.strips.at(0);
     EXPECT_EQ(place, (Area{x, y + scrolled, 1, 1}));
-    return ground.sheet.pixels.at(static_cast<std::size_t>(row * ground.sheet.width + column));
+    return ground.sheet.pixels.at(static_cast<std::size_t>(row) *
+                                      static_cast<std::size_t>(ground.sheet.width) +
+                                  static_cast<std::size_t>(column));
 }
 
 TEST(TableLight, IsFaintAndLeavesTheMiddleAsItWas) {
