@@ -39,14 +39,15 @@ void celebrate() {
 }
 
 void count_and_ask_for_name(bool slide_cut_short) {
-    const int place = count_game(score, all_ace_piles_complete());
+    const bool won = all_ace_piles_complete();
+    const int place = count_game(score, won);
     if (place == none) return;
     phase = Phase::name_asked;
     // The table is seen behind the dialog, and its cards must lie where they belong.
     if (slide_cut_short) land_slide();
     high_score_place = place;
     frmcards.set_enabled(false);
-    if (all_ace_piles_complete()) celebrate();
+    if (won) celebrate();
     frmyouwin.show();
 }
 
