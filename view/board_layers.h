@@ -65,11 +65,10 @@ struct PaintedOutline {
     Look look;
 };
 
-/// A picture, in whole device pixels. A border is a black line of one device pixel, inside of the place.
+/// A picture, in whole device pixels.
 struct PaintedImage {
     Picture picture;
     Area place;
-    bool bordered = false;
 };
 
 /// What marks the receiver of a drag: a line and what it surrounds, in one colour. A rim, if there is one,
