@@ -86,7 +86,7 @@ void BoardDrag::add_to(BoardLayers& layers, double ratio, bool strong) const {
     Area pile;
     const auto add = [&](const Image& image) {
         if (!is_seen(image)) return;
-        layers.lifted.push_back({image.picture(), snapped(place_of(image), ratio), image.bordered()});
+        layers.lifted.push_back({image.picture(), snapped(place_of(image), ratio)});
     };
     for (const Image* image : lifted()) {
         pile = united(pile, snapped(place_of(*image), ratio));

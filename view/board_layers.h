@@ -65,12 +65,10 @@ struct PaintedOutline {
     Look look;
 };
 
-/// A picture, in whole device pixels. A border is a black line of one device pixel, inside of the place. The
-/// opacity goes from 0 to 255.
+/// A picture, in whole device pixels. The opacity goes from 0 to 255.
 struct PaintedImage {
     Picture picture;
     Area place;
-    bool bordered = false;
     int opacity = 255;
 };
 

@@ -140,7 +140,7 @@ void BoardScene::add_images(double ratio) {
         const Area place = snapped(box, ratio);
         const auto covers = [&](const PaintedImage& upper) { return upper.place == place; };
         if (std::any_of(painted.begin(), painted.end(), covers)) continue;
-        painted.push_back({(*image)->picture(), place, (*image)->bordered()});
+        painted.push_back({(*image)->picture(), place});
         for (int edge = 1; edge <= pile_edges(**image); ++edge) {
             const Shift out = edge_shift(box.width, edge, ratio);
             painted.push_back(

@@ -120,7 +120,7 @@ void Celebration::add_to(BoardLayers& layers, int scrolled, double ratio) const 
     for_each_seen([&](Picture picture, const Box& window_place, int opacity) {
         const Box place = window_place.shifted(0, scrolled);
         if (!layers.area.meets(touched(place))) return;
-        layers.celebration.push_back({picture, snapped(place, ratio), false, opacity});
+        layers.celebration.push_back({picture, snapped(place, ratio), opacity});
     });
 }
 

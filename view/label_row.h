@@ -25,7 +25,6 @@ class LabelRow {
     Box surroundings() const;
 
   private:
-    double left_ = 0;
     double font_scale_ = 1;
     double place_scale_ = 1;
     Box given_;  ///< of all labels

@@ -42,10 +42,7 @@ void add_area(std::vector<Area>& areas, Area area) {
 }
 
 Motion::Looks Motion::looks_of(const Image& image) {
-    return {.box = picture_place(image),
-            .picture = image.picture(),
-            .bordered = image.bordered(),
-            .seen = is_seen(image)};
+    return {.box = picture_place(image), .picture = image.picture(), .seen = is_seen(image)};
 }
 
 void Motion::image_changed(const Image& image) {
@@ -263,7 +260,7 @@ void Motion::add_to(BoardLayers& layers, double ratio) const {
         const Box box = flight.looks.box.shifted(flight.offset.x, flight.offset.y);
         const Looks looks = is_seen(*flight.image) ? looks_of(*flight.image) : flight.looks;
         const bool face_down = flight.dealt && !flight.offset.none();
-        const PaintedImage painted{face_down ? back_ : looks.picture, snapped(box, ratio), looks.bordered};
+        const PaintedImage painted{face_down ? back_ : looks.picture, snapped(box, ratio)};
         if (flight.waits) {
             layers.coming.push_back(painted);
         } else if (layers.area.meets(touched(box))) {

@@ -52,7 +52,6 @@ class Motion {
     struct Looks {
         Box box;
         Picture picture;
-        bool bordered = false;
         bool seen = false;
         bool changed = false;  ///< within the event
         Shift shift = {};      ///< how far from there it was seen

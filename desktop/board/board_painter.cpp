@@ -82,10 +82,6 @@ void BoardPainter::paint(QPainter& painter, const BoardLayers& layers) {
 void BoardPainter::paint_image(QPainter& painter, const PaintedImage& image) {
     const QRect place = to_qt(image.place);
     painter.drawPixmap(place, pictures_.pixmap(image.picture, place.size()));
-    if (!image.bordered) return;
-    painter.setPen(QPen(Qt::black, 1));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
 void BoardPainter::begin_haste() {

@@ -16,6 +16,13 @@
 namespace tarnwick {
 namespace {
 
+// All of the line lies inside of the place.
+void draw_outline(QPainter& painter, const QRectF& place, const QColor& color, bool strong, qreal radius) {
+    const qreal line = strong ? high_contrast_line : 1;
+    painter.setPen(QPen(color, line));
+    painter.drawRoundedRect(place.adjusted(line / 2, line / 2, -line / 2, -line / 2), radius, radius);
+}
+
 // A group box with its title on the border rather than above it: the layouts use all of the room inside.
 class FrameBox : public QGroupBox {
   public:
@@ -40,9 +47,7 @@ class FrameBox : public QGroupBox {
         QColor border = palette().color(QPalette::WindowText);
         const bool strong = has_high_contrast(palette());
         if (!strong) border.setAlpha(border_alpha);
-        painter.setPen(QPen(border, strong ? high_contrast_line : 1));
-        const int middle = text.height() / 2;
-        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, middle + 0.5, -0.5, -0.5), radius, radius);
+        draw_outline(painter, QRectF(rect()).adjusted(0, text.height() / 2, 0, 0), border, strong, radius);
     }
 };
 
@@ -169,9 +174,11 @@ class OutlineBox : public QWidget {
         const bool plain = outline_.border_color() == black;
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(plain ? palette().color(QPalette::WindowText) : to_qt(outline_.border_color()),
-                            has_high_contrast(palette()) ? high_contrast_line : 1));
-        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+        draw_outline(painter,
+                     QRectF(rect()),
+                     plain ? palette().color(QPalette::WindowText) : to_qt(outline_.border_color()),
+                     has_high_contrast(palette()),
+                     radius);
     }
 
   private:

@@ -1,11 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTextDocument>
 #include <algorithm>
 
+#include "desktop/shared/high_contrast.h"
 #include "tests/desktop/inner_game.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmError.h"
@@ -54,6 +56,20 @@ TEST(DialogWindow, ShowsWhichBackIsChosenAndWhatEnterDoes) {
     frmyouwin.show();
     EXPECT_EQ(shown_widget("frmyouwin")->findChild<QLineEdit*>()->placeholderText(),
               "Press Enter to record it");
+}
+
+TEST(DialogWindow, DrawsWholeLinesInHighContrast) {
+    const QPalette usual = QApplication::palette();
+    use_high_contrast();
+    InnerGame game(26);
+    frmFeatures.show();
+    auto& frame = *shown_widget("frmFeatures")->findChild<QGroupBox*>();
+    const QImage seen = frame.grab().toImage();
+    const auto color_at = [&](int x) { return seen.pixelColor(x, seen.height() / 2); };
+    for (const int edge : {0, 1, seen.width() - 2, seen.width() - 1})
+        EXPECT_EQ(color_at(edge), Qt::black) << edge;
+    EXPECT_EQ(color_at(2), Qt::white);
+    QApplication::setPalette(usual);
 }
 
 TEST(DialogWindow, ToldOfAnErrorIsAToolWindowThatOutlivesTheMainWindow) {
