@@ -26,6 +26,7 @@ class BoardScene {
 
     /// How far the board is scrolled down, in pixels: the labels keep their places in the window.
     void set_scrolled(int offset) { scrolled_ = offset; }
+    int scrolled() const { return scrolled_; }
 
     /// Whether lines and signs are to be seen in high contrast (see view/contrast.h).
     void set_high_contrast(bool strong) { strong_ = strong; }

@@ -6,15 +6,10 @@
 
 #include "platform/desktop.h"
 #include "platform/key_codes.h"
-#include "view/dialog_keys.h"
-#include "view/picture_place.h"
-#include "view/spoken_board.h"
 
 namespace tarnwick {
 namespace {
 
-// Milliseconds from one picture of a glide to the next.
-constexpr int frame_time = 16;
 // A pointer that has moved so far, in pixels, is meant to play: less may be a bump against the table.
 constexpr double deliberate_move = 8;
 
@@ -25,10 +20,10 @@ BoardStage::BoardStage(Form& form, const TextMeasure& texts, BoardFront& front)
       front_(front),
       scene_(form, texts),
       repaints_(front, scroll_),
+      moves_(form, scene_, repaints_, front),
       keys_(form, scene_, repaints_, front),
       look_(form),
       color_(form.back_color()),
-      plate_(scene_.plate()),
       label_scale_(scene_.label_scale()) {
     scene_.set_high_contrast(front.wants_high_contrast());
 }
@@ -44,7 +39,7 @@ void BoardStage::widget_changed(const Widget& widget, const Rect& before) {
         const auto& image = static_cast<const Image&>(widget);
         if (const Glide& glide = scene_.drag().glide(); glide.moves(image)) {
             scene_.motion().let_go(glide.images(), glide.offset());
-            end_glide();
+            moves_.end_glide();
         }
         scene_.motion().image_changed(image);
         settle_later();
@@ -54,7 +49,7 @@ void BoardStage::widget_changed(const Widget& widget, const Rect& before) {
 }
 
 void BoardStage::update_labels() {
-    plate_ = scene_.plate();
+    moves_.plate_moved();
     const double scale = scene_.label_scale();
     if (scale == label_scale_) return;
     label_scale_ = scale;
@@ -62,30 +57,13 @@ void BoardStage::update_labels() {
 }
 
 void BoardStage::won(Form& next, const std::vector<std::vector<const Image*>>& piles) {
-    const bool is_seen = size_.width > 0 && form_.state() != WindowState::minimized;
-    if (!is_seen || !front_.allows_motion() || !form_.on_motion || !form_.on_motion()) return;
-    std::vector<Celebration::Pile> shown;
-    for (const std::vector<const Image*>& pile : piles) {
-        shown.push_back({picture_place(*pile.front()).shifted(0, -scroll_.offset()), {}});
-        for (const Image* card : pile) shown.back().cards.push_back(card->picture());
-    }
-    scene_.celebration().begin(std::move(shown), size_, desktop().now());
-    repaint_celebration();
-    held_back_ = &next;
-    front_.hold_back(next);
+    if (size_.width > 0) moves_.celebrate(next, piles, size_);
     update_steps();
 }
 
 void BoardStage::end_celebration() {
-    if (!scene_.celebration().under_way()) return;
-    scene_.celebration().end();
-    repaint_celebration();
+    moves_.end_celebration();
     update_steps();
-    front_.show_held_back();
-}
-
-void BoardStage::type(const std::string& text) {
-    if (held_back_ && !form_.enabled()) type_into(*held_back_, text);
 }
 
 void BoardStage::form_changed() {
@@ -96,53 +74,23 @@ void BoardStage::form_changed() {
 }
 
 void BoardStage::drag_changed() {
-    const bool glides = !holds() && front_.allows_motion();
-    repaint_home(scene_.drag().follow(desktop().now(), glides));
-    repaint_lifted();
-    repaints_.move(mark_area_, scene_.drag().mark_area());
+    moves_.follow_drag();
     keys_.drag_changed();
     if (keys_.hold() != std::exchange(keys_held_, keys_.hold())) settle_later();
     if (holds() != std::exchange(held_, holds())) update_pointer();
     update_steps();
 }
 
-// What lies at the images' own places is seen or hidden.
-void BoardStage::repaint_home(const std::vector<Image*>& images) {
-    for (const Image* image : images) repaints_.add(scene_.area_of(*image));
-}
-
-void BoardStage::repaint_lifted() {
-    const Area before = lifted_area_;
-    lifted_area_ = scene_.drag().area();
-    // One rectangle paints faster than the several that two overlapping ones are made of.
-    if (before.meets(lifted_area_)) {
-        repaints_.add(united(before, lifted_area_));
-    } else {
-        repaints_.add(before);
-        repaints_.add(lifted_area_);
-    }
-    update_plate();
-}
-
-// It comes with the first card below the labels, and goes with the last one.
-void BoardStage::update_plate() {
-    const bool laid = scene_.lays_plate();
-    if (laid == lays_plate_) return;
-    lays_plate_ = laid;
-    repaints_.add(plate_);
-}
-
 void BoardStage::resized(PixelSize size) {
     end_celebration();
     size_ = size;
     scroll_.set_page(size.height);
-    end_glide();
+    moves_.end_glide();
     repaints_.add_all();
     show_part();
     settle_later();
     form_.user_resized(size);
-    motion_areas_.clear();
-    scene_.motion().rest();
+    moves_.rest();
     keys_.update();
 }
 
@@ -157,7 +105,8 @@ void BoardStage::settle() {
     if (!form_.loaded()) return;
     scroll([this] { scroll_.set_lower_edge(scene_.lower_edge()); });
     front_.scroll_changed();
-    begin_motion();
+    // Nothing was seen elsewhere before the first picture.
+    painted_ ? moves_.begin_motion() : moves_.rest();
     keys_.update();
     update_pointer();
     update_steps();
@@ -174,7 +123,7 @@ void BoardStage::press(double x, double y, MouseButton button, Pointer by) {
     if (another_plays(by)) return;
     end_celebration();
     if (form_.accepts_input()) {
-        end_glide();
+        moves_.end_glide();
         end_motion();
         keys_.hide();
     }
@@ -217,7 +166,7 @@ bool BoardStage::key_down(int key_code, bool again) {
         return true;
     }
     if (form_.accepts_input()) {
-        end_glide();
+        moves_.end_glide();
         end_motion();
         scroll([=, this] { scroll_.press(key_code); });
         const bool fills_screen = front_.full_screen();
@@ -277,28 +226,16 @@ void BoardStage::scroll(Action action) {
 // What is not seen takes no clicks and no drops.
 void BoardStage::show_part() {
     scene_.set_scrolled(scroll_.offset());
-    plate_ = scene_.plate();
+    moves_.plate_moved();
     form_.mouse().set_seen_area(Rect{0,
                                      static_cast<float>(scroll_.offset()),
                                      static_cast<float>(size_.width),
                                      static_cast<float>(size_.height)});
 }
 
-// The labels are read as one, and lie above all cards.
 std::optional<BoardTip> BoardStage::tip_at(double x, double y) const {
-    const int down = scroll_.offset();
-    const Area spot{static_cast<int>(x), static_cast<int>(y) + down, 1, 1};
     if (holds() || !form_.accepts_input()) return std::nullopt;
-    const bool on_labels = spot.meets(plate_);
-    const Image* image =
-        form_.mouse().image_at(static_cast<float>(x), static_cast<float>(y + static_cast<double>(down)));
-    for (const BoardItem& item : described_items(form_)) {
-        const bool is_meant = on_labels ? item.widget->kind() == WidgetKind::label : item.widget == image;
-        if (!is_meant || item.tip.empty()) continue;
-        const Area area = on_labels ? plate_ : scene_.area_of(*item.widget);
-        return BoardTip{item.tip, area.shifted(0, -down)};
-    }
-    return std::nullopt;
+    return tarnwick::tip_at(form_, scene_, {x, y});
 }
 
 int BoardStage::edge_ahead() const {
@@ -307,60 +244,17 @@ int BoardStage::edge_ahead() const {
     return scroll_.ahead(pointer_.y);
 }
 
-void BoardStage::end_glide() {
-    if (scene_.drag().glide().images().empty()) return;
-    repaint_home(scene_.drag().end_glide());
-    repaint_lifted();
-    update_steps();
-}
-
-void BoardStage::repaint_motion() {
-    std::vector<Area> areas = std::move(motion_areas_);
-    motion_areas_ = scene_.motion().areas();
-    for (const Area& area : motion_areas_) add_area(areas, area);
-    for (const Area& area : areas) repaints_.add(area);
-    update_plate();
-}
-
-void BoardStage::repaint_celebration() {
-    std::vector<Area> areas = scene_.celebration().areas(scroll_.offset());
-    celebration_areas_.resize(areas.size());
-    for (std::size_t i = 0; i < areas.size(); ++i) repaints_.add(united(celebration_areas_[i], areas[i]));
-    celebration_areas_ = std::move(areas);
-}
-
-void BoardStage::begin_motion() {
-    // Nothing was seen elsewhere before the first picture.
-    if (!painted_) return scene_.motion().rest();
-    // Behind a dialog nothing moves.
-    scene_.motion().begin(desktop().now(), front_.allows_motion() && form_.accepts_input());
-    repaint_motion();
-}
-
 void BoardStage::end_motion() {
-    land_motion();
+    moves_.land_motion();
     // What was to set out when the event before has settled stays where it lies, too.
     if (settles_later_) scene_.motion().rest();
-}
-
-void BoardStage::land_motion() {
-    if (!scene_.motion().under_way()) return;
-    scene_.motion().land();
-    repaint_motion();
-    scene_.motion().end();
-    motion_areas_.clear();
     update_steps();
 }
 
 void BoardStage::update_steps() {
     const std::optional<std::int64_t> before = next_step();
     const std::int64_t now = desktop().now();
-    if (scene_.drag().glide().images().empty() && !scene_.motion().under_way() &&
-        !scene_.celebration().under_way()) {
-        next_frame_.reset();
-    } else if (!next_frame_) {
-        next_frame_ = now + frame_time;
-    }
+    moves_.schedule(now);
     if (edge_ahead() == 0) {
         next_edge_step_.reset();
     } else if (!next_edge_step_) {
@@ -370,30 +264,14 @@ void BoardStage::update_steps() {
 }
 
 std::optional<std::int64_t> BoardStage::next_step() const {
-    if (!next_frame_ || !next_edge_step_) return next_frame_ ? next_frame_ : next_edge_step_;
-    return std::min(*next_frame_, *next_edge_step_);
+    const std::optional<std::int64_t> next_frame = moves_.next_frame();
+    if (!next_frame || !next_edge_step_) return next_frame ? next_frame : next_edge_step_;
+    return std::min(*next_frame, *next_edge_step_);
 }
 
 void BoardStage::step() {
     const std::int64_t now = desktop().now();
-    if (next_frame_ && *next_frame_ <= now) {
-        next_frame_.reset();
-        if (scene_.drag().glide_on(now)) {
-            repaint_lifted();
-        } else {
-            end_glide();
-        }
-        if (scene_.motion().step(now)) {
-            repaint_motion();
-        } else {
-            land_motion();
-        }
-        if (scene_.celebration().step(now)) {
-            repaint_celebration();
-        } else {
-            end_celebration();
-        }
-    }
+    moves_.step(now);
     if (next_edge_step_ && *next_edge_step_ <= now) {
         next_edge_step_.reset();
         scroll([this] { scroll_.step_ahead(pointer_.y); });

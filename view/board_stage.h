@@ -10,18 +10,14 @@
 #include "platform/form.h"
 #include "view/board_front.h"
 #include "view/board_keys.h"
+#include "view/board_moves.h"
 #include "view/board_scene.h"
 #include "view/board_scroll.h"
+#include "view/board_tip.h"
 #include "view/pointer_shape.h"
 #include "view/repaints.h"
 
 namespace tarnwick {
-
-/// A text about something on the board, and the area that it is about.
-struct BoardTip {
-    std::string text;
-    Area area;
-};
 
 /// A board on show: turns what happens in its window into what is to be painted, and what the player does
 /// into what the game understands. A front end hands on the news of the window's FormView and its own events,
@@ -68,7 +64,7 @@ class BoardStage {
     bool key_down(int key_code, bool again = false);
     /// What a key writes, after key_down() and without any command: where a window was held back, it is for
     /// the text box of that, so that a player who writes on loses nothing.
-    void type(const std::string& text);
+    void type(const std::string& text) { moves_.type(text); }
     /// The window that was held back is seen now: for what the stage is not told, as that another window has
     /// got the keyboard.
     void end_celebration();
@@ -108,20 +104,12 @@ class BoardStage {
     std::string_view cursor_hint() const { return keys_.hint(); }
 
   private:
-    void repaint_lifted();
-    void repaint_home(const std::vector<Image*>& images);
     bool cursor_key(int key_code, bool again);
     void update_pointer();
     Point on_board(Point place) const;
     bool another_plays(Pointer by) const;
     void update_labels();
-    void update_plate();
-    void repaint_motion();
-    void repaint_celebration();
-    void begin_motion();
-    void land_motion();
     void settle_later();
-    void end_glide();
     void point_at(Point place);
     template <class Action>
     void scroll(Action action);
@@ -134,24 +122,17 @@ class BoardStage {
     BoardScene scene_;
     BoardScroll scroll_;
     Repaints repaints_;
+    BoardMoves moves_;
     BoardKeys keys_;
     PointerLook look_;
     PixelSize size_;
     Color color_;
-    Area lifted_area_;
-    Area mark_area_;
     bool held_ = false;
     bool keys_held_ = false;
-    std::vector<Area> motion_areas_;
-    std::vector<Area> celebration_areas_;
-    Form* held_back_ = nullptr;
-    Area plate_;
-    bool lays_plate_ = false;  ///< as it was last told
     double label_scale_;
     Point pointer_;                               ///< where the one that plays was last seen
     Point hover_{-1, -1};                         ///< the same of one that is seen where it only moves
     Point rest_{-1, -1};                          ///< and where that was when a key was last pressed
-    std::optional<std::int64_t> next_frame_;      ///< of all that moves but scrolling
     std::optional<std::int64_t> next_edge_step_;  ///< of a drag held where there is more beyond the edge
     bool settles_later_ = false;
     bool painted_ = false;
