@@ -2,18 +2,13 @@
 
 #include "notation/play_action.h"
 #include "state/variables.h"
+#include "tests/play/known_deal.h"
 #include "tools/driver/board_picture.h"
 #include "tools/driver/eventually.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {
 namespace {
-
-// The columns of this deal end in Q♦ 10♥ K♦ 6♠ A♣ 2♥ J♦ 9♣ 6♦ Q♣.
-constexpr std::uint32_t deal = 26;
-constexpr int column_of_ace = 4;
-constexpr int column_of_jack = 6;
-constexpr int column_of_queen = 9;
 
 class KeysOfTheWindow : public testing::Test {
   protected:
@@ -36,7 +31,7 @@ class KeysOfTheWindow : public testing::Test {
     }
 
     int aside_ = 300;
-    TwinGame game{{TARNWICK_PROGRAM, deal}};
+    TwinGame game{{TARNWICK_PROGRAM, known_deal}};
 };
 
 TEST_F(KeysOfTheWindow, PlayWithoutThePointer) {

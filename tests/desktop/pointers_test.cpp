@@ -11,16 +11,11 @@
 #include "board/display.h"
 #include "state/variables.h"
 #include "tests/desktop/inner_game.h"
+#include "tests/play/known_deal.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {
 namespace {
-
-// The columns of this deal end in Q♦ 10♥ K♦ 6♠ A♣ 2♥ J♦ 9♣ 6♦ Q♣.
-constexpr std::uint32_t deal = 26;
-constexpr int column_of_ace = 4;
-constexpr int column_of_jack = 6;
-constexpr int column_of_queen = 9;
 
 class Pointers : public testing::Test {
   protected:
@@ -57,7 +52,7 @@ class Pointers : public testing::Test {
     const Image& stock() { return frmcards.Image1(stock_image); }
 
     static inline QPointingDevice* const screen_ = QTest::createTouchDevice();
-    InnerGame game_{deal};
+    InnerGame game_{known_deal};
     QWidget& board_ = *shown_widget("board");
 };
 

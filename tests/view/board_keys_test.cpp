@@ -13,6 +13,7 @@
 #include "notation/record_text.h"
 #include "platform/key_codes.h"
 #include "state/variables.h"
+#include "tests/play/known_deal.h"
 #include "tests/play/play.h"
 #include "tests/store/scratch_folder.h"
 #include "tests/view/grid_window.h"
@@ -23,15 +24,9 @@
 namespace tarnwick {
 namespace {
 
-// The columns of this deal end in Q♦ 10♥ K♦ 6♠ A♣ 2♥ J♦ 9♣ 6♦ Q♣.
-constexpr std::uint32_t deal = 26;
-constexpr int column_of_ace = 4;
-constexpr int column_of_jack = 6;
-constexpr int column_of_queen = 9;
-
 class KeysOfABoard : public testing::Test {
   protected:
-    explicit KeysOfABoard(std::uint32_t number = deal) : game(number) {}
+    explicit KeysOfABoard(std::uint32_t number = known_deal) : game(number) {}
 
     // A letter for an arrow (l, r, u, d), * for Enter, ! for Escape.
     void press(const std::string& keys) {

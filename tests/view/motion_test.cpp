@@ -7,16 +7,11 @@
 #include "board/display.h"
 #include "settings/settings.h"
 #include "state/variables.h"
+#include "tests/play/known_deal.h"
 #include "tests/view/grid_window.h"
 
 namespace tarnwick {
 namespace {
-
-// The columns of this deal end in Q♦ 10♥ K♦ 6♠ A♣ 2♥ J♦ 9♣ 6♦ Q♣.
-constexpr std::uint32_t deal = 26;
-constexpr int column_of_ace = 4;
-constexpr int column_of_jack = 6;
-constexpr int column_of_queen = 9;
 
 class MotionTest : public testing::Test {
   protected:
@@ -56,7 +51,7 @@ class MotionTest : public testing::Test {
     bool in_front(const Image& image) { return &game.layers().images.back() == seen(image); }
     bool moves() { return motion.under_way(); }
 
-    GridGame game{deal};
+    GridGame game{known_deal};
     BoardStage& stage = game.stage();
     const Motion& motion = game.stage().scene().motion();
 };
