@@ -82,7 +82,9 @@ void BoardMoves::rest() {
 }
 
 void BoardMoves::celebrate(Form& next, const std::vector<std::vector<const Image*>>& piles, PixelSize size) {
-    if (form_.state() == WindowState::minimized || !front_.allows_motion() || !form_.on_motion || !form_.on_motion()) return;
+    if (form_.state() == WindowState::minimized || !front_.allows_motion() || !form_.on_motion ||
+        !form_.on_motion())
+        return;
     std::vector<Celebration::Pile> shown;
     for (const std::vector<const Image*>& pile : piles) {
         shown.push_back({picture_place(*pile.front()).shifted(0, -scene_.scrolled()), {}});

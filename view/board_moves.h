@@ -15,8 +15,8 @@
 namespace tarnwick {
 
 /// What moves on a board, in a drag or by itself: lifted images and their glide back, cards on their way, a
-/// celebration. Steps all of it, and tells what is to be painted anew. Times are milliseconds of the desktop's
-/// clock.
+/// celebration. Steps all of it, and tells what is to be painted anew. Times are milliseconds of the
+/// desktop's clock.
 class BoardMoves {
   public:
     /// All of these outlive this object.
