@@ -89,14 +89,14 @@ int main(int argc, char** argv) {
     }
     std::vector<double> relayout;
     std::vector<double> hasty;
-    board.painter().pictures().begin_haste();
+    board.painter().begin_haste();
     for (int step = 0; step < steps; ++step) {
         relayout.push_back(milliseconds([&] { narrow(step); }));
         hasty.push_back(milliseconds([&] { board.paint(); }));
     }
     std::vector<double> sharp;
     for (int round = 0; round < rounds; ++round) {
-        board.painter().pictures().end_haste();
+        board.painter().end_haste();
         // So far that every card gets another size.
         for (int step = 0; step < 6; ++step) narrow(step);
         sharp.push_back(milliseconds([&] { board.paint(); }));

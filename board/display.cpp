@@ -20,7 +20,8 @@ Picture stock_picture() { return turned_slot() == last_tablet_slot() ? Picture{}
 
 // Five cards or fewer that are all turned are turned for good.
 void sign_stock(bool shown) {
-    const bool turns_over = shown && turned_slot() == last_tablet_slot() && last_tablet_slot() > 4;
+    const bool turns_over =
+        shown && turned_slot() == last_tablet_slot() && last_tablet_slot() >= cards_per_turn;
     frmcards.Shape1(stock_outline).set_sign(turns_over ? Sign::turn : Sign::none);
 }
 
@@ -86,7 +87,13 @@ void show_stock() {
     Image& stock = frmcards.Image1(stock_image);
     stock.set_picture(stock_picture());
     stock.show();
+    show_stock_depth();
     sign_stock(true);
+}
+
+void show_stock_depth() {
+    const int face_down = last_tablet_slot() - turned_slot();
+    frmcards.Image1(stock_image).set_depth(std::max(0, face_down - 1) / cards_per_turn);
 }
 
 void hide_stock() {

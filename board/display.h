@@ -16,6 +16,9 @@ inline constexpr int turned_card_left = 83;
 constexpr int ace_pile_left(int p) { return 158 * p + 241; }
 constexpr int beneath_card_left(int p) { return 158 * p + 220; }
 
+/// How many cards a turn of the tablet brings up.
+inline constexpr int cards_per_turn = 5;
+
 /// Places one card image at (left, top) in the size of a card, shows it and brings it to the front.
 void display_column(const Integer& image, const Integer& top, const Integer& left);
 
@@ -24,6 +27,8 @@ void display_turned_card();
 
 /// Shows the stock as the tablet has it: a card back, or an empty place when all cards are turned.
 void show_stock();
+/// The stock gets as thick as there are turns left in it.
+void show_stock_depth();
 /// The stock is no longer needed.
 void hide_stock();
 

@@ -1,5 +1,9 @@
 #include "game/end_game.h"
 
+#include <exception>
+#include <vector>
+
+#include "board/display.h"
 #include "board/slide.h"
 #include "game/deal.h"
 #include "game/statistics.h"
@@ -11,14 +15,39 @@
 namespace tarnwick {
 namespace {
 
+// Of each ace pile one card of every rank, from the King on top down.
+std::vector<std::vector<const Image*>> won_piles() {
+    std::vector<std::vector<const Image*>> piles(4);
+    for (int p = 0; p < 4; ++p) {
+        const int suit = ace_pile_card(p).suit;
+        std::vector<const Image*>& pile = piles[static_cast<std::size_t>(p)];
+        pile.push_back(&top_image(first_ace_pile + p));
+        for (int rank = queen; rank >= ace; --rank) {
+            pile.push_back(&frmcards.Image1(picture_of(rank, suit, false)));
+        }
+    }
+    return piles;
+}
+
+// A game that has gone on after an error may be in no order. Whatever comes of that, the dialog opens.
+void celebrate() {
+    try {
+        if (FormView* view = frmcards.view()) view->won(frmyouwin, won_piles());
+    } catch (const std::exception&) {
+        return;
+    }
+}
+
 void count_and_ask_for_name(bool slide_cut_short) {
-    const int place = count_game(score, all_ace_piles_complete());
+    const bool won = all_ace_piles_complete();
+    const int place = count_game(score, won);
     if (place == none) return;
     phase = Phase::name_asked;
     // The table is seen behind the dialog, and its cards must lie where they belong.
     if (slide_cut_short) land_slide();
     high_score_place = place;
     frmcards.set_enabled(false);
+    if (won) celebrate();
     frmyouwin.show();
 }
 

@@ -9,8 +9,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr int cards_per_turn = 5;
-
 // What a click on the tablet does: the last three begin a new pass.
 enum class Turn { undecided, five, the_rest, nothing_left, last_pass, new_pass };
 constexpr bool begins_pass(Turn turn) { return turn >= Turn::nothing_left; }
@@ -36,6 +34,7 @@ void turn_to(int slot) {
 void turn_five() {
     hide_shown_card();
     turn_to(turned_slot() + cards_per_turn);
+    show_stock_depth();
 }
 
 void turn_the_rest() {

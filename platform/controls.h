@@ -34,6 +34,7 @@ struct Font {
     std::string family;
     float points = 0;
     bool bold = false;
+    bool operator==(const Font&) const = default;
 };
 
 /// A line or two of text. Without colours of its own it takes those of the desktop.
@@ -144,6 +145,10 @@ class TextBox : public Widget {
     /// Sets the text as the program does: no on_change.
     void set_text(const std::string& text);
 
+    /// What is to be done in the box, to be shown as long as it is empty.
+    const std::string& hint() const { return hint_; }
+    void set_hint(const std::string& hint) { hint_ = hint; }
+
     bool has_colors() const { return has_colors_; }
     Color back_color() const { return back_color_; }
     Color text_color() const { return text_color_; }
@@ -164,6 +169,7 @@ class TextBox : public Widget {
 
   private:
     std::string text_;
+    std::string hint_;
     Color back_color_ = black;
     Color text_color_ = black;
     bool has_colors_ = false;

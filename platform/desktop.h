@@ -35,6 +35,8 @@ class Desktop : public Questions {
     /// Shows a help file, looked for where the program's files are; false when it is not found, of which the
     /// player is told nothing.
     virtual bool show_help(const std::string& file_name) = 0;
+    /// Puts a text on the clipboard.
+    virtual void copy_text(const std::string& text) = 0;
     /// Runs an action every second, messages or not, until another one, or null, takes its place: the action
     /// may do that itself, so that what runs is to be a copy. What it does must be no business of the
     /// windows.

@@ -171,6 +171,10 @@ bool Form::key_down(int key_code) {
     return true;
 }
 
+void Form::copy() const {
+    if (accepts_input() && on_copy) desktop().copy_text(on_copy());
+}
+
 void Form::click_background() {
     if (accepts_input() && on_click) desktop().event(on_click);
 }

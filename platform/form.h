@@ -46,6 +46,13 @@ struct Menu {
     std::vector<MenuEntry*> entries;
 };
 
+/// Where the arrow keys find something: which pile of its row it belongs to, both counted from 0.
+struct PilePlace {
+    int row = 0;
+    int pile = 0;
+    bool operator==(const PilePlace&) const = default;
+};
+
 /// What one widget of a board means, for players who have the board read to them.
 struct BoardItem {
     const Widget* widget = nullptr;
@@ -55,6 +62,12 @@ struct BoardItem {
     /// The number that the widget shows, if it shows one, and the largest it can become.
     std::optional<int> value = std::nullopt;
     int most = 0;
+    /// What the arrow keys find, piles in order and each from what lies in front on; nothing for the rest.
+    std::optional<PilePlace> place = std::nullopt;
+    /// What is seen of a widget that is not seen itself.
+    const Widget* outline = nullptr;
+    /// What a pointer that rests on the widget is told.
+    std::string tip = {};
 };
 
 enum class WindowState { normal, minimized, maximized };
@@ -80,6 +93,8 @@ class Form : public Window {
     /// Tells what the widgets of a board mean, in the order in which they are read out. Nobody is told that
     /// it has changed: it may after every event, and what is new is found by view/spoken_board.h.
     std::function<std::vector<BoardItem>()> on_describe;
+    /// Tells what the player's command to copy puts on the clipboard.
+    std::function<std::string()> on_copy;
     /// Tells whether images are to be seen on their way to where they lie, asked after an event has moved
     /// some; without it, none are. Must not throw.
     std::function<bool()> on_motion;
@@ -132,6 +147,8 @@ class Form : public Window {
     /// keys and took it.
     bool key_down(int key_code);
     void click_background();
+    /// What a desktop calls for the command to copy.
+    void copy() const;
     Mouse& mouse() override { return mouse_; }
     const Mouse& mouse() const { return mouse_; }
 

@@ -24,6 +24,7 @@ class HeadlessDesktop : public Desktop {
     void run_in_background(std::function<void()> action) override;
     /// There are no help files.
     bool show_help(const std::string&) override { return false; }
+    void copy_text(const std::string& text) override { copied_ = text; }
 
     /// Moves the clock on by so many milliseconds, every timer ticking when it is due.
     void advance(std::int64_t milliseconds);
@@ -39,6 +40,8 @@ class HeadlessDesktop : public Desktop {
     /// Answers the open one; of a colour picker, OK and the colour.
     void answer(MessageAnswer answer, Color color = black) { answered(answer, color); }
 
+    /// What was copied last.
+    const std::string& copied() const { return copied_; }
     /// The messages shown so far.
     const std::vector<Message>& messages() const { return messages_; }
     void forget_messages() { messages_.clear(); }
@@ -55,6 +58,7 @@ class HeadlessDesktop : public Desktop {
     std::function<void()> background_;
     std::int64_t background_due_ = 0;
     std::string date_ = "1/2/2000";
+    std::string copied_;
     std::deque<MessageAnswer> answers_;
     std::deque<Color> colors_;
     std::vector<Message> messages_;

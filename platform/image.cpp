@@ -23,6 +23,14 @@ void Image::set_bordered(bool bordered) {
     changed();
 }
 
+void Image::set_depth(int depth) {
+    if (depth == depth_) return;
+    // Told before as well: a thicker pile was seen farther out.
+    changed();
+    depth_ = depth;
+    changed();
+}
+
 void Image::pass(const Image& other) const {
     if (FormView* view = form().view()) view->image_passes(*this, other);
 }
@@ -36,6 +44,7 @@ void Image::reset() {
     set_picture({});
     set_stretch(false);
     set_bordered(false);
+    set_depth(0);
     set_drag_mode(DragMode::manual);
     show();
 }

@@ -40,6 +40,10 @@ class Image : public Widget {
     bool bordered() const { return bordered_; }
     void set_bordered(bool bordered);
 
+    /// How many more of its kind lie below the picture: the pile looks thicker by so much.
+    int depth() const { return depth_; }
+    void set_depth(int depth);
+
     DragMode drag_mode() const { return drag_mode_; }
     void set_drag_mode(DragMode mode) { drag_mode_ = mode; }
 
@@ -56,6 +60,7 @@ class Image : public Widget {
     int index_;
     const ImageEvents& events_;
     Picture picture_;
+    int depth_ = 0;
     DragMode drag_mode_ = DragMode::manual;
     bool stretch_ = false;
     bool bordered_ = false;

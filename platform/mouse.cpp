@@ -9,8 +9,18 @@
 namespace tarnwick {
 namespace {
 
-// How far, in pixels, the second press of a two-click event may lie from the first.
-constexpr float double_click_distance = 4;
+// How well a pointer aims, in pixels: how far it may move within a press and still only click, and how far
+// the second press of a two-click event may lie from the first.
+struct Aim {
+    float tap;
+    float second_click;
+};
+
+Aim aim_of(Pointer pointer) {
+    if (pointer == Pointer::finger) return {10, 24};
+    if (pointer == Pointer::pen) return {4, 8};
+    return {0, 4};
+}
 
 }  // namespace
 
@@ -24,8 +34,10 @@ Image* Mouse::image_at(float x, float y) const {
     return topmost;
 }
 
-void Mouse::press(float x, float y, MouseButton button) {
+void Mouse::press(float x, float y, MouseButton button, Pointer by) {
     if (button != MouseButton::left || !window_.accepts_input() || dragged_ || pressed_) return;
+    pointer_ = by;
+    moved_ = false;
     press_x_ = x_ = x;
     press_y_ = y_ = y;
     Image* image = image_at(x, y);
@@ -51,8 +63,13 @@ void Mouse::press(float x, float y, MouseButton button) {
 
 bool Mouse::is_second_click(const Image& image, float x, float y) const {
     return last_clicked_ == &image && desktop().now() - last_press_time_ <= desktop().double_click_time() &&
-           std::abs(x - last_press_x_) <= double_click_distance &&
-           std::abs(y - last_press_y_) <= double_click_distance;
+           std::abs(x - last_press_x_) <= aim_of(pointer_).second_click &&
+           std::abs(y - last_press_y_) <= aim_of(pointer_).second_click;
+}
+
+bool Mouse::is_tap(float x, float y) const {
+    const float reach = aim_of(pointer_).tap;
+    return !moved_ && std::abs(x - press_x_) <= reach && std::abs(y - press_y_) <= reach;
 }
 
 void Mouse::start_drag(Image& image) {
@@ -71,7 +88,8 @@ void Mouse::start_drag(Image& image) {
 }
 
 void Mouse::move(float x, float y) {
-    if (!dragged_ || (x == x_ && y == y_)) return;
+    if (!dragged_ || (x == x_ && y == y_) || is_tap(x, y)) return;
+    moved_ = true;
     x_ = x;
     y_ = y;
     look_for_receiver();
@@ -81,7 +99,7 @@ void Mouse::move(float x, float y) {
 // Whether it is another one now.
 bool Mouse::look_for_receiver() {
     const Image* target = on_hover && is_seen(x_, y_) ? image_at(x_, y_) : nullptr;
-    const float offset_x = target ? (x_ - target->left()) * twips_per_pixel : 0;
+    const float offset_x = target ? offset_in(*target, x_) : 0;
     const Widget* receiver = target ? on_hover(*dragged_, *target, offset_x) : nullptr;
     if (receiver == receiver_) return false;
     std::vector<Image*> taken = receiver && on_take ? on_take(*dragged_, *target, offset_x) : taken_up_;
@@ -107,6 +125,7 @@ void Mouse::follow_layout() {
     const float press_y = dragged_->top() + hold_y_ * dragged_->height();
     const bool other_receiver = look_for_receiver();
     if (press_x == press_x_ && press_y == press_y_ && !other_receiver) return;
+    moved_ = moved_ || press_x != press_x_ || press_y != press_y_;
     press_x_ = press_x;
     press_y_ = press_y;
     drag_changed();
@@ -118,6 +137,12 @@ void Mouse::release(float x, float y, MouseButton button) {
         cancel();
         return;
     }
+    if (is_tap(x, y)) {
+        x = press_x_;
+        y = press_y_;
+    } else {
+        moved_ = true;
+    }
     if (dragged_) {
         drop(x, y);
     } else if (pressed_) {
@@ -127,13 +152,19 @@ void Mouse::release(float x, float y, MouseButton button) {
     }
 }
 
+float Mouse::offset_in(const Image& target, float x) const {
+    const bool is_plain = pointer_ == Pointer::keys || (pointer_ != Pointer::mouse && !moved_);
+    if (is_plain && plain_offset_) return *plain_offset_;
+    return (x - target.left()) * twips_per_pixel;
+}
+
 void Mouse::drop(float x, float y) {
     Image& source = *dragged_;
     // Put down first: a message that the drop raises must not show the cards still lifted.
     put_down();
     Image* target = is_seen(x, y) ? image_at(x, y) : nullptr;
     if (target && target->events().drop) {
-        const float offset_x = (x - target->left()) * twips_per_pixel;
+        const float offset_x = offset_in(*target, x);
         const float offset_y = (y - target->top()) * twips_per_pixel;
         desktop().event([&] { target->events().drop(target->index(), source, offset_x, offset_y); });
     }

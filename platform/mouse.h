@@ -15,19 +15,25 @@ class Widget;
 
 enum class MouseButton { left, other };
 
-/// What the left mouse button does to the images of one window: clicks and two-click events on images that
-/// are dragged by hand, drags and drops of those on automatic drag. Places are pixels of the board: those of
-/// the window's client area, as long as it is not scrolled.
+/// What plays on a board.
+enum class Pointer { mouse, pen, finger, keys };
+
+/// What the left mouse button, a pen or a finger does to the images of one window: clicks and two-click
+/// events on images that are dragged by hand, drags and drops of those on automatic drag. Places are pixels
+/// of the board: those of the window's client area, as long as it is not scrolled.
 class Mouse {
   public:
     explicit Mouse(Window& window) : window_(window) {}
 
-    void press(float x, float y, MouseButton button = MouseButton::left);
+    void press(float x, float y, MouseButton button = MouseButton::left, Pointer by = Pointer::mouse);
     void move(float x, float y);
     void release(float x, float y, MouseButton button = MouseButton::left);
     /// Only this part of the board is seen, in its pixels: what lies elsewhere is neither clicked nor dropped
     /// on. Without it, what lies in the window's client area.
     void set_seen_area(const std::optional<Rect>& area) { seen_area_ = area; }
+    /// A drop by keys, which do not aim within an image, or by a tap of a pen or finger, which aims badly,
+    /// counts as one so many twips from the left edge. Without it, the place itself counts.
+    void set_plain_offset(float offset_x) { plain_offset_ = offset_x; }
     /// What lies on the board may have moved under a drag: the lifted images are held where they were taken
     /// hold of, and what would receive them is looked for anew.
     void follow_layout();
@@ -45,6 +51,13 @@ class Mouse {
     /// How far the pointer has moved since the drag's press.
     float drag_dx() const { return x_ - press_x_; }
     float drag_dy() const { return y_ - press_y_; }
+
+    /// Where the dragged image is held now, as long as it lies where it is.
+    float press_x() const { return press_x_; }
+    float press_y() const { return press_y_; }
+    /// Whether something was pressed and not let go of yet, and what did so last.
+    bool is_down() const { return dragged_ || pressed_; }
+    Pointer pointer() const { return pointer_; }
 
     /// What would receive a drop where the pointer is now, or null.
     const Widget* receiver() const { return receiver_; }
@@ -67,7 +80,9 @@ class Mouse {
     bool is_second_click(const Image& image, float x, float y) const;
     void start_drag(Image& image);
     bool is_seen(float x, float y) const;
+    bool is_tap(float x, float y) const;
     bool look_for_receiver();
+    float offset_in(const Image& target, float x) const;
     void drop(float x, float y);
     void put_down();
     void drag_changed() const;
@@ -80,6 +95,9 @@ class Mouse {
     std::vector<Image*> lifted_;
     const Widget* receiver_ = nullptr;
     bool glides_back_ = false;
+    Pointer pointer_ = Pointer::mouse;
+    bool moved_ = false;  ///< farther than within a tap
+    std::optional<float> plain_offset_;
     float press_x_ = 0;
     float press_y_ = 0;
     // Where the dragged image was taken hold of, as parts of its width and height.

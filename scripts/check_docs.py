@@ -32,6 +32,8 @@ RUN = {
     "tarnwick --deal N": "build/tarnwick --deal 5 --version",
     "tarnwick --store FILE": "build/tarnwick --store SCRATCH/settings.sqlite --version",
     "tarnwick --record FILE": "build/tarnwick --record SCRATCH/game.txt --version",
+    "tarnwick --four-colors": "build/tarnwick --four-colors --version",
+    "tarnwick --high-contrast": "build/tarnwick --high-contrast --version",
     "tarnwick --help": "build/tarnwick --help",
     "tarnwick --version": "build/tarnwick --version",
     "build/core_tests --gtest_filter='Undo*'": None,

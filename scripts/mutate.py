@@ -139,8 +139,10 @@ MUTATIONS = {
         ("    if (!slide_wins() || !all_ace_piles_complete()) return false;", "    return false;", "a slide cut short loses the win"),
         ("if (frmcards.enabled()) new_game", "new_game", "the next game is dealt behind the win dialog"),
     ],
-    "game/tablet.cpp": [
+    "board/display.h": [
         ("cards_per_turn = 5", "cards_per_turn = 4", "four cards are turned"),
+    ],
+    "game/tablet.cpp": [
         ("face_down > cards_per_turn", "face_down >= cards_per_turn", "five left: the stock stays"),
         ("last_tablet_slot() < cards_per_turn ?", "last_tablet_slot() <= cards_per_turn ?", "a pass of six"),
         ("last_tablet_slot() < cards_per_turn &&", "last_tablet_slot() <= cards_per_turn &&", "six are turned for good"),

@@ -7,7 +7,7 @@ DESKTOP_PACKAGES="qt6-base-dev qt6-svg-dev libx11-dev libxtst-dev fonts-dejavu-c
 VIRTUAL_DISPLAY_PACKAGES="xvfb xauth openbox"
 # A Wayland compositor and the toolkit's part of it.
 WAYLAND_PACKAGES="weston qt6-wayland"
-TEST_PACKAGES="libgtest-dev libsm-dev libice-dev"
+TEST_PACKAGES="libgtest-dev libsm-dev libice-dev dbus-daemon"
 # What looks at the installed program, as the desktop does.
 PACKAGE_CHECKS="desktop-file-utils appstream lintian man-db xdotool"
 

@@ -67,6 +67,7 @@ void attach_mouse_and_keys() {
         drop_on_image(index, source, x);
     };
     frmcards.on_key_down = key_down;
+    frmcards.mouse().set_plain_offset(static_cast<float>(plain_click_offset * twips_per_pixel));
     frmcards.mouse().on_lift = lifted_cards;
     frmcards.mouse().on_hover = receiver;
     frmcards.mouse().on_take = taken;

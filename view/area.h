@@ -75,6 +75,15 @@ Rectangle<Number> united(const Rectangle<Number>& a, const Rectangle<Number>& b)
     return {left, top, std::max(a.right(), b.right()) - left, std::max(a.bottom(), b.bottom()) - top};
 }
 
+/// What two rectangles have in common; empty where they do not meet.
+template <class Number>
+Rectangle<Number> common(const Rectangle<Number>& a, const Rectangle<Number>& b) {
+    if (!a.meets(b)) return {};
+    const auto left = std::max(a.left, b.left);
+    const auto top = std::max(a.top, b.top);
+    return {left, top, std::min(a.right(), b.right()) - left, std::min(a.bottom(), b.bottom()) - top};
+}
+
 /// All pixels that a rectangle touches.
 inline Area around(const Box& box) {
     const int left = static_cast<int>(std::floor(box.left));

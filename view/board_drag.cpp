@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "view/contrast.h"
 #include "view/picture_place.h"
 
 namespace tarnwick {
@@ -20,6 +21,18 @@ constexpr double darkest_shadow = 110;
 Box marked_place(const Widget& receiver) {
     if (receiver.kind() != WidgetKind::image) return box_of(receiver.place());
     return picture_place(static_cast<const Image&>(receiver));
+}
+
+PaintedMark faint_mark(const Box& place, double radius, double ratio) {
+    const double line = std::max(2.0, std::floor(2 * ratio));
+    return {place.grown(-line / 2), mark_color, line, radius, mark_line_opacity, mark_fill_opacity};
+}
+
+// On cards as on the table: the rim is there in any case.
+PaintedMark strong_mark(const Box& place, double radius, Color table, double ratio) {
+    const Color color = strong_line(mark_color, table).color;
+    const double line = std::ceil(high_contrast_line * ratio);
+    return {place.grown(-1.5 * line), color, line, radius, 255, 0, PaintedRim{farthest_from(color), line}};
 }
 
 // The light comes from above: the shadow lies a little lower than the pile.
@@ -45,9 +58,14 @@ Box BoardDrag::place_of(const Image& image) const {
     return picture_place(image).shifted(offset().x, offset().y);
 }
 
-Area BoardDrag::area() const {
+Box BoardDrag::place() const {
     Box bounds;
     for (const Image* image : lifted()) bounds = united(bounds, place_of(*image));
+    return bounds;
+}
+
+Area BoardDrag::area() const {
+    const Box bounds = place();
     return bounds.empty() ? Area() : touched(bounds.grown(shadow_reach));
 }
 
@@ -56,22 +74,19 @@ Area BoardDrag::mark_area() const {
     return receiver && receiver->visible() ? touched(marked_place(*receiver)) : Area();
 }
 
-void BoardDrag::add_to(BoardLayers& layers, double ratio) const {
+void BoardDrag::add_to(BoardLayers& layers, double ratio, bool strong) const {
     if (layers.area.meets(mark_area())) {
         const Box place = marked_place(*form_.mouse().receiver());
-        const double line = std::max(2.0, std::floor(2 * ratio));
-        layers.mark = PaintedMark{box_of(snapped(place, ratio)).grown(-line / 2),
-                                  mark_color,
-                                  line,
-                                  corner_radius(place.width, ratio),
-                                  mark_line_opacity,
-                                  mark_fill_opacity};
+        const double radius = corner_radius(place.width, ratio);
+        const Box device = box_of(snapped(place, ratio));
+        layers.mark = strong ? strong_mark(device, radius, form_.back_color(), ratio)
+                             : faint_mark(device, radius, ratio);
     }
     if (!layers.area.meets(area())) return;
     Area pile;
     const auto add = [&](const Image& image) {
         if (!is_seen(image)) return;
-        layers.lifted.push_back({image.picture(), snapped(place_of(image), ratio), image.bordered()});
+        layers.lifted.push_back({image.picture(), snapped(place_of(image), ratio)});
     };
     for (const Image* image : lifted()) {
         pile = united(pile, snapped(place_of(*image), ratio));

@@ -19,13 +19,15 @@ class BoardDrag {
     /// there.
     const std::vector<Image*>& lifted() const;
     Shift offset() const;
-    /// Where they are seen, with their shadow; empty when there are none.
+    /// Where they are seen, without and with their shadow; empty when there are none.
+    Box place() const;
     Area area() const;
     /// Where the mark is seen; empty when there is none.
     Area mark_area() const;
 
     /// Adds what is seen of the drag to what is painted, as far as it lies in the area of that.
-    void add_to(BoardLayers& layers, double ratio) const;
+    /// @param strong  whether the mark is to be seen in high contrast
+    void add_to(BoardLayers& layers, double ratio, bool strong) const;
 
     /// Takes note of what the mouse does now; `glides` allows a way back. The result are the images whose own
     /// places look different from now on; none when the lifted ones were only moved.

@@ -65,15 +65,15 @@ struct PaintedOutline {
     Look look;
 };
 
-/// A picture, in whole device pixels. A border is a black line of one device pixel, inside of the place.
+/// A picture, in whole device pixels. The opacity goes from 0 to 255.
 struct PaintedImage {
     Picture picture;
     Area place;
-    bool bordered = false;
+    int opacity = 255;
 };
 
-/// What marks the receiver of a drag: a line and what it surrounds, in one colour. Device pixels; the
-/// opacities go from 0 to 255.
+/// What marks the receiver of a drag: a line and what it surrounds, in one colour. A rim, if there is one,
+/// runs along both sides of the line. Device pixels; the opacities go from 0 to 255.
 struct PaintedMark {
     Box middle;
     Color color = black;
@@ -81,6 +81,15 @@ struct PaintedMark {
     double radius = 0;
     int line_opacity = 255;
     int fill_opacity = 255;
+    std::optional<PaintedRim> rim = std::nullopt;
+};
+
+/// The outline of a rectangle with round corners.
+struct PaintedRing {
+    Box middle;  ///< of the line
+    Color color = black;
+    double line = 1;
+    double radius = 0;
 };
 
 /// The shadow of a pile of lifted cards. Device pixels: it reaches `reach` beyond the pile on every side,
@@ -99,19 +108,20 @@ struct PaintedPlate {
     double radius = 0;
 };
 
-/// A text in the desktop's font, in the middle of the height of its place. Pixels of the board; it may reach
-/// beyond its place. The text is valid until the label changes.
+/// A text in the desktop's font, so many times as large, in the middle of the height of its place. Pixels of
+/// the board; it may reach beyond its place. The text is valid until the label changes.
 struct PaintedLabel {
     Box place;
     std::string_view text;
     Color color = black;
     Alignment alignment = Alignment::left;
+    double font_scale = 1;
+    std::optional<PaintedRim> rim;
 };
 
-/// All that is seen of an area of a board, from back to front, in the order of these members but the
-/// last. What only
-/// reaches into the area is listed whole: the area clips it. All places count from the upper left corner of
-/// the board, those of the labels too: a front end shifts them all up by BoardScroll::offset().
+/// All that is seen of an area of a board, from back to front, in the order of these members but the last.
+/// What only reaches into the area is listed whole: the area clips it. All places count from the upper left
+/// corner of the board, those of the labels too: a front end shifts them all up by BoardScroll::offset().
 struct BoardLayers {
     Area area;  ///< pixels of the board
     const PaintedGround* ground = nullptr;
@@ -120,8 +130,10 @@ struct BoardLayers {
     std::optional<PaintedMark> mark;
     std::optional<PaintedShadow> shadow;
     std::vector<PaintedImage> lifted;
+    std::vector<PaintedRing> rings;  ///< of the keyboard's cursor
     std::optional<PaintedPlate> plate;
     std::vector<PaintedLabel> labels;
+    std::vector<PaintedImage> celebration;
     /// Not seen yet, but soon: so that their pictures can be drawn now, and not while all moves.
     std::vector<PaintedImage> coming;
 };

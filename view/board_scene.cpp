@@ -4,8 +4,10 @@
 #include <cmath>
 
 #include "platform/controls.h"
+#include "view/contrast.h"
 #include "view/empty_place.h"
 #include "view/picture_place.h"
+#include "view/pile_edges.h"
 #include "windows/pictures.h"
 
 namespace tarnwick {
@@ -18,22 +20,28 @@ void for_each_visible(const Form& form, WidgetKind kind, Action action) {
     }
 }
 
-}  // namespace
-
-// A row of labels at the lower left corner grows to the right and upwards, and keeps its order.
-Box BoardScene::label_place(const Rect& place, double scale) const {
-    const Box given = box_of(place);
-    const double height = given.height * scale;
-    return {given.left * scale, given.bottom() - height + scrolled_, given.width * scale, height};
+// Around glyphs that the colour of the table does not set off well enough to be read: a soft one, that does.
+std::optional<PaintedRim> text_rim(Color text, Color table, double font_scale, bool strong) {
+    constexpr double well_readable = 4.5;
+    if (contrast(text, table) >= (strong ? high_contrast : well_readable)) return std::nullopt;
+    const Color color = farthest_from(text);
+    const int opacity = strong ? 255 : opacity_for(high_contrast, text, color, table);
+    return PaintedRim{color, std::max(1.0, 0.6 * font_scale), opacity};
 }
+
+}  // namespace
 
 Area BoardScene::area_of(const Widget& widget, const Rect& place) const {
     if (widget.kind() == WidgetKind::image) {
-        const Box seen = picture_place(static_cast<const Image&>(widget), place);
+        const Box seen = pile_place(static_cast<const Image&>(widget), place);
         // An image that has not moved may have begun or ceased to stretch.
         return touched(place == widget.place() ? united(seen, box_of(place)) : seen);
     }
-    if (widget.kind() == WidgetKind::label) return touched(label_place(place, label_scale()));
+    if (widget.kind() == WidgetKind::label) {
+        const LabelRow row(form_, texts_);
+        // A rim reaches beyond the place.
+        return touched(row.place(place).shifted(0, scrolled_).grown(row.font_scale()));
+    }
     return touched(box_of(place));
 }
 
@@ -45,26 +53,9 @@ int BoardScene::lower_edge() const {
     return static_cast<int>(std::ceil(edge));
 }
 
-double BoardScene::label_scale() const {
-    const double height = static_cast<double>(texts_.height({}));
-    double scale = 1;
-    for_each_visible<Label>(form_, WidgetKind::label, [&](const Label& label) {
-        const Box place = box_of(label.place());
-        if (label.caption().empty() || place.empty()) return;
-        const double width = static_cast<double>(texts_.width(label.caption(), {}));
-        scale = std::max({scale, width / place.width, height / place.height});
-    });
-    return scale;
-}
-
-Area BoardScene::plate(double label_scale) const {
-    constexpr double margin = 4;
-    Box row;
-    for_each_visible<Label>(form_, WidgetKind::label, [&](const Label& label) {
-        row = united(row, label_place(label.place(), label_scale));
-    });
-    if (row.empty()) return {};
-    return around({row.left - margin, row.top - 1, row.width + 2 * margin, row.height + 2});
+Area BoardScene::plate(const LabelRow& row) const {
+    const Box box = row.surroundings();
+    return box.empty() ? Area() : around(box.shifted(0, scrolled_));
 }
 
 const BoardLayers& BoardScene::layers(double ratio) {
@@ -80,15 +71,19 @@ const BoardLayers& BoardScene::layers(const Area& area, double ratio) {
     layers_.mark.reset();
     layers_.shadow.reset();
     layers_.lifted.clear();
+    layers_.rings.clear();
     layers_.plate.reset();
     layers_.labels.clear();
+    layers_.celebration.clear();
     layers_.coming.clear();
     add_images(ratio);
     add_outlines(ratio);
     // A card on its way hides no place: it is about to leave it.
     motion_.add_to(layers_, ratio);
-    drag_.add_to(layers_, ratio);
+    drag_.add_to(layers_, ratio, strong_);
+    cursor_.add_to(layers_, form_.back_color(), ratio);
     add_labels(ratio);
+    celebration_.add_to(layers_, scrolled_, ratio);
     return layers_;
 }
 
@@ -102,7 +97,7 @@ const PaintedGround& BoardScene::ground(const Area& area, double ratio) {
         seen, {device(window.width), device(window.height)}, device(scrolled_), form_.back_color());
 }
 
-// Those under a card are left out: nothing is seen of them.
+// Those under a card are left out, for nothing is seen of them, and those that a deal is about to cover.
 void BoardScene::add_outlines(double ratio) {
     for_each_visible<Outline>(form_, WidgetKind::outline, [&](const Outline& outline) {
         const Box box = box_of(outline.place());
@@ -110,8 +105,10 @@ void BoardScene::add_outlines(double ratio) {
         const Area place = snapped(box, ratio);
         const auto covers = [&](const PaintedImage& image) { return image.place == place; };
         if (std::any_of(layers_.images.begin(), layers_.images.end(), covers)) return;
-        layers_.outlines.push_back(
-            empty_place(place, corner_radius(box.width, ratio), outline, form_.back_color(), ratio));
+        if (motion_.deals_to(place, ratio)) return;
+        // Of the whole pixels: most steps of a window that is resized leave the place as it looked.
+        const double radius = corner_radius(place.width / ratio, ratio);
+        layers_.outlines.push_back(empty_place(place, radius, outline, form_.back_color(), ratio, strong_));
     });
 }
 
@@ -138,12 +135,17 @@ void BoardScene::add_images(double ratio) {
         if (!is_seen(**image) || std::find(elsewhere.begin(), elsewhere.end(), *image) != elsewhere.end())
             continue;
         if (motion_.moves(**image)) continue;
+        if (!layers_.area.meets(touched(pile_place(**image, (*image)->place())))) continue;
         const Box box = picture_place(**image);
-        if (!layers_.area.meets(touched(box))) continue;
         const Area place = snapped(box, ratio);
         const auto covers = [&](const PaintedImage& upper) { return upper.place == place; };
         if (std::any_of(painted.begin(), painted.end(), covers)) continue;
-        painted.push_back({(*image)->picture(), place, (*image)->bordered()});
+        painted.push_back({(*image)->picture(), place});
+        for (int edge = 1; edge <= pile_edges(**image); ++edge) {
+            const Shift out = edge_shift(box.width, edge, ratio);
+            painted.push_back(
+                {(*image)->picture(), place.shifted(static_cast<int>(out.x), static_cast<int>(out.y))});
+        }
     }
     std::reverse(painted.begin(), painted.end());
 }
@@ -161,16 +163,23 @@ bool BoardScene::is_seen_within(const Area& place) const {
 // Above all cards: the score can always be read. Where cards lie under it, the colour of the table is laid
 // between them.
 void BoardScene::add_labels(double ratio) {
-    const double scale = label_scale();
-    const Area around_labels = plate(scale);
+    const LabelRow row(form_, texts_);
+    const Area around_labels = plate(row);
     if (!layers_.area.meets(around_labels)) return;
+    const double scale = row.font_scale();
     if (is_seen_within(around_labels)) {
-        layers_.plate = PaintedPlate{snapped(box_of(around_labels), ratio), corner_radius(card_width, ratio)};
+        layers_.plate =
+            PaintedPlate{snapped(box_of(around_labels), ratio), corner_radius(card_width * scale, ratio)};
     }
     for_each_visible<Label>(form_, WidgetKind::label, [&](const Label& label) {
-        const Box place = label_place(label.place(), scale);
-        if (!layers_.area.meets(touched(place))) return;
-        layers_.labels.push_back({place, label.caption(), label.text_color(), label.alignment()});
+        const Box place = row.place(label.place()).shifted(0, scrolled_);
+        if (!layers_.area.meets(touched(place.grown(scale)))) return;
+        layers_.labels.push_back({place,
+                                  label.caption(),
+                                  label.text_color(),
+                                  label.alignment(),
+                                  scale,
+                                  text_rim(label.text_color(), form_.back_color(), scale, strong_)});
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "platform/desktop.h"
 #include "platform/key_codes.h"
@@ -9,10 +10,8 @@
 namespace tarnwick {
 namespace {
 
-// Beyond so many areas, painting the whole board costs less than keeping them apart.
-constexpr int most_repaints = 24;
-// Milliseconds from one picture of a glide to the next.
-constexpr int frame_time = 16;
+// A pointer that has moved so far, in pixels, is meant to play: less may be a bump against the table.
+constexpr double deliberate_move = 8;
 
 }  // namespace
 
@@ -20,98 +19,79 @@ BoardStage::BoardStage(Form& form, const TextMeasure& texts, BoardFront& front)
     : form_(form),
       front_(front),
       scene_(form, texts),
+      repaints_(front, scroll_),
+      moves_(form, scene_, repaints_, front),
+      keys_(form, scene_, repaints_, front),
+      look_(form),
       color_(form.back_color()),
-      plate_(scene_.plate()),
-      label_scale_(scene_.label_scale()) {}
+      label_scale_(scene_.label_scale()) {
+    scene_.set_high_contrast(front.wants_high_contrast());
+}
+
+void BoardStage::contrast_changed() {
+    scene_.set_high_contrast(front_.wants_high_contrast());
+    repaints_.add_all();
+}
 
 void BoardStage::widget_changed(const Widget& widget, const Rect& before) {
-    if (widget.kind() == WidgetKind::label) update_labels();
+    if (widget.kind() == WidgetKind::label || widget.kind() == WidgetKind::outline) update_labels();
     if (widget.kind() == WidgetKind::image) {
         const auto& image = static_cast<const Image&>(widget);
         if (const Glide& glide = scene_.drag().glide(); glide.moves(image)) {
             scene_.motion().let_go(glide.images(), glide.offset());
-            end_glide();
+            moves_.end_glide();
         }
         scene_.motion().image_changed(image);
         settle_later();
     }
-    repaint(scene_.area_of(widget, before));
-    if (widget.place() != before) repaint(scene_.area_of(widget));
+    repaints_.add(scene_.area_of(widget, before));
+    if (widget.place() != before) repaints_.add(scene_.area_of(widget));
 }
 
 void BoardStage::update_labels() {
-    plate_ = scene_.plate();
+    moves_.plate_moved();
     const double scale = scene_.label_scale();
     if (scale == label_scale_) return;
     label_scale_ = scale;
-    repaint_all();
+    repaints_.add_all();
 }
 
-void BoardStage::form_changed() {
-    if (color_ == form_.back_color()) return;
-    color_ = form_.back_color();
-    repaint_all();
-}
-
-void BoardStage::drag_changed() {
-    const bool glides = !holds() && front_.allows_motion();
-    repaint_home(scene_.drag().follow(desktop().now(), glides));
-    repaint_lifted();
-    repaint_mark();
+void BoardStage::won(Form& next, const std::vector<std::vector<const Image*>>& piles) {
+    if (size_.width > 0) moves_.celebrate(next, piles, size_);
     update_steps();
 }
 
-// What lies at the images' own places is seen or hidden.
-void BoardStage::repaint_home(const std::vector<Image*>& images) {
-    for (const Image* image : images) repaint(scene_.area_of(*image));
+void BoardStage::end_celebration() {
+    moves_.end_celebration();
+    update_steps();
 }
 
-void BoardStage::repaint_lifted() {
-    const Area before = lifted_area_;
-    lifted_area_ = scene_.drag().area();
-    // One rectangle paints faster than the several that two overlapping ones are made of.
-    if (before.meets(lifted_area_)) {
-        repaint(united(before, lifted_area_));
-    } else {
-        repaint(before);
-        repaint(lifted_area_);
-    }
+void BoardStage::form_changed() {
+    update_pointer();
+    if (color_ == form_.back_color()) return;
+    color_ = form_.back_color();
+    repaints_.add_all();
 }
 
-void BoardStage::repaint_mark() {
-    const Area before = mark_area_;
-    mark_area_ = scene_.drag().mark_area();
-    if (mark_area_ == before) return;
-    repaint(before);
-    repaint(mark_area_);
-}
-
-void BoardStage::repaint_all() {
-    repaints_ = most_repaints;
-    front_.repaint_all();
-}
-
-void BoardStage::repaint(const Area& area) {
-    if (area.empty() || repaints_ >= most_repaints) return;
-    if (++repaints_ == most_repaints) {
-        front_.repaint_all();
-        return;
-    }
-    front_.repaint(area.shifted(0, -scroll_.offset()));
-    // With a card below them, the labels are painted on a plate.
-    if (area.meets(plate_)) front_.repaint(plate_.shifted(0, -scroll_.offset()));
+void BoardStage::drag_changed() {
+    moves_.follow_drag();
+    keys_.drag_changed();
+    if (keys_.hold() != std::exchange(keys_held_, keys_.hold())) settle_later();
+    if (holds() != std::exchange(held_, holds())) update_pointer();
+    update_steps();
 }
 
 void BoardStage::resized(PixelSize size) {
+    end_celebration();
     size_ = size;
     scroll_.set_page(size.height);
-    end_glide();
-    repaint_all();
+    moves_.end_glide();
+    repaints_.add_all();
     show_part();
     settle_later();
     form_.user_resized(size);
-    motion_areas_.clear();
-    scene_.motion().rest();
+    moves_.rest();
+    keys_.update();
 }
 
 void BoardStage::settle_later() {
@@ -125,48 +105,94 @@ void BoardStage::settle() {
     if (!form_.loaded()) return;
     scroll([this] { scroll_.set_lower_edge(scene_.lower_edge()); });
     front_.scroll_changed();
-    begin_motion();
+    // Nothing was seen elsewhere before the first picture.
+    painted_ ? moves_.begin_motion() : moves_.rest();
+    keys_.update();
+    update_pointer();
     update_steps();
 }
 
-void BoardStage::press(double x, double y, MouseButton button) {
+Point BoardStage::on_board(Point place) const { return {place.x, place.y + scroll_.offset()}; }
+
+// While a pointer has pressed, the others are nothing to the board. It takes over what the keys hold.
+bool BoardStage::another_plays(Pointer by) const {
+    return form_.mouse().is_down() && form_.mouse().pointer() != by && !keys_.hold();
+}
+
+void BoardStage::press(double x, double y, MouseButton button, Pointer by) {
+    if (another_plays(by)) return;
+    end_celebration();
     if (form_.accepts_input()) {
-        end_glide();
+        moves_.end_glide();
         end_motion();
+        keys_.hide();
     }
-    pointer_x_ = x;
-    pointer_y_ = y;
-    form_.mouse().press(static_cast<float>(x), static_cast<float>(y + scroll_.offset()), button);
+    pointer_ = {x, y};
+    const Point at = on_board(pointer_);
+    form_.mouse().press(static_cast<float>(at.x), static_cast<float>(at.y), button, by);
 }
 
-void BoardStage::move(double x, double y, bool left_button) {
+void BoardStage::move(double x, double y, bool left_button, Pointer by) {
+    if (another_plays(by)) return;
     // Somebody else took the mouse, and its button was let go there.
-    if (!left_button) return cancel();
-    point_at(x, y);
+    if (!left_button && form_.mouse().is_down() && !keys_.hold()) return cancel();
+    if (std::hypot(x - rest_.x, y - rest_.y) > deliberate_move) keys_.hide();
+    if (by != Pointer::finger) hover_ = {x, y};
+    point_at({x, y});
 }
 
-void BoardStage::point_at(double x, double y) {
-    pointer_x_ = x;
-    pointer_y_ = y;
-    form_.mouse().move(static_cast<float>(x), static_cast<float>(y + scroll_.offset()));
+void BoardStage::point_at(Point place) {
+    pointer_ = place;
+    const Point at = on_board(place);
+    if (pointer_holds()) return form_.mouse().move(static_cast<float>(at.x), static_cast<float>(at.y));
+    if (look_.move(on_board(hover_))) front_.pointer_shape_changed();
 }
 
-void BoardStage::release(double x, double y, MouseButton button, bool elsewhere) {
+void BoardStage::release(double x, double y, MouseButton button, bool elsewhere, Pointer by) {
+    if (keys_.hold() || another_plays(by)) return;
     if (elsewhere && holds()) return cancel();
-    form_.mouse().release(static_cast<float>(x), static_cast<float>(y + scroll_.offset()), button);
+    const Point at = on_board({x, y});
+    form_.mouse().release(static_cast<float>(at.x), static_cast<float>(at.y), button);
 }
 
-bool BoardStage::key_down(int key_code) {
+void BoardStage::cancel(Pointer by) {
+    if (plays(by)) cancel();
+}
+
+bool BoardStage::key_down(int key_code, bool again) {
+    end_celebration();
     if (key_code == escape_key && holds()) {
         cancel();
         return true;
     }
     if (form_.accepts_input()) {
-        end_glide();
+        moves_.end_glide();
         end_motion();
         scroll([=, this] { scroll_.press(key_code); });
+        const bool fills_screen = front_.full_screen();
+        if (key_code == f11_key || (key_code == escape_key && fills_screen)) {
+            if (!again) front_.set_full_screen(!fills_screen);
+            return true;
+        }
+        if (cursor_key(key_code, again)) return true;
     }
     return key_code != 0 && form_.key_down(key_code);
+}
+
+bool BoardStage::cursor_key(int key_code, bool again) {
+    if (!keys_.take(key_code)) return false;
+    if (form_.mouse().is_down() && !keys_.hold()) return true;
+    rest_ = hover_;
+    const Area place = keys_.go(key_code);
+    reveal(place.bottom() - 1);
+    reveal(place.top);
+    keys_.update();
+    if (key_code == enter_key && !again) keys_.enter();
+    return true;
+}
+
+void BoardStage::update_pointer() {
+    if (look_.look_again(on_board(hover_))) front_.pointer_shape_changed();
 }
 
 void BoardStage::scroll_to(int value) {
@@ -191,64 +217,44 @@ void BoardStage::scroll(Action action) {
     front_.scroll_changed();
     if (scroll_.offset() == offset) return;
     show_part();
-    repaint_all();
+    repaints_.add_all();
     // Under a pointer that holds cards another part of the board lies now.
-    if (holds()) point_at(pointer_x_, pointer_y_);
+    if (pointer_holds()) point_at(pointer_);
+    update_pointer();
 }
 
 // What is not seen takes no clicks and no drops.
 void BoardStage::show_part() {
     scene_.set_scrolled(scroll_.offset());
-    plate_ = scene_.plate();
+    moves_.plate_moved();
     form_.mouse().set_seen_area(Rect{0,
                                      static_cast<float>(scroll_.offset()),
                                      static_cast<float>(size_.width),
                                      static_cast<float>(size_.height)});
 }
 
+std::optional<BoardTip> BoardStage::tip_at(double x, double y) const {
+    if (holds() || !form_.accepts_input()) return std::nullopt;
+    return tarnwick::tip_at(form_, scene_, {x, y});
+}
+
 int BoardStage::edge_ahead() const {
     const Shift moved = scene_.drag().offset();
-    if (!holds() || std::abs(moved.x) + std::abs(moved.y) < BoardScroll::edge_reach) return 0;
-    return scroll_.ahead(pointer_y_);
-}
-
-void BoardStage::end_glide() {
-    if (scene_.drag().glide().images().empty()) return;
-    repaint_home(scene_.drag().end_glide());
-    repaint_lifted();
-    update_steps();
-}
-
-void BoardStage::repaint_motion() {
-    std::vector<Area> areas = std::move(motion_areas_);
-    motion_areas_ = scene_.motion().areas();
-    for (const Area& area : motion_areas_) add_area(areas, area);
-    for (const Area& area : areas) repaint(area);
-}
-
-void BoardStage::begin_motion() {
-    // Behind a dialog nothing moves.
-    scene_.motion().begin(desktop().now(), front_.allows_motion() && form_.accepts_input());
-    repaint_motion();
+    if (!pointer_holds() || std::abs(moved.x) + std::abs(moved.y) < BoardScroll::edge_reach) return 0;
+    return scroll_.ahead(pointer_.y);
 }
 
 void BoardStage::end_motion() {
-    if (!scene_.motion().under_way()) return;
-    scene_.motion().land();
-    repaint_motion();
-    scene_.motion().end();
-    motion_areas_.clear();
+    moves_.land_motion();
+    // What was to set out when the event before has settled stays where it lies, too.
+    if (settles_later_) scene_.motion().rest();
     update_steps();
 }
 
 void BoardStage::update_steps() {
     const std::optional<std::int64_t> before = next_step();
     const std::int64_t now = desktop().now();
-    if (scene_.drag().glide().images().empty() && !scene_.motion().under_way()) {
-        next_frame_.reset();
-    } else if (!next_frame_) {
-        next_frame_ = now + frame_time;
-    }
+    moves_.schedule(now);
     if (edge_ahead() == 0) {
         next_edge_step_.reset();
     } else if (!next_edge_step_) {
@@ -258,28 +264,17 @@ void BoardStage::update_steps() {
 }
 
 std::optional<std::int64_t> BoardStage::next_step() const {
-    if (!next_frame_ || !next_edge_step_) return next_frame_ ? next_frame_ : next_edge_step_;
-    return std::min(*next_frame_, *next_edge_step_);
+    const std::optional<std::int64_t> next_frame = moves_.next_frame();
+    if (!next_frame || !next_edge_step_) return next_frame ? next_frame : next_edge_step_;
+    return std::min(*next_frame, *next_edge_step_);
 }
 
 void BoardStage::step() {
     const std::int64_t now = desktop().now();
-    if (next_frame_ && *next_frame_ <= now) {
-        next_frame_.reset();
-        if (scene_.drag().glide_on(now)) {
-            repaint_lifted();
-        } else {
-            end_glide();
-        }
-        if (scene_.motion().step(now)) {
-            repaint_motion();
-        } else {
-            end_motion();
-        }
-    }
+    moves_.step(now);
     if (next_edge_step_ && *next_edge_step_ <= now) {
         next_edge_step_.reset();
-        scroll([this] { scroll_.step_ahead(pointer_y_); });
+        scroll([this] { scroll_.step_ahead(pointer_.y); });
     }
     update_steps();
 }

@@ -1,6 +1,7 @@
 #include "view/contrast.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace tarnwick {
@@ -8,9 +9,20 @@ namespace {
 
 constexpr Color white = color_of(255, 255, 255);
 
+// Of every part that a colour can have: asked for far more often than there are any.
+std::array<double, 256> linear_parts() {
+    std::array<double, 256> parts{};
+    for (int part = 0; part < 256; ++part) {
+        const double value = part / 255.0;
+        parts.at(static_cast<std::size_t>(part)) =
+            value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    }
+    return parts;
+}
+
 double linear(int part) {
-    const double value = part / 255.0;
-    return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    static const std::array<double, 256> parts = linear_parts();
+    return parts.at(static_cast<std::size_t>(part));
 }
 
 double luminance(Color color) {
@@ -35,10 +47,23 @@ double contrast(Color a, Color b) {
 
 Color farthest_from(Color color) { return contrast(black, color) > contrast(white, color) ? black : white; }
 
-int opacity_for(double wanted, Color color, Color ground) {
+int opacity_for(double wanted, Color from, Color color, Color ground) {
     int opacity = 0;
-    while (opacity < 255 && contrast(laid_over(color, ground, opacity), ground) < wanted) ++opacity;
+    while (opacity < 255 && contrast(laid_over(color, ground, opacity), from) < wanted) ++opacity;
     return opacity;
+}
+
+// Pure black and white, or nearly: other desktops soften one of them.
+bool is_high_contrast(Color text, Color ground) {
+    constexpr double of_usual_desktops = 19;
+    return contrast(text, ground) > of_usual_desktops;
+}
+
+StrongLine strong_line(Color wished, Color ground) {
+    if (contrast(wished, ground) >= high_contrast) return {wished, std::nullopt};
+    const Color color = farthest_from(ground);
+    if (contrast(color, ground) >= high_contrast) return {color, std::nullopt};
+    return {color, farthest_from(color)};
 }
 
 }  // namespace tarnwick

@@ -64,4 +64,18 @@ void press_enter(const Form& form, Widget* focused) {
     if (pressed) press(*pressed);
 }
 
+void type_into(Form& form, const std::string& text) {
+    constexpr unsigned char space = 0x20;
+    constexpr unsigned char rubout = 0x7F;
+    const auto is_text_box = [](const Widget* widget) { return widget->kind() == WidgetKind::text_box; };
+    const auto found = std::find_if(form.tab_order().begin(), form.tab_order().end(), is_text_box);
+    if (!form.accepts_input() || found == form.tab_order().end() || text.empty()) return;
+    auto& box = static_cast<TextBox&>(**found);
+    const auto first = static_cast<unsigned char>(text[0]);
+    if (first < space || first == rubout || (first == space && box.text().empty())) return;
+    box.type(box.text() + text);
+    // As the player's typing it is not shown by itself.
+    box.set_text(box.text());
+}
+
 }  // namespace tarnwick

@@ -34,4 +34,8 @@ void press_escape(const Form& form);
 /// if it is a button or a swatch, else the default button, if there is one.
 void press_enter(const Form& form, Widget* focused);
 
+/// Writes on in the first text box of a window that takes input, for text that was typed before the window
+/// had the keyboard. It does not begin with a space; what writes nothing is left out.
+void type_into(Form& form, const std::string& text);
+
 }  // namespace tarnwick

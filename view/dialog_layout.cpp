@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 
 namespace tarnwick {
 namespace {
@@ -81,6 +82,19 @@ Area control_place(const Widget& widget, double scale, const DialogMeasure& meas
     place.top -= missing / 2;
     place.height += missing;
     return place;
+}
+
+ShownText shown_text(const Widget& widget, double scale, const DialogMeasure& measure) {
+    const auto text_of = [&](const Widget& each, float most) {
+        const Area place = control_place(each, scale, measure);
+        return fitted_text(each, {place.width, place.height}, scale, measure, most);
+    };
+    float most = std::numeric_limits<float>::infinity();
+    for (const Widget* other : widget.form().widgets()) {
+        const float size = keeps_to(widget, *other) ? text_of(*other, most).font.pixels : 0;
+        if (size > 0) most = std::min(most, size);
+    }
+    return text_of(widget, most);
 }
 
 Area place_beside(const Area& other, PixelSize size, const Area& room) {

@@ -23,6 +23,9 @@ PixelSize dialog_size(const Form& form, double scale);
 /// too low to be used, it grows evenly above and below.
 Area control_place(const Widget& widget, double scale, const DialogMeasure& measure);
 
+/// How a control shows its text in a layout enlarged by `scale`.
+ShownText shown_text(const Widget& widget, double scale, const DialogMeasure& measure);
+
 /// The place for a window of this size beside another one, on the side where it covers the least of it,
 /// within the room for windows. Of one that is larger than the room, the upper left corner is seen.
 Area place_beside(const Area& other, PixelSize size, const Area& room);

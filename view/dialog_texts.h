@@ -1,5 +1,6 @@
 #pragma once
 
+#include <limits>
 #include <string>
 
 #include "platform/graphics.h"
@@ -24,7 +25,7 @@ bool text_fits(const Widget& widget, PixelSize place, const DialogMeasure& measu
 /// The text of a control as it is shown.
 struct ShownText {
     TextFont font;
-    std::string text;  ///< ends in an ellipsis where it is too wide
+    std::string text;  ///< ends in an ellipsis where it is too wide; a centred one may hold line breaks
     /// In lines, from the upper edge on; else one line, in the middle of the height. The title of a frame
     /// lies on its upper edge.
     bool wraps = false;
@@ -34,8 +35,15 @@ struct ShownText {
 };
 
 /// How a control shows its text in a place of this size in a layout enlarged by `scale`: smaller where it
-/// does not fit, but not so small that it could not be read, and cut where that is not enough.
-ShownText fitted_text(const Widget& widget, PixelSize place, double scale, const DialogMeasure& measure);
+/// does not fit, but not so small that it could not be read, and cut where that is not enough. Never larger
+/// than `most` pixels.
+ShownText fitted_text(const Widget& widget, PixelSize place, double scale, const DialogMeasure& measure,
+                      float most = std::numeric_limits<float>::infinity());
+
+/// Whether a text is shown no larger than that of `other`, so that texts that mean the same look the same:
+/// those with a size of their own keep to those that have it too, and all others to the dialog's captions.
+/// Values keep to those under the same title as well.
+bool keeps_to(const Widget& widget, const Widget& other);
 
 /// The least height that a control can be used at, in pixels.
 int least_height(const Widget& widget, const DialogMeasure& measure);

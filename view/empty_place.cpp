@@ -11,8 +11,6 @@ namespace {
 constexpr int line_opacity = 90;
 constexpr int fill_opacity = 30;
 constexpr int sign_opacity = 80;
-// What is no text has to stand out so well to be seen by most.
-constexpr double least_contrast = 3;
 
 using Lines = std::vector<std::vector<Point>>;
 
@@ -72,26 +70,44 @@ PaintedSign sign_in(const Area& place, Sign sign) {
     return {std::move(drawing.lines), static_cast<double>(width)};
 }
 
-}  // namespace
+// Of a faint line and of every rim: no wider than a pixel of the board, so that what is painted when a card
+// comes or goes holds it.
+double thin_line(double ratio) { return std::max(1.0, std::floor(ratio)); }
 
-PaintedOutline empty_place(const Area& place, double radius, const Outline& outline, Color table,
-                           double ratio) {
-    const int line = std::max(1, static_cast<int>(ratio));
+PaintedOutline::Look faint_look(Color color, Color table, double ratio) {
     PaintedOutline::Look look;
-    look.color = outline.border_color();
-    look.line = line;
-    look.radius = radius;
+    look.color = color;
+    look.line = thin_line(ratio);
     look.line_opacity = line_opacity;
     look.fill_opacity = fill_opacity;
     look.sign_opacity = sign_opacity;
-    if (contrast(look.color, table) < least_contrast) {
+    if (contrast(color, table) < least_contrast) {
         const Color rim = farthest_from(table);
-        look.rim = PaintedRim{rim, static_cast<double>(line), opacity_for(least_contrast, rim, table)};
+        look.rim = PaintedRim{rim, look.line, opacity_for(least_contrast, table, rim, table)};
     }
-    const int reach = look.rim ? line : 0;
+    return look;
+}
+
+PaintedOutline::Look strong_look(Color color, Color table, double ratio) {
+    const StrongLine strong = strong_line(color, table);
+    PaintedOutline::Look look;
+    look.color = strong.color;
+    look.line = std::ceil(high_contrast_line * ratio);
+    if (strong.rim) look.rim = PaintedRim{*strong.rim, thin_line(ratio), 255};
+    return look;
+}
+
+}  // namespace
+
+PaintedOutline empty_place(const Area& place, double radius, const Outline& outline, Color table,
+                           double ratio, bool strong) {
+    PaintedOutline::Look look = strong ? strong_look(outline.border_color(), table, ratio)
+                                       : faint_look(outline.border_color(), table, ratio);
+    look.radius = radius;
+    const int reach = look.rim ? rounded(look.rim->width) : 0;
     look.size = {place.width + 2 * reach, place.height + 2 * reach};
     const Area inside{reach, reach, place.width, place.height};
-    look.middle = box_of(inside).grown(-line / 2.0);
+    look.middle = box_of(inside).grown(-look.line / 2);
     look.sign = sign_in(inside, outline.sign());
     return {{place.left - reach, place.top - reach, look.size.width, look.size.height}, look};
 }

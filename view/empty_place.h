@@ -9,7 +9,8 @@ namespace tarnwick {
 /// of the table.
 /// @param place   in device pixels, so many to a pixel of the board
 /// @param radius  of the corners, in device pixels
+/// @param strong  not faint, but in high contrast
 PaintedOutline empty_place(const Area& place, double radius, const Outline& outline, Color table,
-                           double ratio);
+                           double ratio, bool strong = false);
 
 }  // namespace tarnwick

@@ -42,10 +42,7 @@ void add_area(std::vector<Area>& areas, Area area) {
 }
 
 Motion::Looks Motion::looks_of(const Image& image) {
-    return {.box = picture_place(image),
-            .picture = image.picture(),
-            .bordered = image.bordered(),
-            .seen = is_seen(image)};
+    return {.box = picture_place(image), .picture = image.picture(), .seen = is_seen(image)};
 }
 
 void Motion::image_changed(const Image& image) {
@@ -93,6 +90,11 @@ const Image* Motion::passage_of(const Image& image) const {
     return nullptr;
 }
 
+bool Motion::is_lifted(const Image& image) const {
+    const std::vector<Image*>& lifted = form_.mouse().lifted();
+    return std::find(lifted.begin(), lifted.end(), &image) != lifted.end();
+}
+
 bool Motion::is_origin(const Image& image) const {
     return std::any_of(
         passages_.begin(), passages_.end(), [&](const auto& passage) { return passage.second == &image; });
@@ -122,15 +124,17 @@ const Motion::Flight* Motion::unmoved_flight(const Image& image, const Looks& lo
 }
 
 // An image that was hidden, and of which nothing else is known, is there at once: something has uncovered it.
+// So is a pile, which nobody moves.
 std::optional<Motion::Flight> Motion::flight_of_seen(const Image& image, const Looks& looks,
                                                      std::int64_t now) const {
-    const std::optional<Box> start = start_of(image);
+    const std::optional<Box> start = image.depth() > 0 ? std::nullopt : start_of(image);
     if (!start || same_place(*start, looks.box) || !same_size(*start, looks.box)) return std::nullopt;
     Flight flight{.image = &image, .looks = looks, .from = between(*start, looks.box)};
     flight.time = form_.on_step ? form_.on_step(image) : 0;
     // The last of several steps is told by nobody.
     const Flight* current = flight_of(image);
-    if (current && current->even && flight.time == 0 && now < current->begin + 2 * current->time) {
+    if (current && current->even && flight.time == 0 &&
+        now < current->begin + std::int64_t{2} * current->time) {
         flight.time = current->time;
     }
     flight.even = flight.time > 0;
@@ -150,7 +154,7 @@ std::optional<Motion::Flight> Motion::flight_of_hidden(const Image& image) const
     return flight;
 }
 
-void Motion::set_out(std::vector<Flight>& flights, std::int64_t now) const {
+void Motion::set_out(std::vector<Flight>& flights, std::int64_t now) {
     double way = 0;
     for (Flight& flight : flights) {
         flight.offset = flight.from;
@@ -162,6 +166,7 @@ void Motion::set_out(std::vector<Flight>& flights, std::int64_t now) const {
         if (!flight.even) flight.time = time;
     }
     if (!dealt_from_) return;
+    back_ = dealt_from_->picture();
     std::sort(flights.begin(), flights.end(), [](const Flight& a, const Flight& b) {
         return std::pair(a.looks.box.top, a.looks.box.left) < std::pair(b.looks.box.top, b.looks.box.left);
     });
@@ -170,6 +175,7 @@ void Motion::set_out(std::vector<Flight>& flights, std::int64_t now) const {
         Flight& flight = flights[static_cast<std::size_t>(i)];
         flight.begin = now + deal_delay * i / count;
         flight.time = deal_time;
+        flight.dealt = true;
         flight.waits = flight.begin > now;
     }
 }
@@ -181,6 +187,7 @@ void Motion::begin(std::int64_t now, bool wanted) {
     std::vector<Flight> begun;
     std::vector<Flight> hidden;
     for (const Image* image : wanted ? changed_ : std::vector<const Image*>()) {
+        if (is_lifted(*image)) continue;
         const Looks looks = looks_of(*image);
         if (const Flight* unmoved = unmoved_flight(*image, looks)) {
             kept.push_back(*unmoved);
@@ -233,6 +240,12 @@ void Motion::land() {
     }
 }
 
+bool Motion::deals_to(const Area& place, double ratio) const {
+    return std::any_of(flights_.begin(), flights_.end(), [&](const Flight& flight) {
+        return flight.dealt && snapped(flight.looks.box, ratio) == place;
+    });
+}
+
 std::vector<Area> Motion::areas() const {
     std::vector<Area> areas;
     for (const Flight& flight : flights_) {
@@ -243,12 +256,11 @@ std::vector<Area> Motion::areas() const {
 }
 
 void Motion::add_to(BoardLayers& layers, double ratio) const {
-    const std::vector<Image*>& lifted = form_.mouse().lifted();
     for (const Flight& flight : flights_) {
         const Box box = flight.looks.box.shifted(flight.offset.x, flight.offset.y);
-        if (std::find(lifted.begin(), lifted.end(), flight.image) != lifted.end()) continue;
         const Looks looks = is_seen(*flight.image) ? looks_of(*flight.image) : flight.looks;
-        const PaintedImage painted{looks.picture, snapped(box, ratio), looks.bordered};
+        const bool face_down = flight.dealt && !flight.offset.none();
+        const PaintedImage painted{face_down ? back_ : looks.picture, snapped(box, ratio)};
         if (flight.waits) {
             layers.coming.push_back(painted);
         } else if (layers.area.meets(touched(box))) {

@@ -41,6 +41,8 @@ class Motion {
     bool under_way() const { return !flights_.empty(); }
     /// Whether an image is seen on its way, and not where it lies.
     bool moves(const Image& image) const { return flight_of(image) != nullptr; }
+    /// Whether a card is being dealt to a place, in device pixels, so many to a pixel.
+    bool deals_to(const Area& place, double ratio) const;
     /// Where something is seen on its way: areas that do not overlap.
     std::vector<Area> areas() const;
     /// Adds what is on its way, in stacking order, above the images that rest.
@@ -50,7 +52,6 @@ class Motion {
     struct Looks {
         Box box;
         Picture picture;
-        bool bordered = false;
         bool seen = false;
         bool changed = false;  ///< within the event
         Shift shift = {};      ///< how far from there it was seen
@@ -64,6 +65,7 @@ class Motion {
         int time = 0;
         bool even = false;   ///< a step of several, all at one speed
         bool waits = false;  ///< has not set out yet, and is not seen
+        bool dealt = false;  ///< face down until it arrives
     };
 
     static Looks looks_of(const Image& image);
@@ -71,13 +73,14 @@ class Motion {
     /// The flight that goes on as it was: the event has not moved its image.
     const Flight* unmoved_flight(const Image& image, const Looks& looks) const;
     const Image* passage_of(const Image& image) const;
+    bool is_lifted(const Image& image) const;
     bool is_origin(const Image& image) const;
     std::optional<Box> seen_at(const Image& image) const;
     Box origin_at(const Image& image) const;
     std::optional<Box> start_of(const Image& image) const;
     std::optional<Flight> flight_of_seen(const Image& image, const Looks& looks, std::int64_t now) const;
     std::optional<Flight> flight_of_hidden(const Image& image) const;
-    void set_out(std::vector<Flight>& flights, std::int64_t now) const;
+    void set_out(std::vector<Flight>& flights, std::int64_t now);
     void forget_event();
 
     const Form& form_;
@@ -86,6 +89,7 @@ class Motion {
     std::vector<std::pair<const Image*, const Image*>> passages_;
     const Image* dealt_from_ = nullptr;
     std::vector<Flight> flights_;  ///< from the lowest one up
+    Picture back_ = {};            ///< of the cards that are dealt
 };
 
 /// Adds an area; those that it overlaps become one with it.

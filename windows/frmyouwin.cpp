@@ -32,13 +32,13 @@ void Frmyouwin::design() {
     const auto design_label = [](Label& label, const char* caption, const Font& font) {
         label.set_caption(caption);
         label.set_font(font);
+        if (font.points > 0) label.set_alignment(Alignment::center);
     };
     design_label(lblComgrats, "Congratulations", {"Arial", 18, true});
     lblComgrats.move_twips(3360, 480, 2775, 435);
     design_label(lblYouWin, "You Won!", {"Arial", 32.25F, true});
     lblYouWin.move_twips(3252, 1080, 3000, 756);
     design_label(lblNewHighScore, "You have a new high score!", {"Arial", 18, true});
-    lblNewHighScore.set_alignment(Alignment::center);
     lblNewHighScore.move_twips(3000, 960, 3372, 852);
     design_label(Label1, "Your Name", {});
     Label1.move_twips(2400, 2040, 852, 252);
@@ -46,6 +46,7 @@ void Frmyouwin::design() {
     lblPlatform.move_twips(3504, 2520, 2400, 360);
 
     txtYourName.set_text("");
+    txtYourName.set_hint("Press Enter to record it");
     txtYourName.move_twips(3360, 2040, 2652, 288);
 }
 

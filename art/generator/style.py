@@ -32,7 +32,11 @@ OAK = ("M0 0C-1.8-.6-2.6-1.8-2-3-3.2-3.6-3.2-5.2-2-5.6-2.4-7-1-8 0-9"
 SUITS = ("hearts", "spades", "diamonds", "clubs")
 RANKS = ("ace", "2", "3", "4", "5", "6", "7", "8", "9", "10",
          "jack", "queen", "king")
-SUIT_COLOUR = {"hearts": RED, "diamonds": RED, "spades": INK, "clubs": INK}
+# A shade that nobody sees tells the signs of diamonds and clubs from all else
+# on the card: where four colours are asked for, the program changes these
+# (view/four_colors.cpp) and no other.
+SUIT_COLOUR = {"hearts": RED, "diamonds": "#e03a1f",
+               "spades": INK, "clubs": "#141c29"}
 
 
 def num(value):

@@ -10,9 +10,11 @@ namespace tarnwick {
 namespace {
 
 // Only h and v are short options as well; the other letters are numbers for the long ones.
-constexpr std::array<option, 6> options{{{"deal", required_argument, nullptr, 'd'},
+constexpr std::array<option, 8> options{{{"deal", required_argument, nullptr, 'd'},
                                          {"store", required_argument, nullptr, 's'},
                                          {"record", required_argument, nullptr, 'r'},
+                                         {"four-colors", no_argument, nullptr, 'f'},
+                                         {"high-contrast", no_argument, nullptr, 'c'},
                                          {"help", no_argument, nullptr, 'h'},
                                          {"version", no_argument, nullptr, 'v'},
                                          {nullptr, 0, nullptr, 0}}};
@@ -76,6 +78,12 @@ CommandLine parse_command_line(const std::vector<std::string>& arguments) {
             case 'r':
                 result.record = value_of('r', optarg, !result.record.empty());
                 break;
+            case 'f':
+                result.four_colors = true;
+                break;
+            case 'c':
+                result.high_contrast = true;
+                break;
             case 'h':
                 result.help = true;
                 break;
@@ -96,14 +104,16 @@ CommandLine parse_command_line(const std::vector<std::string>& arguments) {
 }
 
 std::string command_line_help() {
-    return "Usage: tarnwick [--deal N] [--store FILE] [--record FILE]\n"
+    return "Usage: tarnwick [--deal N] [--store FILE] [--record FILE] [--four-colors] [--high-contrast]\n"
            "A patience card game with two packs.\n"
            "\n"
-           "  --deal N       play deal number N (0 to 4294967295), then the deals after it\n"
-           "  --store FILE   keep settings and scores in FILE\n"
-           "  --record FILE  write down at the end of FILE what is played, for a report of a fault\n"
-           "  -h, --help     show this text and exit\n"
-           "  -v, --version  show the version and exit\n"
+           "  --deal N         play deal number N (0 to 4294967295), then the deals after it\n"
+           "  --store FILE     keep settings and scores in FILE\n"
+           "  --record FILE    write down at the end of FILE what is played, for a report of a fault\n"
+           "  --four-colors    draw diamonds blue and clubs green\n"
+           "  --high-contrast  draw lines and windows in black and white\n"
+           "  -h, --help       show this text and exit\n"
+           "  -v, --version    show the version and exit\n"
            "\n"
            "A value may be joined to its option (--deal=5), and the name of an option cut short (--dea 5).\n";
 }

@@ -13,6 +13,8 @@ struct CommandLine {
     std::optional<std::uint32_t> deal;
     std::string store;   ///< the settings' file; empty for the usual one
     std::string record;  ///< the file that the game is recorded in; empty for none
+    bool four_colors = false;
+    bool high_contrast = false;
     bool help = false;
     bool version = false;
 };

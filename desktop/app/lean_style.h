@@ -1,6 +1,11 @@
 #pragma once
 
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLineEdit>
 #include <QProxyStyle>
+
+#include "desktop/shared/high_contrast.h"
 
 namespace tarnwick {
 
@@ -8,6 +13,14 @@ namespace tarnwick {
 /// its three menus would show. It would cost the loading of all image plugins at the start.
 class LeanStyle : public QProxyStyle {
   public:
+    using QProxyStyle::polish;
+    void polish(QWidget* widget) override {
+        QProxyStyle::polish(widget);
+        const bool has_outline = qobject_cast<QAbstractButton*>(widget) || qobject_cast<QLineEdit*>(widget);
+        if (has_outline && has_high_contrast(QApplication::palette())) {
+            widget->setPalette(outlined(widget->palette()));
+        }
+    }
     /// The buttons of messages look like those of the other dialogs, which have no icons.
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* data) const override {

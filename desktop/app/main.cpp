@@ -14,6 +14,7 @@
 #include "desktop/app/record_file.h"
 #include "desktop/app/signals.h"
 #include "desktop/app/unattended_end.h"
+#include "desktop/shared/high_contrast.h"
 #include "desktop/shared/picture_cache.h"
 #include "notation/game_recorder.h"
 #include "notation/outside_text.h"
@@ -75,6 +76,10 @@ int run(const CommandLine& command, int argc, char** argv) {
     QApplication::setApplicationName("tarnwick");
     QApplication::setApplicationVersion(TARNWICK_VERSION);
     QGuiApplication::setDesktopFileName("org.tarnwick.tarnwick");
+
+    if (command.four_colors) use_four_colors();
+    if (command.high_contrast) use_high_contrast();
+    follow_desktop_contrast();
 
     const std::string store_path = command.store.empty() ? default_store_path() : command.store;
     const std::unique_ptr<RecordFile> record = record_beside_store(command.record, store_path);

@@ -1,6 +1,7 @@
 #include "desktop/app/qt_desktop.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QColorDialog>
 #include <QDate>
 #include <QIcon>
@@ -150,6 +151,8 @@ void QtDesktop::hand_on_keyboard() {
 }
 
 void QtDesktop::show_message(const Message& message) {
+    // Later it would come to lie over the message.
+    windows_.show_held_back();
     const QPointer<QMessageBox> box = new QMessageBox(windows_.front_window());
     box->setWindowTitle(to_qt(message.title));
     box->setTextFormat(Qt::PlainText);
@@ -188,5 +191,7 @@ bool QtDesktop::show_help(const std::string& file_name) {
     if (!help_) help_ = std::make_unique<HelpWindow>();
     return help_->show_file(path);
 }
+
+void QtDesktop::copy_text(const std::string& text) { QGuiApplication::clipboard()->setText(to_qt(text)); }
 
 }  // namespace tarnwick

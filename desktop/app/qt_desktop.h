@@ -34,6 +34,7 @@ class QtDesktop : public Desktop {
     void windows_changed() override;
     void run_in_background(std::function<void()> action) override;
     bool show_help(const std::string& file_name) override;
+    void copy_text(const std::string& text) override;
 
     /// Lets the forms go on without their windows, which stay as they are: the display is lost, and nothing
     /// of the toolkit may be called any more.

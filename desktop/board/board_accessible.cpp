@@ -108,6 +108,11 @@ QAccessibleInterface* BoardAccessible::childAt(int x, int y) const {
     return nullptr;
 }
 
+QAccessibleInterface* BoardAccessible::focusChild() const {
+    const Widget* item = isValid() && board().hasFocus() ? board().cursor_item() : nullptr;
+    return item ? interface_of(*item) : QAccessibleWidget::focusChild();
+}
+
 void BoardAccessible::tell_changes() {
     const std::vector<BoardItem> before = std::exchange(told_, items());
     for (const auto& [kind, widget] : spoken_changes(before, told_)) {
@@ -115,7 +120,7 @@ void BoardAccessible::tell_changes() {
     }
 }
 
-BoardNews::BoardNews(BoardWidget& board) : wanted_(QAccessible::isActive()) {
+BoardNews::BoardNews(BoardWidget& board) : board_(board), wanted_(QAccessible::isActive()) {
     QAccessible::installActivationObserver(this);
     timer_.setSingleShot(true);
     timer_.setInterval(news_delay);
@@ -123,6 +128,14 @@ BoardNews::BoardNews(BoardWidget& board) : wanted_(QAccessible::isActive()) {
         auto* accessible = dynamic_cast<BoardAccessible*>(QAccessible::queryAccessibleInterface(&board));
         if (accessible && accessible->isValid()) accessible->tell_changes();
     });
+}
+
+void BoardNews::cursor_moved() {
+    QAccessibleInterface* accessible = wanted_ ? QAccessible::queryAccessibleInterface(&board_) : nullptr;
+    QAccessibleInterface* item = accessible ? accessible->focusChild() : nullptr;
+    if (!item) return;
+    send(QAccessible::Focus, item);
+    if (!board_.cursor_hint().empty()) send(QAccessible::DescriptionChanged, item);
 }
 
 BoardNews::~BoardNews() { QAccessible::removeActivationObserver(this); }

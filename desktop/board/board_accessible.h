@@ -25,6 +25,7 @@ class BoardAccessible : public QAccessibleWidget {
     QAccessibleInterface* child(int index) const override;
     int indexOfChild(const QAccessibleInterface* child) const override;
     QAccessibleInterface* childAt(int x, int y) const override;
+    QAccessibleInterface* focusChild() const override;
 
     BoardWidget& board() const;
 
@@ -55,10 +56,13 @@ class BoardNews : private QAccessible::ActivationObserver {
     void board_changed() {
         if (wanted_ && !timer_.isActive()) timer_.start();
     }
+    /// Tells at once what the keyboard's cursor is on, or what is new of that.
+    void cursor_moved();
 
   private:
     void accessibilityActiveChanged(bool active) override { wanted_ = active; }
 
+    BoardWidget& board_;
     QTimer timer_;
     bool wanted_;
 };

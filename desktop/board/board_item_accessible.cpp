@@ -26,9 +26,15 @@ BoardItem BoardItemAccessible::item() const {
     return item ? *item : BoardItem{};
 }
 
+bool BoardItemAccessible::is_under_cursor() const { return isValid() && board().cursor_item() == &widget_; }
+
 QString BoardItemAccessible::text(QAccessible::Text text) const {
     const BoardItem described = item();
     if (text == QAccessible::Name) return to_qt(described.name);
+    if (text == QAccessible::Description && is_under_cursor())
+        return to_qt(std::string(board().cursor_hint()));
+    // An image says it in its name.
+    if (text == QAccessible::Description && described.value) return to_qt(described.tip);
     if (text == QAccessible::Value && described.value) return QString::number(*described.value);
     return {};
 }
@@ -54,7 +60,10 @@ QAccessible::State BoardItemAccessible::state() const {
     QAccessible::State state;
     state.invalid = !isValid();
     if (state.invalid) return state;
-    state.invisible = item().name.empty();
+    const BoardItem described = item();
+    state.invisible = described.name.empty();
+    state.focusable = described.place.has_value();
+    state.focused = is_under_cursor() && board().hasFocus();
     state.disabled = !board().form().accepts_input();
     state.offscreen = !rect().intersects(group_.rect());
     state.readOnly = true;

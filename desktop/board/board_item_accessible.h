@@ -49,6 +49,7 @@ class BoardItemAccessible : public QAccessibleInterface,
   private:
     /// What is told of the widget now; without a name when nothing is.
     BoardItem item() const;
+    bool is_under_cursor() const;
 
     BoardWidget& board() const { return *static_cast<BoardWidget*>(group_.object()); }
 

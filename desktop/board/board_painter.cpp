@@ -1,33 +1,29 @@
 #include "desktop/board/board_painter.h"
-
-#include <QApplication>
-
 #include "desktop/shared/qt_convert.h"
 
 namespace tarnwick {
 namespace {
 
-int text_flags(Alignment alignment) {
-    switch (alignment) {
-        case Alignment::right:
-            return Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip;
-        case Alignment::center:
-            return Qt::AlignHCenter | Qt::AlignVCenter | Qt::TextDontClip;
-        case Alignment::left:
-            break;
-    }
-    return Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip;
-}
-
 void paint_mark(QPainter& painter, const PaintedMark& mark) {
+    if (mark.rim) {
+        painter.setPen(QPen(to_qt(mark.rim->color, mark.rim->opacity), mark.line + 2 * mark.rim->width));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(to_qt(mark.middle), mark.radius, mark.radius);
+    }
     painter.setPen(QPen(to_qt(mark.color, mark.line_opacity), mark.line));
     painter.setBrush(to_qt(mark.color, mark.fill_opacity));
     painter.drawRoundedRect(to_qt(mark.middle), mark.radius, mark.radius);
 }
 
+void paint_ring(QPainter& painter, const PaintedRing& ring) {
+    painter.setPen(QPen(to_qt(ring.color), ring.line));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(to_qt(ring.middle), ring.radius, ring.radius);
+}
+
 QImage image_of(const PaintedGround::Sheet& sheet) {
     const auto* pixels = reinterpret_cast<const uchar*>(sheet.pixels.data());
-    return QImage(pixels, sheet.width, sheet.height, sheet.width * 4, QImage::Format_RGB32);
+    return QImage(pixels, sheet.width, sheet.height, qsizetype{4} * sheet.width, QImage::Format_RGB32);
 }
 
 void paint_ground(QPainter& painter, const PaintedGround& ground) {
@@ -51,11 +47,6 @@ void paint_plate(QPainter& painter, const PaintedPlate& plate, const PaintedGrou
     }
 }
 
-void paint_label(QPainter& painter, const PaintedLabel& label) {
-    painter.setPen(to_qt(label.color));
-    painter.drawText(to_qt(label.place), text_flags(label.alignment), to_qt(std::string(label.text)));
-}
-
 }  // namespace
 
 void BoardPainter::paint(QPainter& painter, const BoardLayers& layers) {
@@ -74,20 +65,33 @@ void BoardPainter::paint(QPainter& painter, const BoardLayers& layers) {
         painter.drawImage(to_qt(layers.shadow->pile).topLeft() - reach, shadow_.image(*layers.shadow));
     }
     for (const PaintedImage& image : layers.lifted) paint_image(painter, image);
+    for (const PaintedRing& ring : layers.rings) paint_ring(painter, ring);
     if (layers.plate) paint_plate(painter, *layers.plate, *layers.ground);
     painter.restore();
-    painter.setFont(QApplication::font());
-    for (const PaintedLabel& label : layers.labels) paint_label(painter, label);
+    for (const PaintedLabel& label : layers.labels) labels_.paint(painter, label, ratio);
+    painter.save();
+    painter.scale(1 / ratio, 1 / ratio);
+    for (const PaintedImage& image : layers.celebration) {
+        painter.setOpacity(image.opacity / 255.0);
+        paint_image(painter, image);
+    }
+    painter.restore();
     prepare(layers.coming);
 }
 
 void BoardPainter::paint_image(QPainter& painter, const PaintedImage& image) {
     const QRect place = to_qt(image.place);
     painter.drawPixmap(place, pictures_.pixmap(image.picture, place.size()));
-    if (!image.bordered) return;
-    painter.setPen(QPen(Qt::black, 1));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5));
+}
+
+void BoardPainter::begin_haste() {
+    pictures_.begin_haste();
+    outlines_.begin_haste();
+}
+
+bool BoardPainter::end_haste() {
+    const bool pictures_scaled = pictures_.end_haste();
+    return outlines_.end_haste() || pictures_scaled;
 }
 
 void BoardPainter::prepare(const std::vector<PaintedImage>& images) {

@@ -4,7 +4,8 @@
 #include <vector>
 
 #include "desktop/board/drag_shadow.h"
-#include "desktop/board/outline_pictures.h"
+#include "desktop/board/label_pictures.h"
+#include "desktop/shared/outline_pictures.h"
 #include "desktop/shared/picture_cache.h"
 #include "view/board_layers.h"
 
@@ -19,13 +20,17 @@ class BoardPainter {
     /// Draws the pictures that a painting of these images will want.
     void prepare(const std::vector<PaintedImage>& images);
 
-    PictureCache& pictures() { return pictures_; }
+    /// From now on sizes change often: what was drawn before is scaled.
+    void begin_haste();
+    /// The sizes have settled. True when something was painted scaled.
+    bool end_haste();
 
   private:
     void paint_image(QPainter& painter, const PaintedImage& image);
 
     PictureCache pictures_;
     OutlinePictures outlines_;
+    LabelPictures labels_;
     DragShadow shadow_;
 };
 

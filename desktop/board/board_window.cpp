@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QMenuBar>
+#include <QShortcut>
 #include <cmath>
 
 #include "desktop/shared/qt_convert.h"
@@ -29,10 +30,12 @@ int whole_device_height(int height, qreal ratio) {
 
 }  // namespace
 
-BoardWindow::BoardWindow(Form& form) : form_(form), board_(*new BoardWidget(form)) {
+BoardWindow::BoardWindow(Form& form, WindowList& windows)
+    : form_(form), board_(*new BoardWidget(form, windows)) {
     setObjectName(to_qt(form.name()));
     make_menus();
     setCentralWidget(&board_);
+    board_.on_cursor_moved = [this] { news_.cursor_moved(); };
     board_.setFocus();
 }
 
@@ -45,6 +48,7 @@ void BoardWindow::make_menus() {
             entries_.push_back({entry, action});
         }
     }
+    new QShortcut(QKeySequence::Copy, this, [this] { form_.copy(); });
     menuBar()->setFixedHeight(whole_device_height(menuBar()->sizeHint().height(), devicePixelRatioF()));
     sync_menus();
 }
@@ -76,6 +80,7 @@ void BoardWindow::sync_size() {
 void BoardWindow::closeEvent(QCloseEvent* event) {
     // The form decides; when it ends, it takes its window with it.
     event->ignore();
+    board_.end_celebration();
     form_.close();
 }
 
@@ -107,8 +112,12 @@ void BoardView::dealt(const Image& from) {
     if (board_window_) board_window_->board().dealt(from);
 }
 
+void BoardView::won(Form& next, const std::vector<std::vector<const Image*>>& piles) {
+    if (board_window_) board_window_->board().won(next, piles);
+}
+
 QWidget* BoardView::make_window() {
-    board_window_ = new BoardWindow(form());
+    board_window_ = new BoardWindow(form(), windows());
     return board_window_;
 }
 

@@ -12,7 +12,7 @@ namespace tarnwick {
 /// A window with a menu bar and a board.
 class BoardWindow : public QMainWindow {
   public:
-    explicit BoardWindow(Form& form);
+    BoardWindow(Form& form, WindowList& windows);
 
     BoardWidget& board() { return board_; }
     /// Takes over title, size, colour and whether the window takes input.
@@ -43,12 +43,14 @@ class BoardWindow : public QMainWindow {
 class BoardView : public WindowView {
   public:
     using WindowView::WindowView;
+    ~BoardView() override { windows().show_held_back(); }
 
     void widget_changed(const Widget& widget, const Rect& before) override;
     void menu_changed() override;
     void drag_changed() override;
     void image_passes(const Image& image, const Image& other) override;
     void dealt(const Image& from) override;
+    void won(Form& next, const std::vector<std::vector<const Image*>>& piles) override;
 
   protected:
     QWidget* make_window() override;

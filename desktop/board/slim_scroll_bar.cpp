@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QStyleOptionSlider>
 
+#include "desktop/shared/high_contrast.h"
+
 namespace tarnwick {
 namespace {
 
@@ -63,9 +65,11 @@ void SlimScrollBar::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     // Seen on a table of any colour: dark behind, light in front.
-    painter.setBrush(QColor(0, 0, 0, grown_ ? 90 : 50));
+    const bool strong = has_high_contrast(palette());
+    const auto opacity = [&](int grown, int at_rest) { return strong ? 255 : grown_ ? grown : at_rest; };
+    painter.setBrush(QColor(0, 0, 0, opacity(90, 50)));
     painter.drawRect(rect());
-    painter.setBrush(QColor(255, 255, 255, grown_ ? 220 : 170));
+    painter.setBrush(QColor(255, 255, 255, opacity(220, 170)));
     const QRectF bar = handle().adjusted(2, 2, -2, -2);
     painter.drawRoundedRect(bar, bar.width() / 2, bar.width() / 2);
 }

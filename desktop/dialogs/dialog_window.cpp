@@ -43,7 +43,7 @@ DialogWindow::DialogWindow(Form& form, QWidget* parent)
     scale_ = fitting_scale(form, {room.width(), room.height()}, measure_);
     sync();
     set_tab_order();
-    for (const auto& [widget, control] : controls_) widget_changed(*widget);
+    for (const auto& [widget, control] : controls_) sync_control(*widget);
     if (form.centered()) move(screen()->availableGeometry().center() - rect().center());
 }
 
@@ -102,16 +102,26 @@ void DialogWindow::sync() {
 }
 
 void DialogWindow::widget_changed(const Widget& widget) {
+    if (!sync_control(widget)) return;
+    for (const auto& [other, control] : controls_) {
+        if (keeps_to(*other, widget)) sync_control(*other);
+    }
+}
+
+bool DialogWindow::sync_control(const Widget& widget) {
     DialogControl& control = *controls_.find(&widget)->second;
     QWidget& native = *control.native();
     const Area place = control_place(widget, scale_, measure_);
     native.setGeometry(place.left, place.top, place.width, place.height);
     native.setFocusPolicy(focus_policy(keyboard_use(widget)));
-    const ShownText text = fitted_text(widget, {place.width, place.height}, scale_, measure_);
-    control.sync({text, measure_.font(text.font), scale_});
+    const ShownText text = shown_text(widget, scale_, measure_);
+    const QFont font = measure_.font(text.font);
+    const bool has_other_size = native.font() != font;
+    control.sync({text, font, scale_});
     native.setAccessibleName(to_qt(spoken_name(widget)));
     native.setVisible(widget.visible());
     if (form_.is_in_front(widget.stacking())) native.raise();
+    return has_other_size;
 }
 
 void DialogWindow::reject() { press_escape(form_); }

@@ -32,6 +32,8 @@ class DialogWindow : public QDialog {
     void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
+    /// Makes a control show what its widget says; true when its text has another size now.
+    bool sync_control(const Widget& widget);
     void make_controls();
     void set_tab_order();
     QWidget* native_of(const Widget& widget) const;

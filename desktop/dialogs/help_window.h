@@ -8,7 +8,8 @@ namespace tarnwick {
 /// where it is installed. Empty when it is nowhere.
 QString find_help(const QString& file_name);
 
-/// Shows a help file (HTML). Its images are the program's own drawings: <img src="art:faces/hearts-queen">.
+/// Shows a help file (HTML). Its images are the program's own drawings, <img src="art:faces/hearts-queen">,
+/// and empty places with their signs, <img src="sign:king">.
 class HelpWindow : public QTextBrowser {
   public:
     HelpWindow();
@@ -21,6 +22,8 @@ class HelpWindow : public QTextBrowser {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    void fit_to_screen();
+
     QString path_;
 };
 

@@ -5,13 +5,23 @@
 
 #include "desktop/dialogs/dialog_accessible.h"
 #include "desktop/dialogs/dialog_control.h"
+#include "desktop/shared/high_contrast.h"
 #include "desktop/shared/picture_cache.h"
 #include "desktop/shared/qt_convert.h"
+#include "view/chosen_ring.h"
+#include "view/contrast.h"
 #include "view/control_presses.h"
 #include "windows/pictures.h"
 
 namespace tarnwick {
 namespace {
+
+// All of the line lies inside of the place.
+void draw_outline(QPainter& painter, const QRectF& place, const QColor& color, bool strong, qreal radius) {
+    const qreal line = strong ? high_contrast_line : 1;
+    painter.setPen(QPen(color, line));
+    painter.drawRoundedRect(place.adjusted(line / 2, line / 2, -line / 2, -line / 2), radius, radius);
+}
 
 // A group box with its title on the border rather than above it: the layouts use all of the room inside.
 class FrameBox : public QGroupBox {
@@ -35,10 +45,9 @@ class FrameBox : public QGroupBox {
         painter.setClipRegion(QRegion(rect()) - text.adjusted(-gap, 0, gap, 0));
         painter.setRenderHint(QPainter::Antialiasing);
         QColor border = palette().color(QPalette::WindowText);
-        border.setAlpha(border_alpha);
-        painter.setPen(border);
-        const int middle = text.height() / 2;
-        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, middle + 0.5, -0.5, -0.5), radius, radius);
+        const bool strong = has_high_contrast(palette());
+        if (!strong) border.setAlpha(border_alpha);
+        draw_outline(painter, QRectF(rect()).adjusted(0, text.height() / 2, 0, 0), border, strong, radius);
     }
 };
 
@@ -76,10 +85,6 @@ class PictureBox : public QWidget, public Pressable {
         pixmap_.setDevicePixelRatio(ratio);
         QPainter painter(this);
         painter.drawPixmap(place.topLeft(), pixmap_);
-        if (!image_.bordered()) return;
-        const qreal half = 0.5 / ratio;
-        painter.setPen(QPen(palette().color(QPalette::WindowText), 1 / ratio));
-        painter.drawRect(place.adjusted(half, half, -half, -half));
     }
 
     // The press is taken, so that the release comes here too.
@@ -108,13 +113,52 @@ class PictureBox : public QWidget, public Pressable {
     qreal scale_ = 1;
 };
 
-class ImageControl : public DialogControl {
+// Lies around a picture, where clicks go to what is below.
+class RingBox : public QWidget {
   public:
-    explicit ImageControl(PictureBox* native) : DialogControl(native), native_(*native) {}
-    void sync(const ControlLooks& looks) override { native_.set_scale(looks.scale); }
+    explicit RingBox(QWidget* parent) : QWidget(parent) { setAttribute(Qt::WA_TransparentForMouseEvents); }
+
+    void surround(const QWidget& picture, qreal scale) {
+        ring_ = chosen_ring({picture.width(), picture.height()}, scale);
+        const Area place = around(ring_.middle.grown(ring_.line / 2));
+        ring_.middle = ring_.middle.shifted(-place.left, -place.top);
+        setGeometry(to_qt(place).translated(picture.pos()));
+        update();
+    }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        const Color color = ring_color(from_qt(palette().color(QPalette::Highlight)),
+                                       from_qt(palette().color(QPalette::WindowText)),
+                                       from_qt(palette().color(QPalette::Window)));
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(to_qt(color), ring_.line));
+        painter.drawRoundedRect(to_qt(ring_.middle), ring_.radius, ring_.radius);
+    }
 
   private:
+    ChosenRing ring_;
+};
+
+class ImageControl : public DialogControl {
+  public:
+    ImageControl(const Image& image, PictureBox* native)
+        : DialogControl(native),
+          image_(image),
+          native_(*native),
+          ring_(*new RingBox(native->parentWidget())) {}
+
+    void sync(const ControlLooks& looks) override {
+        native_.set_scale(looks.scale);
+        ring_.surround(native_, looks.scale);
+        ring_.setVisible(image_.visible() && image_.bordered());
+    }
+
+  private:
+    const Image& image_;
     PictureBox& native_;
+    RingBox& ring_;
 };
 
 class OutlineBox : public QWidget {
@@ -130,8 +174,11 @@ class OutlineBox : public QWidget {
         const bool plain = outline_.border_color() == black;
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(plain ? palette().color(QPalette::WindowText) : to_qt(outline_.border_color()));
-        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+        draw_outline(painter,
+                     QRectF(rect()),
+                     plain ? palette().color(QPalette::WindowText) : to_qt(outline_.border_color()),
+                     has_high_contrast(palette()),
+                     radius);
     }
 
   private:
@@ -151,7 +198,7 @@ std::unique_ptr<DialogControl> make_frame_control(QWidget* parent) {
 }
 
 std::unique_ptr<DialogControl> make_image_control(Image& image, QWidget* parent) {
-    return std::make_unique<ImageControl>(new PictureBox(image, parent));
+    return std::make_unique<ImageControl>(image, new PictureBox(image, parent));
 }
 
 std::unique_ptr<DialogControl> make_outline_control(const Outline& outline, QWidget* parent) {

@@ -59,6 +59,7 @@ class LineEdit : public QLineEdit {
   public:
     LineEdit(TextBox& box, QWidget* parent) : QLineEdit(parent), box_(box) {
         setMaxLength(std::numeric_limits<int>::max());
+        setPlaceholderText(to_qt(box.hint()));
         // Not only what is edited: screen readers and their like set the text.
         connect(this, &QLineEdit::textChanged, this, [this](const QString& text) {
             box_.type(text.toStdString());

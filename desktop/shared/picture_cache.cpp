@@ -1,21 +1,38 @@
 #include "desktop/shared/picture_cache.h"
 
+#include <QFile>
 #include <QPainter>
 #include <QSvgRenderer>
 #include <cstdlib>
 
+#include "view/four_colors.h"
 #include "windows/pictures.h"
 
 // The macro must stand outside of any namespace.
 static void register_art() { Q_INIT_RESOURCE(art); }
 
 namespace tarnwick {
+namespace {
+
+bool four_colors = false;
+
+QByteArray text_of(const QString& name) {
+    QFile file(":/art/" + name + ".svg");
+    if (!file.open(QIODevice::ReadOnly)) return {};
+    QByteArray text = file.readAll();
+    if (!four_colors) return text;
+    return QByteArray::fromStdString(in_four_colors(name.toStdString(), text.toStdString()));
+}
+
+}  // namespace
+
+void use_four_colors() { four_colors = true; }
 
 QImage render_drawing(const QString& name, QSize size, qreal scale) {
     // A static library's resources are linked in only where something names them.
     static const bool registered = (register_art(), true);
     Q_UNUSED(registered)
-    QSvgRenderer renderer(":/art/" + name + ".svg");
+    QSvgRenderer renderer(text_of(name));
     if (!renderer.isValid()) return {};
     if (!size.isValid()) size = (QSizeF(renderer.defaultSize()) * scale).toSize();
     QImage image(size, QImage::Format_ARGB32_Premultiplied);

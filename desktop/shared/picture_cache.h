@@ -9,6 +9,9 @@
 
 namespace tarnwick {
 
+/// From now on the suits are drawn in four colours. Before anything is drawn.
+void use_four_colors();
+
 /// Draws a picture of the catalogue at a size in device pixels; a null pixmap for no picture.
 QPixmap render_picture(Picture picture, QSize size);
 

@@ -28,7 +28,14 @@ class QtTexts : public TextMeasure {
   public:
     float desktop_size() const override { return static_cast<float>(QFontInfo(own()).pixelSize()); }
     float width(const std::string& text, const TextFont& font) const override {
-        return static_cast<float>(QFontMetricsF(qt_font(own(), font)).horizontalAdvance(to_qt(text)));
+        const Question question{text, font, own()};
+        for (const auto& [known, width] : widths_) {
+            if (known == question) return width;
+        }
+        if (widths_.size() == most_widths) widths_.erase(widths_.begin());
+        const QFontMetricsF metrics(qt_font(question.own, font));
+        return widths_.emplace_back(question, static_cast<float>(metrics.horizontalAdvance(to_qt(text))))
+            .second;
     }
     float height(const TextFont& font) const override {
         return static_cast<float>(QFontMetricsF(qt_font(own(), font)).height());
@@ -38,7 +45,19 @@ class QtTexts : public TextMeasure {
     }
 
   private:
+    struct Question {
+        std::string text;
+        TextFont font;
+        QFont own;
+        bool operator==(const Question&) const = default;
+    };
+    // The labels of the board, and the last few scores.
+    static constexpr std::size_t most_widths = 16;
+
     static QFont own() { return QApplication::font(); }
+
+    // Of the labels a drag asks at every move of the pointer, and to lay out a text takes long.
+    mutable std::vector<std::pair<Question, float>> widths_;
 };
 
 }  // namespace

@@ -5,6 +5,26 @@
 
 namespace tarnwick {
 
+void WindowList::remove(OpenWindow& window) {
+    std::erase(windows_, &window);
+    if (holds_back(window.form)) held_back_ = nullptr;
+}
+
+void WindowList::hold_back(const Form& form, std::function<void()> shown) {
+    held_back_ = &form;
+    shown_ = std::move(shown);
+}
+
+void WindowList::show_held_back() {
+    const Form* form = std::exchange(held_back_, nullptr);
+    if (!form) return;
+    std::exchange(shown_, {})();
+    for (const OpenWindow* window : windows_) {
+        if (&window->form == form && window->native) window->native->show();
+    }
+    if (QWidget* front = front_window()) front->activateWindow();
+}
+
 QWidget* WindowList::main_window() const {
     for (const OpenWindow* window : windows_) {
         if (window->native && window->form.is_board() && !window->form.unloading()) return window->native;
@@ -13,7 +33,9 @@ QWidget* WindowList::main_window() const {
 }
 
 QWidget* WindowList::front_window() const {
-    const auto shown = [](const OpenWindow* window) { return window->native && window->form.visible(); };
+    const auto shown = [this](const OpenWindow* window) {
+        return window->native && window->form.visible() && !holds_back(window->form);
+    };
     const auto front = std::find_if(windows_.rbegin(), windows_.rend(), shown);
     return front == windows_.rend() ? nullptr : (*front)->native.data();
 }

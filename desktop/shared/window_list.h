@@ -2,6 +2,7 @@
 
 #include <QPointer>
 #include <QWidget>
+#include <functional>
 #include <vector>
 
 #include "platform/form.h"
@@ -19,7 +20,7 @@ class WindowList {
   public:
     /// Called by the views, which keep the entries.
     void add(OpenWindow& window) { windows_.push_back(&window); }
-    void remove(OpenWindow& window) { std::erase(windows_, &window); }
+    void remove(OpenWindow& window);
 
     /// The window that new dialogs belong to (not one that is about to go), and the front one of all; null
     /// when there is none.
@@ -27,6 +28,13 @@ class WindowList {
     QWidget* front_window() const;
     /// Whether the native window is that of a form which takes no input.
     bool is_disabled(const QWidget& native) const;
+    /// The window of this form, which is about to be shown, is not seen before show_held_back(). One is held
+    /// back at a time.
+    /// @param shown  called when that is called, by whomever
+    void hold_back(const Form& form, std::function<void()> shown);
+    bool holds_back(const Form& form) const { return held_back_ == &form; }
+    void show_held_back();
+
     /// Lets the dialogs of a window that is about to go stay on the screen without it.
     void detach_dialogs_of(const QWidget& window) const;
 
@@ -37,6 +45,8 @@ class WindowList {
 
   private:
     std::vector<OpenWindow*> windows_;
+    const Form* held_back_ = nullptr;
+    std::function<void()> shown_;
 };
 
 }  // namespace tarnwick

@@ -22,6 +22,7 @@ void WindowView::form_changed() {
     }
     here_.native = make_window();
     sync_window();
+    if (windows_.holds_back(form())) return;
     show_window();
     here_.native->activateWindow();
 }

@@ -19,7 +19,7 @@ class WindowView : public FormView {
     void raise() override;
 
   protected:
-    const WindowList& windows() const { return windows_; }
+    WindowList& windows() const { return windows_; }
     /// Makes and shows the native window.
     virtual QWidget* make_window() = 0;
     /// Shows the native window for the first time.

@@ -1,12 +1,15 @@
 #include <gtest/gtest.h>
 
+#include <QKeyEvent>
 #include <QScrollBar>
 
 #include "board/peek.h"
 #include "board/slide.h"
 #include "desktop/board/board_accessible.h"
+#include "desktop/shared/qt_texts.h"
 #include "state/variables.h"
 #include "tests/desktop/inner_game.h"
+#include "view/board_scene.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {
@@ -35,6 +38,16 @@ class BoardAccessibility : public testing::Test {
     QRect seen_at(const Widget& widget, int scrolled = 0) const {
         const QRect place = to_qt(widget.place()).toAlignedRect();
         return place.translated(widget_->mapToGlobal(QPoint(0, -scrolled)));
+    }
+
+    // The same of a label, which is painted larger than it is placed.
+    QRect painted_at(const Widget& label) const {
+        BoardScene scene(frmcards, qt_texts());
+        for (const PaintedLabel& painted : scene.layers(1).labels) {
+            if (painted.text != static_cast<const Label&>(label).caption()) continue;
+            return to_qt(around(painted.place)).translated(widget_->mapToGlobal(QPoint(0, 0)));
+        }
+        return {};
     }
 
     QWidget& widget() const { return *widget_; }
@@ -67,14 +80,14 @@ TEST_F(BoardAccessibility, KnowsWhereItsChildrenLie) {
         if (item.widget->kind() == WidgetKind::image) {
             EXPECT_EQ(child.rect(), seen_at(*item.widget)) << name;
         } else {
-            EXPECT_TRUE(child.rect().contains(seen_at(*item.widget).center())) << name;
+            EXPECT_TRUE(child.rect().contains(painted_at(*item.widget))) << name;
+            EXPECT_GT(child.rect().height(), seen_at(*item.widget).height()) << name << " has grown";
         }
         // The upper edge is what the next card of a column leaves free.
         const QPoint spot(child.rect().center().x(), child.rect().top() + 6);
         EXPECT_EQ(board().childAt(spot.x(), spot.y()), &child) << name;
-        EXPECT_FALSE(child.state().focusable || child.state().disabled || child.state().invisible ||
-                     child.state().offscreen)
-            << name;
+        EXPECT_EQ(child.state().focusable, item.place.has_value()) << name;
+        EXPECT_FALSE(child.state().disabled || child.state().invisible || child.state().offscreen) << name;
     }
     const QRect zone = seen_at(frmcards.Image1(first_column_zone));
     EXPECT_EQ(board().childAt(zone.center().x(), zone.bottom() - 20), nullptr) << "the bare table";
@@ -117,6 +130,31 @@ TEST_F(BoardAccessibility, SaysWhatCanBePressedAndWhatHasAValue) {
     score = 7;
     EXPECT_EQ(score_label.valueInterface()->currentValue(), 7);
     EXPECT_EQ(score_label.text(QAccessible::Value), "7");
+    EXPECT_EQ(score_label.text(QAccessible::Description), "Deal 26 (Ctrl+C copies the number)");
+}
+
+TEST_F(BoardAccessibility, GivesTheFocusToWhatTheKeyboardsCursorIsOn) {
+    ASSERT_TRUE(comes_true([this] { return widget().hasFocus(); }));
+    // What has the focus after a key, and what is told of it.
+    const auto focus_after = [this](Qt::Key key) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        QCoreApplication::sendEvent(&widget(), &event);
+        QAccessibleInterface& item = *board().focusChild();
+        EXPECT_TRUE(item.state().focused);
+        return (item.text(QAccessible::Name) + '|' + item.text(QAccessible::Description)).toStdString();
+    };
+    EXPECT_EQ(board().focusChild(), &board());
+    EXPECT_EQ(focus_after(Qt::Key_Down), "stock, 45 cards face down|");
+    EXPECT_EQ(focus_after(Qt::Key_Down), "Queen of Diamonds, column 1, on top|");
+    EXPECT_FALSE(image(stock_image).state().focused);
+    EXPECT_EQ(focus_after(Qt::Key_Enter), "Queen of Diamonds, column 1, on top|lifted");
+    EXPECT_EQ(focus_after(Qt::Key_Right), "10 of Hearts, column 2, on top|does not take the lifted card");
+    EXPECT_EQ(image(stock_image).text(QAccessible::Description), "");
+    EXPECT_EQ(focus_after(Qt::Key_F11), "10 of Hearts, column 2, on top|does not take the lifted card");
+    ASSERT_TRUE(comes_true([this] { return widget().window()->isFullScreen(); }));
+    frmcards.mouse().cancel();
+    settle();
+    EXPECT_EQ(focus_after(Qt::Key_Escape), "Queen of Diamonds, column 1, on top|");
 }
 
 TEST_F(BoardAccessibility, IsGoneWithItsWindow) {

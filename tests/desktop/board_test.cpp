@@ -1,9 +1,14 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QClipboard>
+
+#include "desktop/shared/outline_pictures.h"
 #include "desktop/shared/picture_cache.h"
 #include "state/variables.h"
 #include "tools/driver/board_picture.h"
 #include "tools/driver/eventually.h"
+#include "view/help_page.h"
 #include "windows/frmcards.h"
 #include "windows/pictures.h"
 
@@ -54,6 +59,34 @@ TEST(Board, FollowsTheSizeOfTheWindow) {
         EXPECT_EQ(frmcards.client_size().width, width);
         EXPECT_EQ(board_faults(game), "") << width;
     }
+}
+
+TEST(Board, CopiesTheNumberOfItsDeal) {
+    TwinGame game({program, deal});
+    game.screen().key("ctrl+c");
+    EXPECT_TRUE(eventually([] {
+        QApplication::processEvents();
+        return QApplication::clipboard()->text() == "26";
+    }));
+    EXPECT_EQ(board_faults(game), "");
+}
+
+TEST(OutlinePictures, AreHandedOutInAnotherSizeOnlyInHaste) {
+    const auto look = [](const char* sign, int width) {
+        return picture_of_place(sign, {width, width + 30}, 1)->outline.look;
+    };
+    OutlinePictures pictures;
+    const auto width_of = [&](const PaintedOutline::Look& wanted) { return pictures.pixmap(wanted).width(); };
+    const int small = width_of(look("ace", 80));
+    EXPECT_EQ(width_of(look("ace", 100)), small + 20);
+    pictures.begin_haste();
+    EXPECT_EQ(width_of(look("ace", 80)), small);
+    EXPECT_EQ(width_of(look("king", 90)), small + 10) << "nothing else says that";
+    EXPECT_FALSE(pictures.end_haste());
+    pictures.begin_haste();
+    EXPECT_NE(width_of(look("ace", 90)), small + 10);
+    EXPECT_TRUE(pictures.end_haste());
+    EXPECT_EQ(width_of(look("ace", 90)), small + 10) << "sharp again";
 }
 
 TEST(PictureCache, ScalesOnlyInHasteAndOnlyWhatItHas) {

@@ -22,8 +22,14 @@ TEST(CommandLine, TellsWhatItTakes) {
     for (const char* option : {"-h", "--help"}) {
         ChildProcess help(program, {option}, no_display);
         EXPECT_EQ(help.exit_code(), 0);
-        for (const char* word :
-             {"Usage: tarnwick ", "--deal", "--store", "--record", "-h, --help", "-v, --version"}) {
+        for (const char* word : {"Usage: tarnwick ",
+                                 "--deal",
+                                 "--store",
+                                 "--record",
+                                 "--four-colors",
+                                 "--high-contrast",
+                                 "-h, --help",
+                                 "-v, --version"}) {
             EXPECT_NE(help.output().find(word), std::string::npos) << word;
         }
         EXPECT_EQ(help.errors(), "");
@@ -31,7 +37,8 @@ TEST(CommandLine, TellsWhatItTakes) {
     for (const Arguments& arguments : {Arguments{"-v"},
                                        {"--deal=5", "--version"},
                                        {"--vers", "--dea", "4294967295"},
-                                       {"--store=a b", "--record=b", "-v", "-v", "--"}}) {
+                                       {"--store=a b", "--record=b", "-v", "-v", "--"},
+                                       {"--high", "--four", "--four-colors", "-v"}}) {
         ChildProcess version(program, arguments, no_display);
         EXPECT_EQ(version.exit_code(), 0) << version.errors();
         EXPECT_EQ(version.output(), "tarnwick " TARNWICK_VERSION "\n");
@@ -59,6 +66,8 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
                                        {"--store="},
                                        {"--record", "", "--help"},
                                        {"--help=always"},
+                                       {"--four-colors=5"},
+                                       {"--h"},
                                        {"--deal", "1", "--deal", "2"},
                                        {"--record", "a", "--record=b"},
                                        {"-hx"},

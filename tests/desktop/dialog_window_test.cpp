@@ -1,14 +1,19 @@
 #include <gtest/gtest.h>
 
+#include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTextDocument>
 #include <algorithm>
 
+#include "desktop/shared/high_contrast.h"
 #include "tests/desktop/inner_game.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmError.h"
+#include "windows/frmFeatures.h"
 #include "windows/frmcards.h"
+#include "windows/frmyouwin.h"
 
 namespace tarnwick {
 namespace {
@@ -29,6 +34,42 @@ TEST(DialogWindow, ShowsALongNameInATipThatHasLines) {
     constexpr qreal screen_width = 1000;
     tip.setTextWidth(screen_width / 2);
     EXPECT_LE(tip.size().width(), screen_width);
+}
+
+TEST(DialogWindow, ShowsWhichBackIsChosenAndWhatEnterDoes) {
+    InnerGame game(26);
+    frmFeatures.show();
+    QWidget& dialog = *shown_widget("frmFeatures");
+    const auto is_ringed = [&](int index) {
+        const Rect& frame = frmFeatures.Frame1.place();
+        const Rect& back = frmFeatures.ImgCardBacks(index).place();
+        const double scale = dialog.width() / static_cast<double>(frmFeatures.client_size().width);
+        const QPointF upper_edge(static_cast<double>(frame.left + back.left + back.width / 2),
+                                 static_cast<double>(frame.top + back.top) - 3.5);
+        return dialog.grab().toImage().pixelColor((upper_edge * scale).toPoint()) ==
+               dialog.palette().color(QPalette::Highlight);
+    };
+    for (const int chosen : {3, 0, 5}) {
+        frmFeatures.ImgCardBacks(chosen).click();
+        for (int i = 0; i < 6; ++i) EXPECT_EQ(is_ringed(i), i == chosen) << i;
+    }
+    frmyouwin.show();
+    EXPECT_EQ(shown_widget("frmyouwin")->findChild<QLineEdit*>()->placeholderText(),
+              "Press Enter to record it");
+}
+
+TEST(DialogWindow, DrawsWholeLinesInHighContrast) {
+    const QPalette usual = QApplication::palette();
+    use_high_contrast();
+    InnerGame game(26);
+    frmFeatures.show();
+    auto& frame = *shown_widget("frmFeatures")->findChild<QGroupBox*>();
+    const QImage seen = frame.grab().toImage();
+    const auto color_at = [&](int x) { return seen.pixelColor(x, seen.height() / 2); };
+    for (const int edge : {0, 1, seen.width() - 2, seen.width() - 1})
+        EXPECT_EQ(color_at(edge), Qt::black) << edge;
+    EXPECT_EQ(color_at(2), Qt::white);
+    QApplication::setPalette(usual);
 }
 
 TEST(DialogWindow, ToldOfAnErrorIsAToolWindowThatOutlivesTheMainWindow) {

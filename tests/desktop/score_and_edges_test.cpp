@@ -1,6 +1,9 @@
 // What keeps its place in the window whatever lies or is scrolled below: the score, and the bar at the edge.
 
+#include <QApplication>
+#include <QPainter>
 #include <QScrollBar>
+#include <cmath>
 
 #include "desktop/shared/qt_convert.h"
 #include "desktop/shared/qt_texts.h"
@@ -10,12 +13,32 @@
 #include "tests/play/play.h"
 #include "view/board_scene.h"
 #include "windows/frmcards.h"
+#include "windows/pictures.h"
 
 namespace tarnwick {
 namespace {
 
-// Where the labels are, without the rounded edges of the plate under them.
-QRect labels() { return to_qt(BoardScene(frmcards, qt_texts()).plate()).adjusted(4, 2, -4, -2); }
+// Where the labels are, without the rounded corners of the plate under them.
+QRect labels() {
+    const int radius = static_cast<int>(std::ceil(4 * frmcards.Shape1(0).width() / card_width));
+    return to_qt(BoardScene(frmcards, qt_texts()).plate()).adjusted(radius, 2, -radius, -2);
+}
+
+TEST(Score, LooksTheSameWhateverWasWrittenBefore) {
+    Play play({1366, 768});
+    play.start("score: 81");
+    const QImage before = expected_board().copy(labels());
+    QImage paper(100, 100, QImage::Format_RGB32);
+    for (const int pixels : {8, 11, 12, 40}) {
+        QFont font = QApplication::font();
+        font.setPixelSize(pixels);
+        QPainter painter(&paper);
+        painter.setFont(font);
+        painter.drawText(0, 50, "Score: 0123456789/");
+        painter.end();
+        EXPECT_EQ(expected_board().copy(labels()), before) << pixels;
+    }
+}
 
 TEST(Score, IsReadAboveEveryCard) {
     // A short column, and one that ends below the score.

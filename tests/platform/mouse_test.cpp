@@ -90,6 +90,44 @@ TEST_F(MouseTest, RaisesTwoClicksForTheSecondPressOnly) {
     EXPECT_EQ(drag(25, 25, 50, MouseButton::other), "");
 }
 
+TEST_F(MouseTest, KnowsHowWellAPointerAims) {
+    const struct {
+        Pointer by;
+        float tap;
+        float second_click;
+    } cases[] = {{Pointer::mouse, 0, 4}, {Pointer::pen, 4, 8}, {Pointer::finger, 10, 24}};
+    Mouse& mouse = window.mouse();
+    mouse.set_plain_offset(450);
+    for (const auto& [by, tap, second_click] : cases) {
+        const auto play = [&, by = by](float from, float over, float to) {
+            window.log.clear();
+            mouse.press(from, 50, MouseButton::left, by);
+            mouse.move(over, 50);
+            mouse.release(to, 50);
+            return window.log;
+        };
+        const std::string tapped =
+            by == Pointer::mouse ? "drop 3 on 3 at 75,750. " : "drop 3 on 3 at 450,750. ";
+        EXPECT_EQ(play(205, 205 + tap, 205 + tap), tapped);
+        EXPECT_EQ(play(205, 206 + tap, 210), "drop 3 on 3 at 150,750. ") << "not a tap any more";
+        EXPECT_EQ(play(205 + tap, 205 + tap, 204), "drop 3 on 3 at 60,750. ") << "without a move";
+        EXPECT_EQ(play(100 - tap, 100, 100), "click 1. ") << "let go beside what it pressed";
+        desktop.advance(10'000);
+        const auto two_clicks = [&](float apart) {
+            desktop.advance(10'000);
+            const std::string first = play(10, 10, 10);
+            return first + play(10 + apart, 0, 10 + apart);
+        };
+        EXPECT_EQ(two_clicks(second_click), "click 0. two clicks 0. click 0. ");
+        EXPECT_EQ(two_clicks(second_click + 1), "click 0. click 0. ");
+    }
+    window.log.clear();
+    mouse.press(205, 50, MouseButton::left, Pointer::keys);
+    mouse.move(260, 50);
+    mouse.release(260, 50);
+    EXPECT_EQ(window.log, "drop 3 on 3 at 450,750. ") << "keys aim at images";
+}
+
 TEST_F(MouseTest, DropsADraggedImageWithTheOffsetInTwips) {
     EXPECT_EQ(drag(210, 60, 30), "drop 3 on 1 at 150,450. ");
     EXPECT_EQ(window.images(3).left(), 200) << "the image itself stays";

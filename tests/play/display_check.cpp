@@ -106,6 +106,10 @@ void check_tablet(Table& table) {
     const bool for_good = all_turned && last_tablet_slot() < 5;
     if (!for_good || (stock.visible() && stock.picture().none())) table.expect_shown(stock_image);
     if (stock.visible() && stock.picture().none() != all_turned) table.fault(stock_image, "is not the stock");
+    const int turns_left = (last_tablet_slot() - turned_slot() + 4) / 5;
+    if (stock.visible() && stock.depth() != std::max(0, turns_left - 1)) {
+        table.fault(stock_image, "has another depth");
+    }
     const Sign sign = stock.visible() && all_turned && !for_good ? Sign::turn : Sign::none;
     if (frmcards.Shape1(stock_outline).sign() != sign) table.fault(stock_image, "has another sign");
     if (turned_slot() >= 0) table.expect_at(tablet(turned_slot(), picture_field), 83 * x_scale, 10);

@@ -7,6 +7,7 @@
 #include <random>
 
 #include "board/display.h"
+#include "notation/position.h"
 #include "platform/key_codes.h"
 #include "platform/timer.h"
 #include "settings/settings.h"
@@ -107,8 +108,8 @@ TEST_F(ShownBoard, IsPaintedAnewWhereItIsToldToHaveChanged) {
     std::mt19937 random(1);
     const auto below = [&](unsigned limit) { return static_cast<int>(random() % limit); };
     const auto anywhere = [&] { return Place{below(800) + 0.0, below(560) + 0.0}; };
-    for (int event = 0; event < 600; ++event) {
-        const int kind = below(12);
+    for (int event = 0; event < 700; ++event) {
+        const int kind = below(14);
         if (kind < 3) press(anywhere());
         if (kind < 3 && event % 2 == 0) press(below(10));
         if (kind >= 3 && kind < 6) move(anywhere());
@@ -125,6 +126,8 @@ TEST_F(ShownBoard, IsPaintedAnewWhereItIsToldToHaveChanged) {
         if (kind == 10 && event % 3 == 0) stage.key_down(' ');
         if (kind == 11 && event % 3 == 0) view.resize({700 + below(100), 300 + below(300)});
         if (kind == 11 && event % 3 == 1 && frmcards.mnuUndo.visible()) frmcards.mnuUndo.choose();
+        constexpr std::array keys{left_key, up_key, right_key, down_key, enter_key, enter_key, escape_key};
+        if (kind > 11) stage.key_down(keys.at(static_cast<std::size_t>(below(keys.size()))));
         ASSERT_TRUE(shows_all()) << event << ", " << kind;
     }
 }
@@ -302,6 +305,112 @@ TEST_F(ShownBoard, LiftsWhatTheReceiverWouldTake) {
     move(on(six));
     EXPECT_EQ(drag().lifted(), both) << "nobody takes them";
     EXPECT_TRUE(shows_all());
+}
+
+TEST_F(ShownBoard, ShowsThePointerWhatItCouldDo) {
+    using Shape = PointerShape;
+    const auto shape_at = [&](Place at, bool left_button = false) {
+        stage.move(at.x, at.y, left_button);
+        return view.shape;
+    };
+    const Place jack = on(top_image(column_of_jack));
+    EXPECT_EQ(shape_at(bare_table), Shape::arrow);
+    EXPECT_EQ(shape_at(on(frmcards.Image1(stock_image))), Shape::pointing_hand);
+    EXPECT_EQ(shape_at({on(frmcards.Image1(face_down_image(5, 0))).x, 130}), Shape::arrow)
+        << "a face-down card";
+    EXPECT_EQ(shape_at(on(frmcards.Shape1(1))), Shape::arrow) << "an empty place";
+    EXPECT_EQ(shape_at(jack), Shape::open_hand);
+    press(jack);
+    EXPECT_EQ(view.shape, Shape::closed_hand);
+    EXPECT_EQ(shape_at(on(top_image(column_of_queen)), true), Shape::closed_hand);
+    EXPECT_EQ(shape_at(bare_table, true), Shape::closed_hand);
+    release(bare_table);
+    EXPECT_EQ(view.shape, Shape::arrow) << "while the card glides back";
+    // Without a move of the pointer, too.
+    shape_at(on(frmcards.Shape1(0)));
+    game.desktop.event([] { top_image(column_of_ace).move(frmcards.Shape1(0).left(), top_row); });
+    view.shows_all();
+    EXPECT_EQ(view.shape, Shape::open_hand) << "a card has come";
+    frmcards.set_enabled(false);
+    EXPECT_EQ(view.shape, Shape::arrow) << "behind a dialog";
+    frmcards.set_enabled(true);
+    EXPECT_EQ(view.shape, Shape::open_hand);
+    stage.key_down(down_key);
+    stage.key_down(down_key);
+    stage.key_down(enter_key);
+    EXPECT_TRUE(stage.holds());
+    EXPECT_EQ(view.shape, Shape::open_hand) << "the keys hold a card";
+    stage.cancel();
+    resize(800, 300);
+    shape_at({jack.x, 180});
+    EXPECT_EQ(view.shape, Shape::arrow);
+    stage.scroll_to(stage.scroll().range());
+    EXPECT_EQ(view.shape, Shape::open_hand) << "scrolled";
+}
+
+TEST_F(ShownBoard, ShowsAndTellsHowManyCardsAreLeftInTheStock) {
+    const Image& stock = frmcards.Image1(stock_image);
+    const Place middle{static_cast<double>(stock.left()) + 30, static_cast<double>(stock.top()) + 40};
+    const auto tip = [&](Place at) {
+        const std::optional<BoardTip> told = stage.tip_at(at.x, at.y);
+        return told ? told->text : "";
+    };
+    const auto edges = [&] {
+        const Area pile = stage.scene().area_of(stock);
+        int cards = 0;
+        for (const PaintedImage& image : game.layers().images) {
+            if (!image.place.meets(around(box_of(stock.place())))) continue;
+            ++cards;
+            EXPECT_EQ(united(pile, image.place), pile) << "repainted with the stock";
+            EXPECT_LT(image.place.right(), turned_card_left) << "beside the turned card";
+        }
+        return std::max(0, cards - 1);
+    };
+    EXPECT_EQ(tip(middle), "45 cards lie face down");
+    std::string seen;
+    for (int left = 45; left > 0; left -= 5) {
+        EXPECT_TRUE(shows_all()) << left;
+        pass(200);
+        EXPECT_TRUE(shows_all()) << left;
+        seen += std::to_string(edges());
+        press(middle);
+        release(middle);
+    }
+    EXPECT_EQ(seen, "443322110") << "the last five lie flat";
+    EXPECT_EQ(edges(), 0);
+    EXPECT_EQ(tip(middle), "No card lies face down: a click turns the cards over");
+    set_position("0: Q♠\ntablet: (2♣) 3♣");
+    EXPECT_EQ(tip(middle), "1 card lies face down");
+    frmcards.Image1(stock_image).click();
+    EXPECT_EQ(tip(middle), "") << "turned for good";
+    EXPECT_EQ(edges(), 0);
+    EXPECT_TRUE(shows_all());
+}
+
+TEST_F(ShownBoard, TellsAndCopiesTheNumberOfTheDeal) {
+    const auto tip = [&](Place at) { return stage.tip_at(at.x, at.y); };
+    const Area label = around(game.layers().labels[2].place);
+    const Place on_label{label.left + 3.0, label.top + 3.0};
+    ASSERT_TRUE(tip(on_label));
+    EXPECT_EQ(tip(on_label)->text, "Deal 26 (Ctrl+C copies the number)");
+    EXPECT_TRUE(tip(on_label)->area.meets(around(game.layers().labels[0].place)));
+    EXPECT_FALSE(tip(bare_table) || tip(on(top_image(column_of_jack))));
+    resize(800, 300);
+    stage.scroll_to(60);
+    const Area moved = around(game.layers().labels[0].place).shifted(0, -60);
+    EXPECT_TRUE(tip({moved.left + 3.0, moved.top + 3.0})) << "in its place of the window";
+    press(column_of_jack);
+    EXPECT_FALSE(tip({moved.left + 3.0, moved.top + 3.0})) << "a card is held";
+    stage.cancel();
+    frmcards.copy();
+    EXPECT_EQ(game.desktop.copied(), "26");
+    frmcards.mnuNew.choose();
+    frmcards.set_enabled(false);
+    frmcards.copy();
+    EXPECT_EQ(game.desktop.copied(), "26") << "behind a dialog";
+    frmcards.set_enabled(true);
+    frmcards.copy();
+    EXPECT_EQ(game.desktop.copied(), "27");
 }
 
 TEST_F(ShownBoard, TellsWhenTheNextTimerTicks) {

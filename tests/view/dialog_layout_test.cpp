@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "tests/play/play.h"
+#include "view/chosen_ring.h"
 #include "view/dialog_texts.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmError.h"
@@ -90,6 +91,67 @@ TEST(DialogLayout, RoundsEdgesAndLeavesRoomToWrite) {
     dialog.left.bring_to_front();
     EXPECT_EQ(making_order(dialog),
               (std::vector<Widget*>{&dialog.box, &dialog.frame, &dialog.right, &dialog.left}));
+}
+
+TEST(DialogLayout, LeavesAirBeforeAValueAndRoomForTheRingOfTheChosenBack) {
+    Play play;
+    play.start();
+    frmBestScore.show();
+    frmFeatures.show();
+    for (int size = 8; size <= 20; ++size) {
+        const EvenLetters letters(static_cast<float>(size));
+        for (const PixelSize screen : {large_screen, frmBestScore.client_size()}) {
+            const double scale = fitting_scale(frmBestScore, screen, letters);
+            const Label& label = frmBestScore.lblAverageScoreText;
+            const ShownText text = shown_text(label, scale, letters);
+            const float end = static_cast<float>(control_place(label, scale, letters).left) +
+                              letters.width(text.text, text.font);
+            const int value = control_place(frmBestScore.lblAverageScore, scale, letters).left;
+            EXPECT_GE(static_cast<float>(value) - end, 4) << size;
+        }
+    }
+    for (const double scale : {1.0, 1.3, 2.0}) {
+        const auto place_of = [&](const Widget& widget) { return control_place(widget, scale, usual); };
+        const Area back = place_of(frmFeatures.ImgCardBacks(4));
+        const ChosenRing ring = chosen_ring({back.width, back.height}, scale);
+        EXPECT_GE(-ring.middle.left - ring.line / 2, 1) << "air";
+        const Area around_ring =
+            around(ring.middle.grown(ring.line / 2)).shifted(back.left, back.top).grown(1);
+        for (Widget* widget : frmFeatures.widgets()) {
+            const bool beside = widget->container() && widget != &frmFeatures.ImgCardBacks(4);
+            EXPECT_FALSE(beside && place_of(*widget).meets(around_ring)) << scale;
+        }
+    }
+    EXPECT_EQ(ring_color(color_of(48, 140, 198), black, color_of(239, 239, 239)), color_of(48, 140, 198));
+    EXPECT_EQ(ring_color(color_of(200, 200, 200), black, color_of(239, 239, 239)), black);
+}
+
+TEST(DialogTexts, ThatMeanTheSameHaveOneSize) {
+    Play play;
+    play.start();
+    frmBestScore.show();
+    frmyouwin.show();
+    const EvenLetters large(24);
+    const auto size = [&](const Widget& widget) { return shown_text(widget, 1, large).font.pixels; };
+    EXPECT_LT(size(frmBestScore.cmdOk), 24) << "there is room for more";
+    for (const Widget* widget : std::initializer_list<const Widget*>{&frmBestScore.cmdClearScore,
+                                                                     &frmBestScore.lblNameText,
+                                                                     &frmBestScore.lblGamesWonText,
+                                                                     &frmBestScore.lblGamesWon}) {
+        EXPECT_EQ(size(*widget), size(frmBestScore.cmdOk));
+    }
+    frmBestScore.lblHighScoreName(2).set_caption(std::string(34, 'a'));
+    const auto name_size = [](int place) {
+        return shown_text(frmBestScore.lblHighScoreName(place), 1, usual).font.pixels;
+    };
+    EXPECT_LT(name_size(2), shown_text(frmBestScore.lblNameText, 1, usual).font.pixels);
+    EXPECT_EQ(name_size(1), name_size(2)) << "a column";
+    EXPECT_EQ(shown_text(frmBestScore.lblHighScore(2), 1, usual).font,
+              shown_text(frmBestScore.lblNameText, 1, usual).font)
+        << "no other";
+    const ShownText high_score = shown_text(frmyouwin.lblNewHighScore, 1, usual);
+    EXPECT_EQ(high_score.font, shown_text(frmyouwin.lblComgrats, 1, usual).font);
+    EXPECT_EQ(high_score.text, "You have a new\nhigh score!") << "even lines";
 }
 
 TEST(DialogTexts, BecomeSmallerAndAreCutOnlyWhereTheyMust) {

@@ -60,10 +60,15 @@ class Grid {
             fill(around(box_of(layers.shadow->pile).grown(layers.shadow->reach)), over(3));
         }
         for (const PaintedImage& image : layers.lifted) fill(image.place, picture(image));
+        for (const PaintedRing& ring : layers.rings) {
+            fill(around(ring.middle.grown(ring.line / 2)), over(ring.color));
+        }
         if (layers.plate) fill(layers.plate->place, flat(4));
         for (const PaintedLabel& label : layers.labels) {
-            fill(around(label.place), over(static_cast<unsigned>(std::hash<std::string_view>()(label.text))));
+            fill(around(label.place.grown(label.rim ? label.rim->width : 0)),
+                 over(static_cast<unsigned>(std::hash<std::string_view>()(label.text))));
         }
+        for (const PaintedImage& image : layers.celebration) fill(image.place, picture(image));
     }
     bool operator==(const Grid& other) const { return cells_ == other.cells_; }
 
@@ -109,6 +114,9 @@ class GridView : public FormView, public BoardFront {
     void dealt(const Image& from) override {
         if (stage_) stage_->dealt(from);
     }
+    void won(Form& next, const std::vector<std::vector<const Image*>>& piles) override {
+        if (stage_) stage_->won(next, piles);
+    }
     void menu_changed() override {}
     void raise() override {}
 
@@ -118,16 +126,27 @@ class GridView : public FormView, public BoardFront {
     void settle_later() override { settles_ = true; }
     void steps_changed() override {}
     bool allows_motion() const override { return motion_allowed; }
+    void cursor_moved() override { ++cursor_moves; }
+    void pointer_shape_changed() override { shape = stage_->pointer_shape(); }
+    bool full_screen() const override { return fills_screen; }
+    void set_full_screen(bool on) override { fills_screen = on; }
+    bool wants_high_contrast() const override { return high_contrast_wanted; }
+    void hold_back(Form& next) override { held_back = &next; }
+    void show_held_back() override { held_back = nullptr; }
 
     void resize(PixelSize size) {
         if (!stage_) stage_.emplace(form_, texts, *this);
         grid_ = Grid(size_ = size);
         stage_->resized(size);
     }
-    /// Goes on with what waits, and paints. Whether the picture is then what a whole new one would be.
-    bool shows_all() {
-        if (std::exchange(settles_, false)) stage_->settle();
+    /// Goes on with what waits.
+    void go_on() {
+        while (std::exchange(settles_, false)) stage_->settle();
         if (stage_->next_step() && *stage_->next_step() <= desktop().now()) stage_->step();
+    }
+    /// Goes on and paints. Whether the picture is then what a whole new one would be.
+    bool shows_all() {
+        go_on();
         const int scrolled = stage_->scroll().offset();
         const Area all{0, 0, size_.width, size_.height};
         if (std::exchange(all_is_stale_, false)) stale_ = {all};
@@ -144,6 +163,11 @@ class GridView : public FormView, public BoardFront {
 
     FixedTexts texts;
     bool motion_allowed = true;
+    bool fills_screen = false;
+    int cursor_moves = 0;
+    PointerShape shape = PointerShape::arrow;
+    bool high_contrast_wanted = false;
+    const Form* held_back = nullptr;
 
   private:
     Form& form_;

@@ -7,16 +7,11 @@
 #include "board/display.h"
 #include "settings/settings.h"
 #include "state/variables.h"
+#include "tests/play/known_deal.h"
 #include "tests/view/grid_window.h"
 
 namespace tarnwick {
 namespace {
-
-// The columns of this deal end in Q♦ 10♥ K♦ 6♠ A♣ 2♥ J♦ 9♣ 6♦ Q♣.
-constexpr std::uint32_t deal = 26;
-constexpr int column_of_ace = 4;
-constexpr int column_of_jack = 6;
-constexpr int column_of_queen = 9;
 
 class MotionTest : public testing::Test {
   protected:
@@ -56,7 +51,7 @@ class MotionTest : public testing::Test {
     bool in_front(const Image& image) { return &game.layers().images.back() == seen(image); }
     bool moves() { return motion.under_way(); }
 
-    GridGame game{deal};
+    GridGame game{known_deal};
     BoardStage& stage = game.stage();
     const Motion& motion = game.stage().scene().motion();
 };
@@ -79,7 +74,7 @@ TEST_F(MotionTest, ACardTravelsFromUnderThePointerAndBackAgain) {
     undo();
     EXPECT_EQ(left(jack), arrival);
     pass(75);
-    EXPECT_NEAR(left(jack), (arrival + home) / 2, 30) << "half way";
+    EXPECT_NEAR(left(jack), (arrival + home) / 2.0, 30) << "half way";
     EXPECT_TRUE(in_front(jack));
     EXPECT_EQ(jack.left(), static_cast<float>(home)) << "only seen there";
     pass(85);
@@ -107,6 +102,19 @@ TEST_F(MotionTest, ATurnedCardComesFromTheStockAndGoesBackThere) {
     EXPECT_FALSE(seen(second) || moves());
 }
 
+TEST_F(MotionTest, NothingIsSeenToMoveBeforeTheFirstPicture) {
+    GridView view(frmcards);
+    view.resize(frmcards.client_size());
+    for (const bool painted : {false, true}) {
+        Image& jack = top_image(column_of_jack);
+        const Rect before = jack.place();
+        jack.move(before.left - 60, before.top);
+        view.widget_changed(jack, before);
+        EXPECT_TRUE(view.shows_all());
+        EXPECT_EQ(view.stage().scene().motion().under_way(), painted);
+    }
+}
+
 TEST_F(MotionTest, ADealComesFromTheStockAndARestartFromWhereTheCardsLay) {
     const Image& jack = top_image(column_of_jack);
     drop(column_of_jack, column_of_queen);
@@ -119,12 +127,17 @@ TEST_F(MotionTest, ADealComesFromTheStockAndARestartFromWhereTheCardsLay) {
     EXPECT_FALSE(moves());
     frmcards.mnuNew.choose();
     EXPECT_TRUE(game.view().shows_all());
-    EXPECT_LE(game.layers().images.size(), 3U) << "a bare table";
+    const Area stock = game.stage().scene().area_of(frmcards.Image1(stock_image));
+    const auto lies_elsewhere = [&](const PaintedImage& image) { return !image.place.meets(stock); };
+    const std::vector<PaintedImage>& images = game.layers().images;
+    EXPECT_LE(std::count_if(images.begin(), images.end(), lies_elsewhere), 2) << "a bare table";
+    EXPECT_EQ(game.layers().outlines.size(), 4U) << "no sign where a card is about to lie";
     const Image& last = top_image(column_of_queen);
-    EXPECT_FALSE(seen(last));
-    pass(75);
-    EXPECT_LT(left(last), last.left());
-    pass(85);
+    EXPECT_FALSE(seen(last) || seen(top_image(0)));
+    pass(100);
+    EXPECT_TRUE(seen(top_image(0)));
+    EXPECT_FALSE(seen(last)) << "face down until it arrives";
+    pass(60);
     EXPECT_FALSE(moves());
     EXPECT_EQ(left(last), static_cast<int>(last.left()));
 }
@@ -172,6 +185,28 @@ TEST_F(MotionTest, EndsWithAnyPressKeyOrNewSize) {
     frmcards.user_resized({1000, 700});
     EXPECT_TRUE(game.view().shows_all());
     EXPECT_FALSE(moves()) << "behind a dialog";
+}
+
+TEST_F(MotionTest, APressInTheSameMomentComesBeforeAnythingSetsOut) {
+    const Image& queen = top_image(column_of_queen);
+    frmcards.mnuRestart.choose();
+    frmcards.mnuNew.choose();
+    stage.press(queen.left() + 30, queen.top() + 40, MouseButton::left);
+    EXPECT_TRUE(game.view().shows_all());
+    EXPECT_FALSE(moves());
+}
+
+TEST_F(MotionTest, ACardIsHeldWhereverItWasSlidingTo) {
+    const Image& card = top_image(column_of_ace);
+    stage.press(card.left() + 30, card.place().bottom() - 8, MouseButton::left);
+    stage.release(card.left() + 30, card.place().bottom() - 8, MouseButton::left, false);
+    pass(45);
+    ASSERT_TRUE(moves());
+    stage.press(card.left() + 30, card.top() + 40, MouseButton::left);
+    pass(40);
+    EXPECT_FALSE(moves()) << "the hand moves it";
+    stage.cancel();
+    EXPECT_TRUE(game.view().shows_all());
 }
 
 TEST_F(MotionTest, NothingMovesWhereThatIsNotWanted) {

@@ -1,9 +1,10 @@
-// The table without its cards: empty places, the light on it.
+// The table without its cards: empty places, the light on it, the score.
 
 #include <gtest/gtest.h>
 
 #include "board/table_colors.h"
 #include "notation/position.h"
+#include "settings/settings.h"
 #include "tests/view/grid_window.h"
 #include "view/contrast.h"
 #include "view/table_light.h"
@@ -95,7 +96,9 @@ std::uint32_t ground_at(TableLight& light, PixelSize window, int x, int y, Color
     EXPECT_EQ(ground.strips.size(), 1U);
     const auto& [place, column, row] = ground.strips.at(0);
     EXPECT_EQ(place, (Area{x, y + scrolled, 1, 1}));
-    return ground.sheet.pixels.at(static_cast<std::size_t>(row * ground.sheet.width + column));
+    return ground.sheet.pixels.at(static_cast<std::size_t>(row) *
+                                      static_cast<std::size_t>(ground.sheet.width) +
+                                  static_cast<std::size_t>(column));
 }
 
 TEST(TableLight, IsFaintAndLeavesTheMiddleAsItWas) {
@@ -127,6 +130,44 @@ TEST(TableLight, IsFaintAndLeavesTheMiddleAsItWas) {
     }
 }
 
+TEST(ScoreLabels, GrowWithTheBoardFromTheirLowerLeftCorner) {
+    GridGame game{26};
+    game.view().texts.scale = 0.7F;  // fits the labels as they are
+    for (const bool scaled : {true, false}) {
+        save_setting(key_scale_cards, scaled ? "True" : "False");
+        for (const auto& [width, height, scale] :
+             {std::tuple{640, 480, 1.0}, {800, 600, 1.0}, {2560, 1440, 3.2}}) {
+            game.view().resize({width, height});
+            EXPECT_TRUE(game.view().shows_all());
+            const double wanted = scaled ? scale : 1;
+            const std::vector<PaintedLabel>& labels = game.layers().labels;
+            ASSERT_EQ(labels.size(), 3U);
+            const double left = static_cast<double>(frmcards.lblScoreText.left());
+            for (std::size_t i = 0; i < labels.size(); ++i) {
+                const Box place = box_of(frmcards.score_labels().at(i)->place());
+                EXPECT_NEAR(labels[i].font_scale, wanted, 0.01) << width;
+                EXPECT_NEAR(labels[i].place.width, place.width * labels[i].font_scale, 0.01);
+                EXPECT_NEAR(labels[i].place.left, left + (place.left - left) * labels[i].font_scale, 0.01);
+                EXPECT_NEAR(labels[i].place.bottom(), place.bottom(), 0.01);
+            }
+        }
+    }
+}
+
+TEST(ScoreLabels, GetARimThatSetsThemOffWhereTheTableDoesNot) {
+    GridGame game{26};
+    const auto rim = [&](Color table, Color text) {
+        set_table_color(table);
+        set_text_color(text);
+        EXPECT_TRUE(game.view().shows_all());
+        return game.layers().labels[0].rim;
+    };
+    EXPECT_EQ(rim(table_green, black)->color, white) << "4.09 to 1";
+    EXPECT_FALSE(rim(table_green, white)) << "5.14 to 1";
+    EXPECT_EQ(rim(gray, gray)->color, black);
+    EXPECT_EQ(rim(white, white)->color, black);
+}
+
 TEST(Contrast, IsThatOfTheGuidelinesForReadableText) {
     EXPECT_NEAR(contrast(black, white), 21, 1e-9);
     EXPECT_NEAR(contrast(table_green, black), 4.09, 0.01);
@@ -135,7 +176,7 @@ TEST(Contrast, IsThatOfTheGuidelinesForReadableText) {
         const Color color = color_of(shade, shade, shade);
         EXPECT_GE(contrast(farthest_from(color), color), 4.5) << shade;
     }
-    EXPECT_EQ(opacity_for(4.5, white, white), 255);
+    EXPECT_EQ(opacity_for(4.5, white, white, white), 255);
 }
 
 }  // namespace

@@ -12,6 +12,8 @@
 #include <string_view>
 
 #include "desktop/app/qt_desktop.h"
+#include "desktop/shared/high_contrast.h"
+#include "desktop/shared/picture_cache.h"
 #include "platform/random.h"
 #include "settings/settings.h"
 #include "settings/store.h"
@@ -79,6 +81,8 @@ void look_as_asked(const QCommandLineParser& line) {
     if (line.isSet("font")) font.setPointSizeF(line.value("font").toDouble());
     QApplication::setFont(font);
     if (line.isSet("dark")) QApplication::setPalette(dark_colors());
+    if (line.isSet("high-contrast")) use_high_contrast();
+    if (line.isSet("four-colors")) use_four_colors();
     if (line.isSet("rtl")) QApplication::setLayoutDirection(Qt::RightToLeft);
 }
 
@@ -90,6 +94,8 @@ void read(QCommandLineParser& line, const QStringList& arguments) {
     line.addOptions({{"scale", "Device pixels for a pixel, as 1.5.", "NUMBER"},
                      {"font", "Size of the desktop's font.", "POINTS"},
                      {"dark", "Dark colours."},
+                     {"high-contrast", "As for those who see little."},
+                     {"four-colors", "A colour for each suit."},
                      {"rtl", "Laid out from right to left."},
                      {"played", "After some games, not as a new player sees it."}});
     line.process(arguments);

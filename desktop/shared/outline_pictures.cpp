@@ -1,8 +1,9 @@
-#include "desktop/board/outline_pictures.h"
+#include "desktop/shared/outline_pictures.h"
 
 #include <QPainter>
 #include <QPainterPath>
 #include <QPen>
+#include <algorithm>
 
 #include "desktop/shared/qt_convert.h"
 
@@ -26,6 +27,17 @@ QPen round_pen(const QColor& color, double width) {
     return QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
 }
 
+// Of those in one colour, the sign tells them apart.
+bool differ_in_size_only(const PaintedOutline::Look& a, const PaintedOutline::Look& b) {
+    const auto same_length = [](const auto& line, const auto& other) { return line.size() == other.size(); };
+    return a.color == b.color && a.line_opacity == b.line_opacity && a.rim.has_value() == b.rim.has_value() &&
+           std::equal(a.sign.lines.begin(),
+                      a.sign.lines.end(),
+                      b.sign.lines.begin(),
+                      b.sign.lines.end(),
+                      same_length);
+}
+
 void paint_look(QPainter& painter, const PaintedOutline::Look& look) {
     const QRectF place = to_qt(look.middle);
     const QPainterPath sign = path_of(look.sign);
@@ -45,8 +57,14 @@ void paint_look(QPainter& painter, const PaintedOutline::Look& look) {
 }  // namespace
 
 const QPixmap& OutlinePictures::pixmap(const PaintedOutline::Look& look) {
+    const QPixmap* other = nullptr;
     for (const auto& [known, pixmap] : pixmaps_) {
         if (known == look) return pixmap;
+        if (in_haste_ && differ_in_size_only(known, look)) other = &pixmap;
+    }
+    if (other) {
+        handed_out_another_size_ = true;
+        return *other;
     }
     // The size or the colour has changed.
     if (pixmaps_.size() == most_pixmaps) pixmaps_.clear();
@@ -57,6 +75,12 @@ const QPixmap& OutlinePictures::pixmap(const PaintedOutline::Look& look) {
     paint_look(painter, look);
     painter.end();
     return pixmaps_.emplace_back(look, pixmap).second;
+}
+
+bool OutlinePictures::end_haste() {
+    in_haste_ = false;
+    if (handed_out_another_size_) pixmaps_.clear();
+    return std::exchange(handed_out_another_size_, false);
 }
 
 }  // namespace tarnwick
