@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "view/card_shadow.h"
 #include "view/contrast.h"
 #include "view/picture_place.h"
 
@@ -66,7 +67,7 @@ Box BoardDrag::place() const {
 
 Area BoardDrag::area() const {
     const Box bounds = place();
-    return bounds.empty() ? Area() : touched(bounds.grown(shadow_reach));
+    return bounds.empty() ? Area() : touched(united(bounds.grown(shadow_reach), with_card_shadow(bounds)));
 }
 
 Area BoardDrag::mark_area() const {
@@ -86,7 +87,10 @@ void BoardDrag::add_to(BoardLayers& layers, double ratio, bool strong) const {
     Area pile;
     const auto add = [&](const Image& image) {
         if (!is_seen(image)) return;
-        layers.lifted.push_back({image.picture(), snapped(place_of(image), ratio)});
+        // The lowest card throws that of the whole pile, the others one on what they lie on.
+        const Area place = snapped(place_of(image), ratio);
+        const bool shadow = !layers.lifted.empty() && throws_shadow(layers.lifted, place);
+        layers.lifted.push_back({image.picture(), place, shadow, 2 * place.height});
     };
     for (const Image* image : lifted()) {
         pile = united(pile, snapped(place_of(*image), ratio));

@@ -65,10 +65,15 @@ struct PaintedOutline {
     Look look;
 };
 
-/// A picture, in whole device pixels. The opacity goes from 0 to 255.
+/// A picture, in whole device pixels. The opacity goes from 0 to 255. A card may have a shadow around it, as
+/// card_shadow() tells.
 struct PaintedImage {
     Picture picture;
     Area place;
+    bool shadow = false;
+    /// So many of its rows, from the top down, lie on a card of the same column or beside its shadow, to
+    /// which this one adds nothing.
+    int upon = 0;
     int opacity = 255;
 };
 
@@ -92,7 +97,7 @@ struct PaintedRing {
     double radius = 0;
 };
 
-/// The shadow of a pile of lifted cards. Device pixels: it reaches `reach` beyond the pile on every side,
+/// The shadow of a card or a pile of them. Device pixels: it reaches `reach` beyond the pile on every side,
 /// lies `drop` lower, and fades out over `blur`; where it is darkest, its black has this opacity, of 255.
 struct PaintedShadow {
     Area pile;
@@ -128,7 +133,7 @@ struct BoardLayers {
     std::vector<PaintedOutline> outlines;
     std::vector<PaintedImage> images;
     std::optional<PaintedMark> mark;
-    std::optional<PaintedShadow> shadow;
+    std::optional<PaintedShadow> shadow;  ///< of what is lifted
     std::vector<PaintedImage> lifted;
     std::vector<PaintedRing> rings;  ///< of the keyboard's cursor
     std::optional<PaintedPlate> plate;

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "platform/controls.h"
+#include "view/card_shadow.h"
 #include "view/contrast.h"
 #include "view/empty_place.h"
 #include "view/picture_place.h"
@@ -29,11 +30,15 @@ std::optional<PaintedRim> text_rim(Color text, Color table, double font_scale, b
     return PaintedRim{color, std::max(1.0, 0.6 * font_scale), opacity};
 }
 
+Box shadowed_place(const Image& image, const Rect& place) {
+    return with_card_shadow(pile_place(image, place), picture_place(image, place).width);
+}
+
 }  // namespace
 
 Area BoardScene::area_of(const Widget& widget, const Rect& place) const {
     if (widget.kind() == WidgetKind::image) {
-        const Box seen = pile_place(static_cast<const Image&>(widget), place);
+        const Box seen = shadowed_place(static_cast<const Image&>(widget), place);
         // An image that has not moved may have begun or ceased to stretch.
         return touched(place == widget.place() ? united(seen, box_of(place)) : seen);
     }
@@ -135,19 +140,22 @@ void BoardScene::add_images(double ratio) {
         if (!is_seen(**image) || std::find(elsewhere.begin(), elsewhere.end(), *image) != elsewhere.end())
             continue;
         if (motion_.moves(**image)) continue;
-        if (!layers_.area.meets(touched(pile_place(**image, (*image)->place())))) continue;
+        if (!layers_.area.meets(touched(shadowed_place(**image, (*image)->place())))) continue;
         const Box box = picture_place(**image);
         const Area place = snapped(box, ratio);
         const auto covers = [&](const PaintedImage& upper) { return upper.place == place; };
         if (std::any_of(painted.begin(), painted.end(), covers)) continue;
-        painted.push_back({(*image)->picture(), place});
-        for (int edge = 1; edge <= pile_edges(**image); ++edge) {
+        // The lowest card of a pile throws the shadow of all.
+        const int edges = pile_edges(**image);
+        for (int edge = 0; edge <= edges; ++edge) {
             const Shift out = edge_shift(box.width, edge, ratio);
-            painted.push_back(
-                {(*image)->picture(), place.shifted(static_cast<int>(out.x), static_cast<int>(out.y))});
+            painted.push_back({(*image)->picture(),
+                               place.shifted(static_cast<int>(out.x), static_cast<int>(out.y)),
+                               edge == edges});
         }
     }
     std::reverse(painted.begin(), painted.end());
+    lay_in_columns(painted);
 }
 
 bool BoardScene::is_seen_within(const Area& place) const {

@@ -5,6 +5,7 @@
 #include <numbers>
 #include <utility>
 
+#include "view/card_shadow.h"
 #include "windows/pictures.h"
 
 namespace tarnwick {
@@ -101,7 +102,7 @@ std::vector<Area> Celebration::areas(int scrolled) const {
     constexpr int parts = columns * rows;
     std::vector<Area> areas(parts);
     for_each_seen([&](Picture, const Box& place, int) {
-        const Area seen = touched(place);
+        const Area seen = touched(with_card_shadow(place));
         for (int i = 0; i < parts; ++i) {
             const int left = i % columns * window_.width / columns;
             const int top = i / columns * window_.height / rows;
@@ -119,8 +120,8 @@ std::vector<Area> Celebration::areas(int scrolled) const {
 void Celebration::add_to(BoardLayers& layers, int scrolled, double ratio) const {
     for_each_seen([&](Picture picture, const Box& window_place, int opacity) {
         const Box place = window_place.shifted(0, scrolled);
-        if (!layers.area.meets(touched(place))) return;
-        layers.celebration.push_back({picture, snapped(place, ratio), opacity});
+        if (!layers.area.meets(touched(with_card_shadow(place)))) return;
+        layers.celebration.push_back({picture, snapped(place, ratio), is_card(picture), 0, opacity});
     });
 }
 

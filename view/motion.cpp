@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "view/card_shadow.h"
 #include "view/picture_place.h"
 
 namespace tarnwick {
@@ -250,7 +251,8 @@ std::vector<Area> Motion::areas() const {
     std::vector<Area> areas;
     for (const Flight& flight : flights_) {
         if (!flight.waits)
-            add_area(areas, touched(flight.looks.box.shifted(flight.offset.x, flight.offset.y)));
+            add_area(areas,
+                     touched(with_card_shadow(flight.looks.box.shifted(flight.offset.x, flight.offset.y))));
     }
     return areas;
 }
@@ -260,10 +262,12 @@ void Motion::add_to(BoardLayers& layers, double ratio) const {
         const Box box = flight.looks.box.shifted(flight.offset.x, flight.offset.y);
         const Looks looks = is_seen(*flight.image) ? looks_of(*flight.image) : flight.looks;
         const bool face_down = flight.dealt && !flight.offset.none();
-        const PaintedImage painted{face_down ? back_ : looks.picture, snapped(box, ratio)};
+        const Area place = snapped(box, ratio);
+        const PaintedImage painted{
+            face_down ? back_ : looks.picture, place, throws_shadow(layers.images, place)};
         if (flight.waits) {
             layers.coming.push_back(painted);
-        } else if (layers.area.meets(touched(box))) {
+        } else if (layers.area.meets(touched(with_card_shadow(box)))) {
             layers.images.push_back(painted);
         }
     }

@@ -38,6 +38,7 @@ Picture back_picture(int back) { return picture(first_back + back); }
 Picture twinkle_picture(int frame) { return picture(first_twinkle + frame); }
 Picture plain_ace_picture() { return face_picture(1, 0); }
 Picture logo_picture() { return picture(logo); }
+bool is_card(Picture picture) { return !picture.none() && picture.number < logo; }
 
 std::string drawing_of(Picture picture) {
     const int number = picture.number;

@@ -21,6 +21,8 @@ Picture twinkle_picture(int frame);
 /// The ace of Spades without a glint.
 Picture plain_ace_picture();
 Picture logo_picture();
+/// Whether a picture shows a card.
+bool is_card(Picture picture);
 
 /// File name of a picture's drawing without its ending, as "faces/hearts-queen"; empty for no picture.
 std::string drawing_of(Picture picture);

@@ -1,5 +1,6 @@
 #include "desktop/board/board_painter.h"
 #include "desktop/shared/qt_convert.h"
+#include "view/card_shadow.h"
 
 namespace tarnwick {
 namespace {
@@ -81,7 +82,22 @@ void BoardPainter::paint(QPainter& painter, const BoardLayers& layers) {
 
 void BoardPainter::paint_image(QPainter& painter, const PaintedImage& image) {
     const QRect place = to_qt(image.place);
-    painter.drawPixmap(place, pictures_.pixmap(image.picture, place.size()));
+    const QPixmap& pixmap = pictures_.pixmap(image.picture, place.size());
+    const int reach = CardPictures::reach(image.picture, place.size());
+    const QRect whole = place.adjusted(-reach, -reach, reach, reach);
+    // In haste it may be of another size.
+    const qreal zoom = qreal(pixmap.width()) / whole.width();
+    const auto paint_part = [&](const QRect& part) {
+        const QRect source = part.translated(-whole.topLeft());
+        painter.drawPixmap(
+            QRectF(part),
+            pixmap,
+            QRectF(source.x() * zoom, source.y() * zoom, source.width() * zoom, source.height() * zoom));
+    };
+    if (!image.shadow) return paint_part(place);
+    for (const Area& part : shadowed_parts(image)) {
+        if (!part.empty()) paint_part(to_qt(part));
+    }
 }
 
 void BoardPainter::begin_haste() {

@@ -3,8 +3,9 @@
 #include <QPainter>
 #include <vector>
 
-#include "desktop/board/drag_shadow.h"
+#include "desktop/board/card_pictures.h"
 #include "desktop/board/label_pictures.h"
+#include "desktop/board/soft_shadow.h"
 #include "desktop/shared/outline_pictures.h"
 #include "desktop/shared/picture_cache.h"
 #include "view/board_layers.h"
@@ -28,10 +29,10 @@ class BoardPainter {
   private:
     void paint_image(QPainter& painter, const PaintedImage& image);
 
-    PictureCache pictures_;
+    PictureCache pictures_{CardPictures()};
     OutlinePictures outlines_;
     LabelPictures labels_;
-    DragShadow shadow_;
+    SoftShadow shadow_;
 };
 
 }  // namespace tarnwick

@@ -17,6 +17,9 @@ namespace {
 bool four_colors = false;
 
 QByteArray text_of(const QString& name) {
+    // A static library's resources are linked in only where something names them.
+    static const bool registered = (register_art(), true);
+    Q_UNUSED(registered)
     QFile file(":/art/" + name + ".svg");
     if (!file.open(QIODevice::ReadOnly)) return {};
     QByteArray text = file.readAll();
@@ -28,10 +31,13 @@ QByteArray text_of(const QString& name) {
 
 void use_four_colors() { four_colors = true; }
 
+void draw_picture(QImage& image, Picture picture, QRect place) {
+    QSvgRenderer renderer(text_of(QString::fromStdString(drawing_of(picture))));
+    QPainter painter(&image);
+    renderer.render(&painter, QRectF(place));
+}
+
 QImage render_drawing(const QString& name, QSize size, qreal scale) {
-    // A static library's resources are linked in only where something names them.
-    static const bool registered = (register_art(), true);
-    Q_UNUSED(registered)
     QSvgRenderer renderer(text_of(name));
     if (!renderer.isValid()) return {};
     if (!size.isValid()) size = (QSizeF(renderer.defaultSize()) * scale).toSize();
@@ -61,7 +67,7 @@ const QPixmap& PictureCache::pixmap(Picture picture, QSize size) {
             return *other;
         }
     }
-    return sheets_[wanted].pixmaps.emplace(picture.number, render_picture(picture, size)).first->second;
+    return sheets_[wanted].pixmaps.emplace(picture.number, draw_(picture, size)).first->second;
 }
 
 const QPixmap* PictureCache::nearest(Picture picture, Size wanted) const {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QPixmap>
+#include <QRect>
 #include <QSize>
+#include <functional>
 #include <map>
 #include <utility>
 
@@ -15,6 +17,9 @@ void use_four_colors();
 /// Draws a picture of the catalogue at a size in device pixels; a null pixmap for no picture.
 QPixmap render_picture(Picture picture, QSize size);
 
+/// Draws a picture of the catalogue onto an image, at a place in its pixels.
+void draw_picture(QImage& image, Picture picture, QRect place);
+
 /// Draws a drawing that is compiled into the program, such as "icon"; a null image where there is none.
 /// An invalid size stands for the drawing's natural size times `scale`.
 QImage render_drawing(const QString& name, QSize size = {}, qreal scale = 1);
@@ -23,6 +28,10 @@ QImage render_drawing(const QString& name, QSize size = {}, qreal scale = 1);
 /// To draw takes far longer than to scale, so a cache in haste hands out what it has in the nearest size.
 class PictureCache {
   public:
+    /// @param draw  makes a picture for a size, which may be larger than that
+    explicit PictureCache(std::function<QPixmap(Picture, QSize)> draw = render_picture)
+        : draw_(std::move(draw)) {}
+
     /// The picture at a size in device pixels; in haste possibly at another one.
     const QPixmap& pixmap(Picture picture, QSize size);
 
@@ -41,6 +50,7 @@ class PictureCache {
 
     const QPixmap* nearest(Picture picture, Size wanted) const;
 
+    std::function<QPixmap(Picture, QSize)> draw_;
     std::map<Size, Sheet> sheets_;
     bool in_haste_ = false;
     bool handed_out_another_size_ = false;

@@ -9,6 +9,7 @@
 #include "settings/store.h"
 #include "ui/program.h"
 #include "view/board_stage.h"
+#include "view/card_shadow.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {
@@ -44,6 +45,18 @@ class Grid {
                 return (number * 4096U + y * 64U) ^ x;
             };
         };
+        const auto shade = [&](const PaintedShadow& shadow) {
+            fill(shadow.pile.grown(shadow.reach), over(3));
+        };
+        const auto paint_all = [&](const std::vector<PaintedImage>& images) {
+            for (const PaintedImage& image : images) {
+                if (image.shadow) {
+                    const Area whole = image.place.grown(card_shadow(image.place).reach);
+                    for (const Area& part : shadowed_parts(image)) fill(whole, over(3), part);
+                }
+                fill(image.place, picture(image));
+            }
+        };
         const PaintedGround::Sheet& sheet = layers.ground->sheet;
         for (const PaintedGround::Strip& strip : layers.ground->strips) {
             const auto first = static_cast<unsigned>(strip.row * sheet.width + strip.column);
@@ -54,12 +67,10 @@ class Grid {
         for (const PaintedOutline& outline : layers.outlines) {
             fill(outline.place, over(100 + static_cast<unsigned>(outline.look.sign.lines.size())));
         }
-        for (const PaintedImage& image : layers.images) fill(image.place, picture(image));
+        paint_all(layers.images);
         if (layers.mark) fill(around(layers.mark->middle), over(2));
-        if (layers.shadow) {
-            fill(around(box_of(layers.shadow->pile).grown(layers.shadow->reach)), over(3));
-        }
-        for (const PaintedImage& image : layers.lifted) fill(image.place, picture(image));
+        if (layers.shadow) shade(*layers.shadow);
+        paint_all(layers.lifted);
         for (const PaintedRing& ring : layers.rings) {
             fill(around(ring.middle.grown(ring.line / 2)), over(ring.color));
         }
@@ -68,18 +79,22 @@ class Grid {
             fill(around(label.place.grown(label.rim ? label.rim->width : 0)),
                  over(static_cast<unsigned>(std::hash<std::string_view>()(label.text))));
         }
-        for (const PaintedImage& image : layers.celebration) fill(image.place, picture(image));
+        paint_all(layers.celebration);
     }
     bool operator==(const Grid& other) const { return cells_ == other.cells_; }
 
   private:
     template <class Tone>
     void fill(const Area& place, Tone tone) {
+        fill(place, tone, place);
+    }
+    template <class Tone>
+    void fill(const Area& place, Tone tone, const Area& part) {
         const Area seen = place.shifted(0, -scrolled_);
-        const int bottom = std::min({seen.bottom(), clip_.bottom(), size_.height});
-        const int right = std::min({seen.right(), clip_.right(), size_.width});
-        for (int y = std::max({seen.top, clip_.top, 0}); y < bottom; ++y) {
-            for (int x = std::max({seen.left, clip_.left, 0}); x < right; ++x) {
+        const Area clip =
+            common(common(clip_, part.shifted(0, -scrolled_)), {0, 0, size_.width, size_.height});
+        for (int y = clip.top; y < clip.bottom(); ++y) {
+            for (int x = clip.left; x < clip.right(); ++x) {
                 std::uint32_t& cell =
                     cells_[static_cast<std::size_t>(y) * static_cast<std::size_t>(size_.width) +
                            static_cast<std::size_t>(x)];

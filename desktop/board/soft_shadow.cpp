@@ -1,4 +1,4 @@
-#include "desktop/board/drag_shadow.h"
+#include "desktop/board/soft_shadow.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,7 +13,7 @@ double outside(double at, double inset, double length) {
 
 }  // namespace
 
-const QImage& DragShadow::image(const PaintedShadow& shadow) {
+const QImage& SoftShadow::image(const PaintedShadow& shadow) {
     const QSize pile(shadow.pile.width, shadow.pile.height);
     const QSize size = pile + QSize(2 * shadow.reach, 2 * shadow.reach);
     if (pile == pile_ && size == image_.size()) return image_;
@@ -25,7 +25,7 @@ const QImage& DragShadow::image(const PaintedShadow& shadow) {
         const double dy = outside(y + 0.5 - shadow.drop, inset, size.height());
         for (int x = 0; x < size.width(); ++x) {
             const double dx = outside(x + 0.5, inset, size.width());
-            const double depth = std::clamp(1 - std::hypot(dx, dy) / (1.5 * shadow.blur), 0.0, 1.0);
+            const double depth = std::clamp(1 - std::sqrt(dx * dx + dy * dy) / (1.5 * shadow.blur), 0.0, 1.0);
             line[x] = qRgba(0, 0, 0, static_cast<int>(shadow.darkest * depth * depth * (3 - 2 * depth)));
         }
     }

@@ -6,8 +6,8 @@
 
 namespace tarnwick {
 
-/// The soft shadow of a pile of lifted cards. It is drawn once for a size and kept for the drag.
-class DragShadow {
+/// A soft shadow. It is drawn once for a size and kept until another one is wanted.
+class SoftShadow {
   public:
     /// The shadow, to be drawn its `reach` to the left of and above its pile.
     const QImage& image(const PaintedShadow& shadow);
