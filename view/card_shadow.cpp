@@ -38,8 +38,8 @@ void lay_in_columns(std::vector<PaintedImage>& cards) {
         for (auto lower = cards.begin(); lower != card; ++lower) {
             const Area& other = lower->place;
             if (other.left != place.left || other.width != place.width || other.top >= place.top) continue;
-            // To where the shadow of that one has faded by half.
-            const int shaded = other.bottom() + (card_shadow(other).reach + 1) / 2;
+            // To where the shadow of that one begins to fade.
+            const int shaded = other.bottom() + (card_shadow(other).reach + 1) / 4;
             card->upon = std::max(card->upon, shaded - place.top);
         }
     }

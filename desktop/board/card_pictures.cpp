@@ -19,8 +19,6 @@ QPixmap CardPictures::operator()(Picture picture, QSize size) {
     return QPixmap::fromImage(std::move(image));
 }
 
-int CardPictures::reach(Picture picture, QSize size) {
-    return is_card(picture) ? shadow_of(size).reach : 0;
-}
+int CardPictures::reach(Picture picture, QSize size) { return is_card(picture) ? shadow_of(size).reach : 0; }
 
 }  // namespace tarnwick

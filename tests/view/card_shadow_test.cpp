@@ -38,7 +38,8 @@ TEST(CardShadow, IsThrownOnceByWhateverIsSeen) {
         EXPECT_GE(shadows_at(layers.images, top.right(), y), 1) << "beside a column, " << y;
         doubled += shadows_at(layers.images, top.right(), y) - 1;
     }
-    EXPECT_LE(doubled, 3) << "where that of one card goes over into that of the next";
+    EXPECT_LE(doubled, 3 * card_shadow(top).reach)
+        << "where that of one card goes over into that of the next";
     EXPECT_EQ(shadows_at(layers.images, top.left + 9, top.top - 1), 4) << "on the three cards below";
 
     game.stage().press(top.left + 9.0, top.top - 30.0, MouseButton::left);
