@@ -22,10 +22,6 @@ TEST_F(BoardTest, LiftedCardsLieAboveTheOthersAndUnderTheScore) {
     const BoardLayers& layers = game.layers();
     const std::size_t at_rest = layers.images.size();
     EXPECT_FALSE(layers.mark || layers.shadow || layers.plate);
-    for (const PaintedImage& image : layers.images) {
-        const auto is_there = [&](const PaintedImage& other) { return other.place == image.place; };
-        EXPECT_EQ(std::count_if(layers.images.begin(), layers.images.end(), is_there), 1) << "covered";
-    }
     const Picture jack = top_image(column_of_jack).picture();
     drag(column_of_jack, on(column_of_queen));
     game.layers();
