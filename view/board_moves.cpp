@@ -126,7 +126,8 @@ void BoardMoves::end_celebration() {
 }
 
 void BoardMoves::type(const std::string& text) {
-    if (next_ && !form_.enabled()) type_into(*next_, text);
+    // A key that has not ended it is only held.
+    if (next_ && !form_.enabled() && !scene_.celebration().under_way()) type_into(*next_, text);
 }
 
 bool BoardMoves::under_way() const {

@@ -65,10 +65,7 @@ class BoardStage {
     bool key_down(int key_code, bool again = false);
     /// What a key writes, after key_down() and without any command: once the game is over it is for the text
     /// box of the window that is shown next, so that a player who writes on loses nothing.
-    /// @param again  whether the key is only held: it was pressed for something else, and writes nothing
-    void type(const std::string& text, bool again = false) {
-        if (!again) moves_.type(text);
-    }
+    void type(const std::string& text) { moves_.type(text); }
     /// Presses an item as a screen reader does; see tarnwick::press_item().
     void press_item(const Widget& item, int clicks, const std::function<bool()>& is_busy);
     /// The window that was held back is seen now: for what the stage is not told, as that another window has

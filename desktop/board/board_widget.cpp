@@ -277,7 +277,7 @@ void BoardWidget::wheelEvent(QWheelEvent* event) {
 void BoardWidget::keyPressEvent(QKeyEvent* event) {
     event->setAccepted(stage_.key_down(key_code_of(event->key()), event->isAutoRepeat()));
     constexpr Qt::KeyboardModifiers commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-    if (!(event->modifiers() & commands)) stage_.type(event->text().toStdString(), event->isAutoRepeat());
+    if (!(event->modifiers() & commands)) stage_.type(event->text().toStdString());
 }
 
 // Nor do these paint.

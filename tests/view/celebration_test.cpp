@@ -116,7 +116,7 @@ TEST_F(CelebrationTest, OutlivesAHeldKeyAndTheSecondHalfOfADoubleClick) {
         win();
         stage.key_down(enter_key, true);
         stage.key_down('A', true);
-        stage.type("A", true);
+        stage.type("A");
         EXPECT_TRUE(goes_on());
         other_press();
         EXPECT_FALSE(goes_on()) << &other_press - other_presses.data();
