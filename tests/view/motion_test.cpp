@@ -164,6 +164,11 @@ TEST_F(MotionTest, EndsWithAnyPressKeyOrNewSize) {
         EXPECT_FALSE(stage.next_step());
     }
     drop(column_of_jack, column_of_queen);
+    stage.press_item(frmcards.Image1(stock_image), 1, [] { return false; });
+    EXPECT_FALSE(moves()) << "pressed by a screen reader";
+    undo();
+    undo();
+    drop(column_of_jack, column_of_queen);
     frmcards.mnuSetings.choose();
     expect_shown();
     stage.end_motion();
