@@ -30,9 +30,10 @@ std::vector<std::vector<const Image*>> won_piles() {
 }
 
 // A game that has gone on after an error may be in no order. Whatever comes of that, the dialog opens.
-void celebrate() {
+void tell_board(bool won) {
+    using Piles = std::vector<std::vector<const Image*>>;
     try {
-        if (FormView* view = frmcards.view()) view->won(frmyouwin, won_piles());
+        if (FormView* view = frmcards.view()) view->game_over(frmyouwin, won ? won_piles() : Piles());
     } catch (const std::exception&) {
         return;
     }
@@ -47,7 +48,7 @@ void count_and_ask_for_name(bool slide_cut_short) {
     if (slide_cut_short) land_slide();
     high_score_place = place;
     frmcards.set_enabled(false);
-    if (won) celebrate();
+    tell_board(won);
     frmyouwin.show();
 }
 

@@ -35,9 +35,10 @@ class FormView {
     virtual void image_passes(const Image& /*image*/, const Image& /*other*/) {}
     /// All that the event lays out is seen to come from the place of this image.
     virtual void dealt(const Image& /*from*/) {}
-    /// The game on this board is won, as these piles show, each from its top card down. The board may
-    /// celebrate that before the eye sees the window that is shown next.
-    virtual void won(Form& /*next*/, const std::vector<std::vector<const Image*>>& /*piles*/) {}
+    /// The game on this board is over, and a window is shown next, which what the player writes is for. Where
+    /// the game is won, these piles show it, each from its top card down: the board may celebrate that before
+    /// the eye sees the window.
+    virtual void game_over(Form& /*next*/, const std::vector<std::vector<const Image*>>& /*won_piles*/) {}
 };
 
 /// What a window is to whatever belongs to it: its widgets, menus and timers, and its mouse. Every window is

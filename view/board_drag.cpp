@@ -10,10 +10,12 @@
 namespace tarnwick {
 namespace {
 
-// Faint: the mark must not keep the eye from the cards.
-constexpr Color mark_color = color_of(250, 200, 60);
-constexpr int mark_line_opacity = 200;
-constexpr int mark_fill_opacity = 50;
+// A band in the white edge of a card, and hardly anything on its drawing: the mark must not keep the eye from
+// the cards.
+constexpr Color mark_color = color_of(250, 190, 40);
+constexpr int mark_line_opacity = 240;
+constexpr int mark_fill_opacity = 24;
+constexpr double mark_line = 2.25 / 71;  ///< of the width of a card
 
 // How far the shadow of lifted cards reaches beyond them, in pixels on every side.
 constexpr int shadow_reach = 12;
@@ -25,7 +27,7 @@ Box marked_place(const Widget& receiver) {
 }
 
 PaintedMark faint_mark(const Box& place, double radius, double ratio) {
-    const double line = std::max(2.0, std::floor(2 * ratio));
+    const double line = std::max(std::floor(2 * ratio), std::round(place.width * mark_line));
     return {place.grown(-line / 2), mark_color, line, radius, mark_line_opacity, mark_fill_opacity};
 }
 

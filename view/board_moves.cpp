@@ -1,6 +1,7 @@
 #include "view/board_moves.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "platform/desktop.h"
@@ -12,6 +13,9 @@ namespace {
 
 // Milliseconds from one picture to the next.
 constexpr int frame_time = 16;
+
+// Pixels between the two presses of a double click, with whatever is pressed.
+constexpr double double_click_reach = 24;
 
 }  // namespace
 
@@ -81,7 +85,7 @@ void BoardMoves::rest() {
     scene_.motion().rest();
 }
 
-void BoardMoves::celebrate(Form& next, const std::vector<std::vector<const Image*>>& piles, PixelSize size) {
+void BoardMoves::celebrate(const std::vector<std::vector<const Image*>>& piles, PixelSize size) {
     if (form_.state() == WindowState::minimized || !front_.allows_motion() || !form_.on_motion ||
         !form_.on_motion())
         return;
@@ -92,8 +96,19 @@ void BoardMoves::celebrate(Form& next, const std::vector<std::vector<const Image
     }
     scene_.celebration().begin(std::move(shown), size, desktop().now());
     repaint_celebration();
-    held_back_ = &next;
-    front_.hold_back(next);
+    front_.hold_back(*next_);
+}
+
+bool BoardMoves::is_second_press(Point place, MouseButton button) {
+    const std::int64_t now = desktop().now();
+    const std::optional<Press> first = last_press_;
+    last_press_.reset();
+    if (!scene_.celebration().under_way()) {
+        last_press_ = {place, button, now};
+        return false;
+    }
+    return first && first->button == button && now - first->time <= desktop().double_click_time() &&
+           std::hypot(place.x - first->place.x, place.y - first->place.y) <= double_click_reach;
 }
 
 void BoardMoves::repaint_celebration() {
@@ -111,7 +126,8 @@ void BoardMoves::end_celebration() {
 }
 
 void BoardMoves::type(const std::string& text) {
-    if (held_back_ && !form_.enabled()) type_into(*held_back_, text);
+    // A key that has not ended it is only held.
+    if (next_ && !form_.enabled() && !scene_.celebration().under_way()) type_into(*next_, text);
 }
 
 bool BoardMoves::under_way() const {

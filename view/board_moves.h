@@ -32,12 +32,17 @@ class BoardMoves {
     void land_motion();
     /// The same when all is painted anew.
     void rest();
+    /// The program shows this window next; see FormView::game_over.
+    void game_over(Form& next) { next_ = &next; }
     /// Celebrates in a window of this size, unless nothing is to be seen to move, and holds back the window
-    /// that the program shows next; see FormView::won.
-    void celebrate(Form& next, const std::vector<std::vector<const Image*>>& piles, PixelSize size);
+    /// that is shown next.
+    void celebrate(const std::vector<std::vector<const Image*>>& piles, PixelSize size);
+    /// To be asked at each press: whether it is the second half of a double click whose first half has won
+    /// the game, and which is still to be celebrated.
+    bool is_second_press(Point place, MouseButton button);
     /// Ends what there is of it, and shows the window that was held back.
     void end_celebration();
-    /// What was written while a window was held back, or just after, is for the text box of that.
+    /// What was written before the window that is shown next has the keyboard is for the text box of that.
     void type(const std::string& text);
     /// The labels may lie elsewhere now.
     void plate_moved() { plate_ = scene_.plate(); }
@@ -50,6 +55,12 @@ class BoardMoves {
     void step(std::int64_t now);
 
   private:
+    struct Press {
+        Point place;
+        MouseButton button;
+        std::int64_t time;
+    };
+
     void repaint_home(const std::vector<Image*>& images);
     void repaint_lifted();
     void repaint_motion();
@@ -67,7 +78,8 @@ class BoardMoves {
     std::vector<Area> celebration_areas_;
     Area plate_;
     bool lays_plate_ = false;  ///< as it was last told
-    Form* held_back_ = nullptr;
+    Form* next_ = nullptr;     ///< shown when a game is over
+    std::optional<Press> last_press_;
     std::optional<std::int64_t> next_frame_;
 };
 

@@ -6,6 +6,7 @@
 
 #include "platform/desktop.h"
 #include "platform/key_codes.h"
+#include "view/spoken_board.h"
 
 namespace tarnwick {
 namespace {
@@ -56,8 +57,9 @@ void BoardStage::update_labels() {
     repaints_.add_all();
 }
 
-void BoardStage::won(Form& next, const std::vector<std::vector<const Image*>>& piles) {
-    if (size_.width > 0) moves_.celebrate(next, piles, size_);
+void BoardStage::game_over(Form& next, const std::vector<std::vector<const Image*>>& piles) {
+    moves_.game_over(next);
+    if (size_.width > 0 && !piles.empty()) moves_.celebrate(piles, size_);
     update_steps();
 }
 
@@ -121,13 +123,13 @@ bool BoardStage::another_plays(Pointer by) const {
 
 void BoardStage::press(double x, double y, MouseButton button, Pointer by) {
     if (another_plays(by)) return;
-    end_celebration();
+    pointer_ = {x, y};
+    if (!moves_.is_second_press(pointer_, button)) end_celebration();
     if (form_.accepts_input()) {
         moves_.end_glide();
         end_motion();
         keys_.hide();
     }
-    pointer_ = {x, y};
     const Point at = on_board(pointer_);
     form_.mouse().press(static_cast<float>(at.x), static_cast<float>(at.y), button, by);
 }
@@ -160,7 +162,7 @@ void BoardStage::cancel(Pointer by) {
 }
 
 bool BoardStage::key_down(int key_code, bool again) {
-    end_celebration();
+    if (!again) end_celebration();
     if (key_code == escape_key && holds()) {
         cancel();
         return true;
@@ -189,6 +191,14 @@ bool BoardStage::cursor_key(int key_code, bool again) {
     keys_.update();
     if (key_code == enter_key && !again) keys_.enter();
     return true;
+}
+
+void BoardStage::press_item(const Widget& item, int clicks, const std::function<bool()>& is_busy) {
+    tarnwick::press_item(item, clicks, {is_busy, [this](Spot spot) {
+                                            moves_.end_glide();
+                                            end_motion();
+                                            reveal(static_cast<int>(std::lround(spot.y)));
+                                        }});
 }
 
 void BoardStage::update_pointer() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -31,7 +32,7 @@ class BoardStage {
     void drag_changed();
     void image_passes(const Image& image, const Image& other) { scene_.motion().image_passes(image, other); }
     void dealt(const Image& from) { scene_.motion().dealt(from); }
-    void won(Form& next, const std::vector<std::vector<const Image*>>& piles);
+    void game_over(Form& next, const std::vector<std::vector<const Image*>>& piles);
     /// The window's colour may be another one.
     void form_changed();
 
@@ -62,9 +63,11 @@ class BoardStage {
     /// go of a card, or changes between window and screen; all others go to the form. True when it was taken.
     /// @param again  whether the key is only held
     bool key_down(int key_code, bool again = false);
-    /// What a key writes, after key_down() and without any command: where a window was held back, it is for
-    /// the text box of that, so that a player who writes on loses nothing.
+    /// What a key writes, after key_down() and without any command: once the game is over it is for the text
+    /// box of the window that is shown next, so that a player who writes on loses nothing.
     void type(const std::string& text) { moves_.type(text); }
+    /// Presses an item as a screen reader does; see tarnwick::press_item().
+    void press_item(const Widget& item, int clicks, const std::function<bool()>& is_busy);
     /// The window that was held back is seen now: for what the stage is not told, as that another window has
     /// got the keyboard.
     void end_celebration();

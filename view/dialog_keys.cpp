@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "platform/form.h"
+#include "platform/key_codes.h"
 #include "view/control_presses.h"
 
 namespace tarnwick {
@@ -63,6 +64,8 @@ void press_enter(const Form& form, Widget* focused) {
         focused && has_enter_for_itself(*focused) ? focused : button_that(form, &Button::is_default);
     if (pressed) press(*pressed);
 }
+
+bool is_held_enter(int key_code, bool again) { return again && key_code == enter_key; }
 
 void type_into(Form& form, const std::string& text) {
     constexpr unsigned char space = 0x20;

@@ -34,6 +34,10 @@ void press_escape(const Form& form);
 /// if it is a button or a swatch, else the default button, if there is one.
 void press_enter(const Form& form, Widget* focused);
 
+/// Whether a key, which may only be held, does nothing in any dialog: an Enter that was pressed for what came
+/// before must not answer one that the player has hardly seen.
+bool is_held_enter(int key_code, bool again);
+
 /// Writes on in the first text box of a window that takes input, for text that was typed before the window
 /// had the keyboard. It does not begin with a space; what writes nothing is left out.
 void type_into(Form& form, const std::string& text);

@@ -91,11 +91,7 @@ void BoardItemAccessible::doAction(const QString& action) {
     BoardWidget& board = this->board();
     QMetaObject::invokeMethod(
         &board,
-        [&board, &widget = widget_, clicks] {
-            press_item(widget, clicks, {waits_for_player, [&board](Spot spot) {
-                                            board.reveal(QPointF(spot.x, spot.y));
-                                        }});
-        },
+        [&board, &widget = widget_, clicks] { board.press_item(widget, clicks, waits_for_player); },
         Qt::QueuedConnection);
 }
 

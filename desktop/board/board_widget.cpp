@@ -62,12 +62,19 @@ BoardWidget::BoardWidget(Form& form, WindowList& windows)
     scroll_bar_.hide();
     scroll_bar_.setCursor(Qt::ArrowCursor);
     scroll_bar_.setSingleStep(BoardScroll::step);
+    scroll_bar_.installEventFilter(this);
     connect(&scroll_bar_, &QScrollBar::valueChanged, this, [this](int value) { stage_.scroll_to(value); });
 }
 
 void BoardWidget::drag_changed() {
     stage_.drag_changed();
     scroll_bar_.set_out_of_the_way(stage_.holds());
+}
+
+void BoardWidget::game_over(Form& next, const std::vector<std::vector<const Image*>>& won_piles) {
+    // A menu that was opened during the last slide would keep the keyboard from the window that comes.
+    while (QWidget* popup = QApplication::activePopupWidget()) popup->close();
+    stage_.game_over(next, won_piles);
 }
 
 QRect BoardWidget::area_of(const Widget& widget) const { return to_qt(stage_.scene().area_of(widget)); }
@@ -184,6 +191,11 @@ bool BoardWidget::event(QEvent* event) {
         return scroll_bar_.isHidden() || QCoreApplication::sendEvent(&scroll_bar_, event);
     }
     return QWidget::event(event);
+}
+
+bool BoardWidget::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonPress) stage_.end_celebration();
+    return QWidget::eventFilter(watched, event);
 }
 
 void BoardWidget::show_tip(const QHelpEvent& event) {

@@ -25,14 +25,16 @@ class BoardWidget : public QWidget, private BoardFront {
     void drag_changed();
     void image_passes(const Image& image, const Image& other) { stage_.image_passes(image, other); }
     void dealt(const Image& from) { stage_.dealt(from); }
-    void won(Form& next, const std::vector<std::vector<const Image*>>& piles) { stage_.won(next, piles); }
+    void game_over(Form& next, const std::vector<std::vector<const Image*>>& won_piles);
     void form_changed() { stage_.form_changed(); }
 
     void end_celebration() { stage_.end_celebration(); }
 
     Form& form() const { return form_; }
-    /// Scrolls the board as far as it takes to see this spot of it, in its pixels.
-    void reveal(QPointF spot) { stage_.reveal(qRound(spot.y())); }
+    /// Does what a screen reader's press on an item does, unless the toolkit waits for the player.
+    void press_item(const Widget& item, int clicks, const std::function<bool()>& waits_for_player) {
+        stage_.press_item(item, clicks, waits_for_player);
+    }
     /// How far the board is scrolled down, in pixels.
     int scroll_offset() const { return stage_.scroll().offset(); }
     /// Where one of the board's widgets is seen, in pixels of the board.
@@ -45,6 +47,8 @@ class BoardWidget : public QWidget, private BoardFront {
 
   protected:
     bool event(QEvent* event) override;
+    /// Of what lies beside the board: a press there ends a celebration, too.
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;

@@ -49,6 +49,7 @@ void BoardWindow::make_menus() {
         }
     }
     new QShortcut(QKeySequence::Copy, this, [this] { form_.copy(); });
+    menuBar()->installEventFilter(&board_);
     menuBar()->setFixedHeight(whole_device_height(menuBar()->sizeHint().height(), devicePixelRatioF()));
     sync_menus();
 }
@@ -112,8 +113,8 @@ void BoardView::dealt(const Image& from) {
     if (board_window_) board_window_->board().dealt(from);
 }
 
-void BoardView::won(Form& next, const std::vector<std::vector<const Image*>>& piles) {
-    if (board_window_) board_window_->board().won(next, piles);
+void BoardView::game_over(Form& next, const std::vector<std::vector<const Image*>>& piles) {
+    if (board_window_) board_window_->board().game_over(next, piles);
 }
 
 QWidget* BoardView::make_window() {

@@ -50,7 +50,7 @@ class BoardView : public WindowView {
     void drag_changed() override;
     void image_passes(const Image& image, const Image& other) override;
     void dealt(const Image& from) override;
-    void won(Form& next, const std::vector<std::vector<const Image*>>& piles) override;
+    void game_over(Form& next, const std::vector<std::vector<const Image*>>& piles) override;
 
   protected:
     QWidget* make_window() override;

@@ -39,6 +39,7 @@ DialogWindow::DialogWindow(Form& form, QWidget* parent)
     setAttribute(Qt::WA_X11NetWmWindowTypeUtility, form.border() == FormBorder::tool_dialog);
     setObjectName(to_qt(form.name()));
     make_controls();
+    installEventFilter(this);
     const QSize room = screen()->availableSize();
     scale_ = fitting_scale(form, {room.width(), room.height()}, measure_);
     sync();
@@ -51,6 +52,7 @@ void DialogWindow::make_controls() {
     for (Widget* widget : making_order(form_)) {
         QWidget* parent = widget->container() ? native_of(*widget->container()) : this;
         controls_[widget] = make_control(*widget, parent);
+        native_of(*widget)->installEventFilter(this);
     }
     for (const auto& [widget, control] : controls_) {
         const Label* label = naming_label(*widget);
@@ -125,6 +127,12 @@ bool DialogWindow::sync_control(const Widget& widget) {
 }
 
 void DialogWindow::reject() { press_escape(form_); }
+
+bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(watched, event);
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    return is_held_enter(key_code_of(key.key()), key.isAutoRepeat());
+}
 
 void DialogWindow::keyPressEvent(QKeyEvent* event) {
     if (key_code_of(event->key()) == enter_key && !(event->modifiers() & ~Qt::KeypadModifier)) {

@@ -1,5 +1,6 @@
 #include "desktop/shared/window_list.h"
 
+#include <QApplication>
 #include <algorithm>
 #include <utility>
 
@@ -19,10 +20,15 @@ void WindowList::show_held_back() {
     const Form* form = std::exchange(held_back_, nullptr);
     if (!form) return;
     std::exchange(shown_, {})();
+    // What the player writes in another program is not for a window of this one.
+    const bool is_elsewhere = !QApplication::activeWindow();
     for (const OpenWindow* window : windows_) {
-        if (&window->form == form && window->native) window->native->show();
+        if (&window->form != form || !window->native) continue;
+        window->native->setAttribute(Qt::WA_ShowWithoutActivating, is_elsewhere);
+        window->native->show();
     }
-    if (QWidget* front = front_window()) front->activateWindow();
+    QWidget* front = front_window();
+    if (front && !is_elsewhere) front->activateWindow();
 }
 
 QWidget* WindowList::main_window() const {

@@ -33,6 +33,7 @@ class WindowList {
     /// @param shown  called when that is called, by whomever
     void hold_back(const Form& form, std::function<void()> shown);
     bool holds_back(const Form& form) const { return held_back_ == &form; }
+    /// Shows it with the keyboard, or without where the player is in another program.
     void show_held_back();
 
     /// Lets the dialogs of a window that is about to go stay on the screen without it.

@@ -9,15 +9,12 @@
 #include "desktop/shared/qt_texts.h"
 #include "state/variables.h"
 #include "tests/desktop/inner_game.h"
+#include "tests/play/known_deal.h"
 #include "view/board_scene.h"
 #include "windows/frmcards.h"
 
 namespace tarnwick {
 namespace {
-
-// The columns of this deal end in Q♦ 10♥ K♦ 6♠ A♣ 2♥ J♦ 9♣ 6♦ Q♣.
-constexpr std::uint32_t deal = 26;
-constexpr int column_of_ace = 4;
 
 class BoardAccessibility : public testing::Test {
   protected:
@@ -53,7 +50,7 @@ class BoardAccessibility : public testing::Test {
     QWidget& widget() const { return *widget_; }
 
   private:
-    InnerGame game_{deal};
+    InnerGame game_{known_deal};
     QWidget* widget_ = shown_widget("board");
 };
 

@@ -6,6 +6,7 @@
 #include "desktop/shared/outline_pictures.h"
 #include "desktop/shared/picture_cache.h"
 #include "state/variables.h"
+#include "tests/play/known_deal.h"
 #include "tools/driver/board_picture.h"
 #include "tools/driver/eventually.h"
 #include "view/help_page.h"
@@ -17,9 +18,8 @@ namespace {
 
 constexpr const char* program = TARNWICK_PROGRAM;
 
-// The columns of this deal end in Q♦ 10♥ K♦ 6♠ A♣ 2♥ J♦ 9♣ 6♦ Q♣. The ace of Spades, which glints at times of
-// its own, is never played.
-constexpr std::uint32_t deal = 26;
+// The ace of Spades, which glints at times of its own, is never played in this deal.
+constexpr std::uint32_t deal = known_deal;
 
 Image& back(int c, int k) { return frmcards.Image1(face_down_image(c, k)); }
 

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <QCheckBox>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -8,6 +10,7 @@
 #include <algorithm>
 
 #include "desktop/shared/high_contrast.h"
+#include "state/variables.h"
 #include "tests/desktop/inner_game.h"
 #include "windows/frmBestScore.h"
 #include "windows/frmError.h"
@@ -70,6 +73,29 @@ TEST(DialogWindow, DrawsWholeLinesInHighContrast) {
         EXPECT_EQ(color_at(edge), Qt::black) << edge;
     EXPECT_EQ(color_at(2), Qt::white);
     QApplication::setPalette(usual);
+}
+
+TEST(DialogWindow, IsNotAnsweredByAHeldEnter) {
+    InnerGame game(26);
+    const auto press_enter_in = [](const Form& form, bool again) {
+        QKeyEvent event(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", again);
+        QCoreApplication::sendEvent(shown_widget(form.name())->focusWidget(), &event);
+    };
+    high_score_place = 1;
+    for (Form* const form : {static_cast<Form*>(&frmyouwin), static_cast<Form*>(&frmBestScore)}) {
+        form->show();
+        press_enter_in(*form, true);
+        EXPECT_TRUE(form->loaded());
+        press_enter_in(*form, false);
+        EXPECT_FALSE(form->loaded());
+    }
+    frmFeatures.show();
+    auto& box = *shown_widget("frmFeatures")->findChild<QCheckBox*>();
+    for (const bool again : {true, false}) {
+        box.setFocus();
+        press_enter_in(frmFeatures, again);
+        EXPECT_EQ(frmFeatures.loaded(), again);
+    }
 }
 
 TEST(DialogWindow, ToldOfAnErrorIsAToolWindowThatOutlivesTheMainWindow) {

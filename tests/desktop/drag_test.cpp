@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "state/variables.h"
+#include "tests/play/known_deal.h"
 #include "tests/play/play.h"
 #include "tools/driver/board_picture.h"
 #include "tools/driver/eventually.h"
@@ -11,18 +12,11 @@ namespace {
 
 constexpr const char* program = TARNWICK_PROGRAM;
 
-// The columns of this deal end in Q♦ 10♥ K♦ 6♠ A♣ 2♥ J♦ 9♣ 6♦ Q♣.
-constexpr std::uint32_t deal = 26;
-constexpr int column_of_king = 2;
-constexpr int column_of_ace = 4;
-constexpr int column_of_jack = 6;
-constexpr int column_of_queen = 9;
-
 // The table under the shortest column; a drop there is one on that column.
 constexpr Spot below_first_column{60, 820};
 
 TEST(Drag, LiftedCardsFollowThePointerToAColumn) {
-    TwinGame game({program, deal});
+    TwinGame game({program, known_deal});
     game.drag(column_of_jack, column_of_queen);
     EXPECT_EQ(board_faults(game), "");
     const Image& queen = frmcards.Image1(layout(column_of_queen, column_of_queen, column_picture_field));
@@ -37,7 +31,7 @@ TEST(Drag, LiftedCardsFollowThePointerToAColumn) {
 }
 
 TEST(Drag, EscapeEndsADrag) {
-    TwinGame game({program, deal});
+    TwinGame game({program, known_deal});
     game.press(TwinGame::spot_on(top_image(column_of_jack)));
     game.move(below_first_column);
     ASSERT_EQ(board_faults(game), "");
@@ -51,7 +45,7 @@ TEST(Drag, EscapeEndsADrag) {
 }
 
 TEST(Drag, TheReceiverIsMarkedWhileThePointerIsOverIt) {
-    TwinGame game({program, deal});
+    TwinGame game({program, known_deal});
     game.press(TwinGame::spot_on(top_image(column_of_jack)));
     game.move(below_first_column);
     const QImage unmarked = expected_board();
@@ -77,7 +71,7 @@ TEST(Drag, TheReceiverIsMarkedWhileThePointerIsOverIt) {
 }
 
 TEST(Drag, ARefusedCardIsSeenToGlideBack) {
-    TwinGame game({program, deal});
+    TwinGame game({program, known_deal});
     const QImage home = expected_board();
     bool seen_between = false;
     // A busy machine may miss the tenth of a second that it takes.

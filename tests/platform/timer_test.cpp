@@ -63,6 +63,20 @@ TEST_F(TimerTest, TicksOnceAfterASleepAndNeverWithinAnEvent) {
     EXPECT_EQ(ticks, (Times{1050, 1550}));
 }
 
+TEST_F(TimerTest, TellsWhenItTicksNextUnlessAQuestionIsOpen) {
+    desktop.sleep(99);
+    EXPECT_EQ(time_to_next_tick(), 1);
+    desktop.event([this] {
+        desktop.sleep(5000);
+        EXPECT_EQ(time_to_next_tick(), 0) << "late";
+        desktop.leave_questions_open();
+        desktop.notify({});
+        EXPECT_FALSE(time_to_next_tick());
+    });
+    desktop.answer(MessageAnswer::ok);
+    EXPECT_EQ(time_to_next_tick(), 0);
+}
+
 TEST(Event, IsFollowedByWhatWasLeftForLaterAndFailsWithAMessage) {
     HeadlessDesktop desktop;
     std::string order;

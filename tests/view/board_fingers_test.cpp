@@ -2,25 +2,15 @@
 
 #include "view/board_fingers.h"
 
-#include <gtest/gtest.h>
-
-#include "board/display.h"
 #include "board/peek.h"
 #include "notation/position.h"
 #include "state/variables.h"
-#include "tests/view/grid_window.h"
+#include "tests/view/shown_board.h"
 
 namespace tarnwick {
 namespace {
 
-// The columns of this deal end in Q♦ 10♥ K♦ 6♠ A♣ 2♥ J♦ 9♣ 6♦ Q♣.
-constexpr std::uint32_t deal = 26;
-constexpr int column_of_ace = 4;
-constexpr int column_of_jack = 6;
-constexpr int column_of_queen = 9;
-constexpr Point bare_table{60, 500};
-
-class FingersOnABoard : public testing::Test {
+class FingersOnABoard : public ShownBoard {
   protected:
     static Point on(const Image& image, double x = 30, double y = 40) {
         return {image.left() + x, image.top() + y};
@@ -30,11 +20,9 @@ class FingersOnABoard : public testing::Test {
         fingers.down(finger, place);
         fingers.move(finger, beside(place, 5, -6));
         fingers.up(finger, beside(place, -4), false);
-        EXPECT_TRUE(game.view().shows_all());
+        expect_shown();
     }
 
-    GridGame game{deal};
-    BoardStage& stage = game.stage();
     BoardFingers fingers{stage};
     const Image& jack = top_image(column_of_jack);
     const Image& queen = top_image(column_of_queen);

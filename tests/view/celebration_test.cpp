@@ -26,14 +26,20 @@ class CelebrationTest : public testing::Test {
         EXPECT_TRUE(game.view().shows_all());
         stage.end_motion();
         const Image& last_king = top_image(2);
-        frmcards.mouse().press(last_king.left() + 30, last_king.top() + 30, MouseButton::left);
-        frmcards.mouse().release(last_king.left() + 30, last_king.top() + 30, MouseButton::left);
+        king = {last_king.left() + 30, last_king.top() + 30};
+        stage.press(king.x, king.y, MouseButton::left);
+        stage.release(king.x, king.y, MouseButton::left, false);
         for (int ms = 0; ms < 1000 && !frmyouwin.visible(); ++ms) game.desktop.advance(1);
         ASSERT_TRUE(frmyouwin.visible());
         EXPECT_EQ(read_setting(key_games_won, 0), "1") << "counted first";
         EXPECT_TRUE(game.view().shows_all());
     }
     bool goes_on() { return !game.layers().celebration.empty() || game.view().held_back; }
+    void type_on() {
+        stage.key_down('A');
+        stage.type("a");
+        EXPECT_EQ(frmyouwin.txtYourName.text(), "a") << "should the dialog not have the keyboard yet";
+    }
     void dismiss() {
         frmyouwin.unload();
         frmBestScore.unload();
@@ -42,6 +48,7 @@ class CelebrationTest : public testing::Test {
 
     GridGame game{26};
     BoardStage& stage = game.stage();
+    Point king;
 };
 
 TEST_F(CelebrationTest, IsOverWithinTwoSecondsAndLeavesTheTableAsItIs) {
@@ -66,9 +73,7 @@ TEST_F(CelebrationTest, IsOverWithinTwoSecondsAndLeavesTheTableAsItIs) {
     EXPECT_FALSE(goes_on() || stage.next_step());
     EXPECT_TRUE(frmyouwin.visible());
     EXPECT_EQ(game.layers().images.size(), table.size());
-    stage.key_down('A');
-    stage.type("a");
-    EXPECT_EQ(frmyouwin.txtYourName.text(), "a") << "should the dialog not have the keyboard yet";
+    type_on();
 }
 
 TEST_F(CelebrationTest, EndsWithWhateverHappens) {
@@ -100,6 +105,30 @@ TEST_F(CelebrationTest, EndsWithWhateverHappens) {
     EXPECT_TRUE(frmcards.enabled());
 }
 
+TEST_F(CelebrationTest, OutlivesAHeldKeyAndTheSecondHalfOfADoubleClick) {
+    const auto press = [&](double aside, MouseButton button) { stage.press(king.x + aside, king.y, button); };
+    const std::vector<std::function<void()>> other_presses{
+        [&] { press(0, MouseButton::left), press(0, MouseButton::left); },
+        [&] { press(0, MouseButton::other); },
+        [&] { press(90, MouseButton::left); },
+        [&] { game.desktop.advance(game.desktop.double_click_time()), press(0, MouseButton::left); }};
+    for (const auto& other_press : other_presses) {
+        win();
+        stage.key_down(enter_key, true);
+        stage.key_down('A', true);
+        stage.type("A");
+        EXPECT_TRUE(goes_on());
+        other_press();
+        EXPECT_FALSE(goes_on()) << &other_press - other_presses.data();
+        EXPECT_EQ(frmyouwin.txtYourName.text(), "");
+        dismiss();
+    }
+    win();
+    press(2, MouseButton::left);
+    stage.release(king.x, king.y, MouseButton::left, false);
+    EXPECT_TRUE(goes_on());
+}
+
 TEST_F(CelebrationTest, IsNotSeenWhereNothingIsToMoveOrNothingIsWon) {
     const std::vector<std::function<void()>> reasons{
         [] { save_setting(key_anamate, "False"); },
@@ -109,6 +138,7 @@ TEST_F(CelebrationTest, IsNotSeenWhereNothingIsToMoveOrNothingIsWon) {
         reason();
         win();
         EXPECT_FALSE(goes_on() || stage.next_step()) << &reason - reasons.data();
+        type_on();
         dismiss();
     }
     frmcards.user_changed_state(WindowState::normal);
@@ -116,6 +146,7 @@ TEST_F(CelebrationTest, IsNotSeenWhereNothingIsToMoveOrNothingIsWon) {
     frmcards.mnuNew.choose();
     EXPECT_TRUE(frmyouwin.visible() && frmyouwin.lblNewHighScore.visible());
     EXPECT_FALSE(goes_on());
+    type_on();
 }
 
 }  // namespace

@@ -129,8 +129,8 @@ class GridView : public FormView, public BoardFront {
     void dealt(const Image& from) override {
         if (stage_) stage_->dealt(from);
     }
-    void won(Form& next, const std::vector<std::vector<const Image*>>& piles) override {
-        if (stage_) stage_->won(next, piles);
+    void game_over(Form& next, const std::vector<std::vector<const Image*>>& piles) override {
+        if (stage_) stage_->game_over(next, piles);
     }
     void menu_changed() override {}
     void raise() override {}

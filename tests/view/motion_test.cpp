@@ -1,43 +1,31 @@
 // What is seen of cards on their way, with a clock that moves only when told to.
 
-#include <gtest/gtest.h>
-
 #include <functional>
 
-#include "board/display.h"
 #include "settings/settings.h"
 #include "state/variables.h"
-#include "tests/play/known_deal.h"
-#include "tests/view/grid_window.h"
+#include "tests/view/shown_board.h"
 
 namespace tarnwick {
 namespace {
 
-class MotionTest : public testing::Test {
+class MotionTest : public ShownBoard {
   protected:
     void pass(int milliseconds) {
-        for (int i = 0; i < milliseconds; ++i) {
-            game.desktop.advance(1);
-            EXPECT_TRUE(game.view().shows_all());
-        }
+        for (int i = 0; i < milliseconds; ++i) ShownBoard::pass(1);
     }
     /// Drops the card in front of a column on another, so many pixels to the left of it.
     void drop(int from, int to, float aside = 20) {
-        const Image& card = top_image(from);
         const Image& target = top_image(to);
-        stage.press(card.left() + 30, card.place().bottom() - 8, MouseButton::left);
-        const float y = target.place().bottom() - 30;
-        stage.move(target.left() + 30 - aside, y, true);
-        stage.release(target.left() + 30 - aside, y, MouseButton::left, false);
-        EXPECT_TRUE(game.view().shows_all());
+        ShownBoard::drop(from, {target.left() + 30 - aside, target.place().bottom() - 30});
     }
     void turn() {
         stage.key_down(' ');
-        EXPECT_TRUE(game.view().shows_all());
+        expect_shown();
     }
     void undo() {
         frmcards.mnuUndo.choose();
-        EXPECT_TRUE(game.view().shows_all());
+        expect_shown();
     }
     /// Where an image is seen, and whether it is in front of all others; by its picture.
     const PaintedImage* seen(const Image& image) {
@@ -51,8 +39,6 @@ class MotionTest : public testing::Test {
     bool in_front(const Image& image) { return &game.layers().images.back() == seen(image); }
     bool moves() { return motion.under_way(); }
 
-    GridGame game{known_deal};
-    BoardStage& stage = game.stage();
     const Motion& motion = game.stage().scene().motion();
 };
 
@@ -121,12 +107,12 @@ TEST_F(MotionTest, ADealComesFromTheStockAndARestartFromWhereTheCardsLay) {
     pass(160);
     const int played = left(jack);
     frmcards.mnuRestart.choose();
-    EXPECT_TRUE(game.view().shows_all());
+    expect_shown();
     EXPECT_EQ(left(jack), played);
     pass(160);
     EXPECT_FALSE(moves());
     frmcards.mnuNew.choose();
-    EXPECT_TRUE(game.view().shows_all());
+    expect_shown();
     const Area stock = game.stage().scene().area_of(frmcards.Image1(stock_image));
     const auto lies_elsewhere = [&](const PaintedImage& image) { return !image.place.meets(stock); };
     const std::vector<PaintedImage>& images = game.layers().images;
@@ -144,8 +130,7 @@ TEST_F(MotionTest, ADealComesFromTheStockAndARestartFromWhereTheCardsLay) {
 
 TEST_F(MotionTest, ASlideIsFilledInBetweenItsSteps) {
     const Image& card = top_image(column_of_ace);
-    stage.press(card.left() + 30, card.place().bottom() - 8, MouseButton::left);
-    stage.release(card.left() + 30, card.place().bottom() - 8, MouseButton::left, false);
+    click(on(card));
     std::vector<int> tops{static_cast<int>(card.top())};
     int jumps = 0;
     for (int ms = 0; ms < 600 && (ms < 31 || moves()); ++ms) {
@@ -173,17 +158,22 @@ TEST_F(MotionTest, EndsWithAnyPressKeyOrNewSize) {
         ASSERT_TRUE(moves());
         end();
         EXPECT_FALSE(moves()) << &end - ends.data();
-        EXPECT_TRUE(game.view().shows_all());
+        expect_shown();
         undo();
         stage.end_motion();
         EXPECT_FALSE(stage.next_step());
     }
     drop(column_of_jack, column_of_queen);
+    stage.press_item(frmcards.Image1(stock_image), 1, [] { return false; });
+    EXPECT_FALSE(moves()) << "pressed by a screen reader";
+    undo();
+    undo();
+    drop(column_of_jack, column_of_queen);
     frmcards.mnuSetings.choose();
-    EXPECT_TRUE(game.view().shows_all());
+    expect_shown();
     stage.end_motion();
     frmcards.user_resized({1000, 700});
-    EXPECT_TRUE(game.view().shows_all());
+    expect_shown();
     EXPECT_FALSE(moves()) << "behind a dialog";
 }
 
@@ -192,21 +182,20 @@ TEST_F(MotionTest, APressInTheSameMomentComesBeforeAnythingSetsOut) {
     frmcards.mnuRestart.choose();
     frmcards.mnuNew.choose();
     stage.press(queen.left() + 30, queen.top() + 40, MouseButton::left);
-    EXPECT_TRUE(game.view().shows_all());
+    expect_shown();
     EXPECT_FALSE(moves());
 }
 
 TEST_F(MotionTest, ACardIsHeldWhereverItWasSlidingTo) {
     const Image& card = top_image(column_of_ace);
-    stage.press(card.left() + 30, card.place().bottom() - 8, MouseButton::left);
-    stage.release(card.left() + 30, card.place().bottom() - 8, MouseButton::left, false);
+    click(on(card));
     pass(45);
     ASSERT_TRUE(moves());
     stage.press(card.left() + 30, card.top() + 40, MouseButton::left);
     pass(40);
     EXPECT_FALSE(moves()) << "the hand moves it";
     stage.cancel();
-    EXPECT_TRUE(game.view().shows_all());
+    expect_shown();
 }
 
 TEST_F(MotionTest, NothingMovesWhereThatIsNotWanted) {
@@ -216,7 +205,7 @@ TEST_F(MotionTest, NothingMovesWhereThatIsNotWanted) {
         undo();
         turn();
         frmcards.mnuRestart.choose();
-        EXPECT_TRUE(game.view().shows_all());
+        expect_shown();
         EXPECT_FALSE(moves() || stage.next_step());
     };
     for (const char* text : {"False", "perhaps"}) {
@@ -224,8 +213,10 @@ TEST_F(MotionTest, NothingMovesWhereThatIsNotWanted) {
         check();
     }
     save_setting(key_anamate, "True");
-    game.view().motion_allowed = false;
+    view.motion_allowed = false;
     check();
+    ShownBoard::drop(column_of_jack, bare_table);
+    EXPECT_FALSE(stage.next_step()) << "nor does a refused card glide";
 }
 
 }  // namespace
