@@ -6,6 +6,7 @@
 #include "view/card_shadow.h"
 #include "view/contrast.h"
 #include "view/picture_place.h"
+#include "windows/pictures.h"
 
 namespace tarnwick {
 namespace {
@@ -15,7 +16,7 @@ namespace {
 constexpr Color mark_color = color_of(250, 190, 40);
 constexpr int mark_line_opacity = 240;
 constexpr int mark_fill_opacity = 24;
-constexpr double mark_line = 2.25 / 71;  ///< of the width of a card
+constexpr double mark_line = 2.25 / card_width;  ///< of the width of a card
 
 // How far the shadow of lifted cards reaches beyond them, in pixels on every side.
 constexpr int shadow_reach = 12;

@@ -33,8 +33,7 @@ void Celebration::begin(std::vector<Pile> piles, PixelSize window, std::int64_t 
     begin_ = now;
     time_ = 0;
     middle_ = {window.width / 2.0, window.height * 0.52};
-    Box card;
-    for (const Pile& pile : piles_) card = pile.place;
+    const Box card = piles_.empty() ? Box() : piles_.back().place;
     radius_ = {std::clamp(window.width / 2.0 - card.width * 0.7, 0.0, window.width * 0.37),
                std::clamp(window.height * 0.48 - card.height * 0.6, 0.0, window.height * 0.34)};
     opening_ = {radius_.x - card.width / 2, radius_.y - card.height / 2};
